@@ -1,0 +1,256 @@
+#pragma once
+
+#include "installer/Export.h"
+#include "installer/ExtractSettings.h"
+#include "installer/InstallationSettings.h"
+#include "registry/RegistrationProfile.h"
+
+#include <QFileInfoList>
+#include <QObject>
+#include <QSettings>
+#include <QString>
+#include <QStringList>
+
+#include <atomic>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace Vorlan
+{
+
+class ArchiveExtractor;
+class SettingsManager;
+
+namespace App
+{
+class AbstractPreferredBrowser;
+class URLHandler;
+} // namespace App
+
+namespace Installer
+{
+class IAccelerationChecker;
+} // namespace Installer
+
+// State of a mediator's current or last run. A failed run returns to NotStarted.
+enum class InstallationState : int
+{
+    NotStarted = 0,
+    InProgress = 1,
+    Finished = 2
+};
+
+// Names that front ends use to wire their own objects together.
+struct INSTALLER_EXPORT ObjectsConnectorID
+{
+    static const QString REQUESTED_CLOSE;
+    static const QString REQUESTED_MINIMIZE;
+};
+
+// The engine's one public object: it proposes the settings of an installation or an uninstallation
+// and runs it. A front end constructs one, connects to its signals (queued), changes the proposed
+// settings, and calls StartInstallation or StartUninstall.
+//
+// Threads: construction, slots and getters belong to the front end's thread. A run works on a
+// thread of its own and emits its signals from there; while it is InProgress the settings must not
+// be changed. Neither may the mediator be destroyed, nor a run started, from the run's own thread.
+class INSTALLER_EXPORT InstallerMediator : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Initializer
+    {
+        const QString& installerName; // file name of the running installer
+        bool withArchive;             // an installer: look for the payload archive and open it
+        bool unattended;              // nobody watches: no default applications, and an
+                                      // uninstallation only does what the settings ask for
+        QSettings::Scope scope;       // for this user or for all users
+        bool parallelCopy;            // files may be copied in parallel
+    };
+
+    // The vendor's pages.
+    enum class URL : int
+    {
+        ThanksForYourInterest = 0,
+        UninstallPage = 1,
+        StartPage = 2,
+        BuyFromUninstaller = 3,
+        PrivacyPolicy = 4,
+        Ideas = 5
+    };
+
+    // Proposes the settings from the product and from what is on the machine. With `withArchive` a
+    // missing archive is told in a modal box and leaves a mediator that cannot install; one that
+    // cannot be read throws std::runtime_error.
+    explicit InstallerMediator(const Initializer& initializer);
+
+    // Waits for a run in progress.
+    ~InstallerMediator() override;
+
+    const InstallationSettings& GetSettings() const;
+
+    // Replaces the settings as a whole, then looks up the preferred browser again.
+    void SetSettings(const InstallationSettings& newSettings);
+
+    // May be asked from any thread.
+    InstallationState GetInstallationState() const;
+
+    // The product's name in the installation's language, as "settings.ini" gives it.
+    QString GetProductName() const;
+
+    // The name of the product's registry key.
+    QString GetApplicationName() const;
+
+    static QString GetUninstName();
+
+    // The shared "settings.ini" of the current folder.
+    std::shared_ptr<QSettings> GetProductSettings() const;
+
+    // The web user id stored on this machine: that of the user, else that of the product.
+    QString GetWebUID() const;
+    QString GetWebUIDFromProductKey() const;
+    QString GetWebUIDFromUserKey() const;
+
+    // Tells the program that unpacked this installer that it is ready, by removing the marker file
+    // "installer_extractor_tmp_marker.txt" from the current folder.
+    void NotifyExtractorOnReady();
+
+    // The address that a template, or a kind of page, stands for; empty for an unknown kind.
+    QString GetUrl(const QString& urlTemplate) const;
+    QString GetUrl(URL url) const;
+
+    // Opens that address in the user's browser; whether that works is not examined.
+    void OpenUrl(const QString& urlTemplate) const;
+    void OpenUrl(URL url) const;
+
+public slots:
+    // Runs an installation; needs a mediator that was constructed with an archive.
+    void StartInstallation();
+    void StartUninstall();
+    // Starts the installed main application; `method` is handed on with ApplicationStarted.
+    void StartMainExecutable(const QString& method = QStringLiteral("Manual"));
+    void StartPushNotificationHelper();
+    void OnLocaleChanged(QString localeCode);
+    void OnDeleteUserSettings(bool isChecked);
+
+signals:
+    // On the caller's thread: the main application was started.
+    void ApplicationStarted(const QString& method);
+    // On the caller's thread: a run begins.
+    void InstallationStarted();
+    // Position of the bar from 0.0 to 1.0, the title of a stage and the text of a step; either text
+    // may be empty.
+    void InstallationProgress(double p, QString, const QString& progressText = QString());
+    // Ends a run: it succeeded, or it failed with a translated text and the state it was in.
+    void InstallationFinished();
+    void InstallationError(QString text, int currentPage);
+    // Statistics of the capability check. Front ends that connect queued register the type under
+    // its written name, "std::map<std::string,std::map<std::string,std::string> >".
+    void TrackCoreStatistics(
+        const std::map<std::string, std::map<std::string, std::string>>& statisticInfo);
+    // A stage begins. Front ends that connect queued register "std::string" under that name.
+    void ProcessStarted(const std::string& process);
+    void WebConfigLoaderStarted();
+    void WebConfigLoaderFinished(int returnCode);
+    // Seconds that placing the files took, to one decimal.
+    void FilesExtracted(float time);
+    // A file could not be copied, reserved or moved; at most nine of these per mediator.
+    void CopyFileError(const QString& fileName, const QString& reason);
+
+private:
+    friend struct MediatorAccess; // tests reach the stages one by one
+
+    struct CopyOperationInfo
+    {
+        quint64 copiedBytes = 0;
+        quint64 copiedFiles = 0;
+        quint64 skippedFiles = 0; // folders, excluded names, absent and empty files
+    };
+
+    // A bare mediator over an existing product key: no profile, no archive, no languages.
+    InstallerMediator(const InstallationSettings& initialSettings, const QString& applicationKey);
+
+    // Construction (InstallerMediator.cpp)
+    void FillSettings(const Initializer& initializer);
+    QString PreviousFolderName() const;
+    bool IsNewerThanInstalled() const;
+    void DetermineLocale();
+    void OpenArchive();
+    QString GetLocationLogs() const;
+
+    // A run (InstallationPipeline.cpp). Extract is the whole of an installation on the worker.
+    void StartRun(void (InstallerMediator::*run)());
+    void Extract();
+    void RunInstallation();
+    void BeginStage(const char* stageId, const char* logText);
+    bool WillDownloadAdditionalData() const;
+    void StartCapabilityCheck(Installer::IAccelerationChecker& checker) const;
+    void StopRunningPrograms();
+    void PlaceFiles(const QStringList& reservedNames, double weight);
+    void StoreCapabilityResults(Installer::IAccelerationChecker& checker);
+    void DownloadAdditionalData(double start, double range);
+    void RunAfterInstallAction();
+    void Finish();
+    void Fail(const char* where, const std::string& error);
+
+    // Placing files (FilePlacement.cpp)
+    QStringList ReserveFilesForReinstall();
+    void ExtractFiles(const QStringList& reservedNames, double weight);
+    CopyOperationInfo CopyExistingFiles(const std::function<void(unsigned long long)>& progress,
+        ExtractSettings& selection, const QStringList& reservedNames);
+    CopyOperationInfo CopyOneAfterAnother(const std::function<void(unsigned long long)>& progress,
+        ExtractSettings& selection, const std::vector<std::wstring>& names);
+    CopyOperationInfo ParallelCopyExistingFiles(
+        const std::function<void(unsigned long long)>& progress, ExtractSettings& selection,
+        const std::vector<std::wstring>& names, int threadCount);
+    void HandleCopyFileError(const QString& fileName, const QString& reason);
+    void UpdateProgramData();
+
+    // Uninstallation (UninstallationPipeline.cpp)
+    void Uninstall();
+    QFileInfoList GetFilesList(unsigned long long& totalSize) const;
+    void RemoveFiles(const QFileInfoList& files, unsigned long long totalSize);
+    void RemoveLogs();
+    void CreateInstallerMessageScript() const;
+
+    // Other programs (ProcessTermination.cpp, InstalledUninstallers.cpp)
+    void TerminateApps();
+    void RemovePreviousVersion();
+    void RemoveAdditionalModules();
+
+    // Registration with the system (registry/RegistrationStep.cpp)
+    void AddRegistryInfo();
+    void RemoveRegistryInfo();
+    void SetDefaultApps();
+
+    // Shortcuts and links (Shortcuts.cpp, VendorLinks.cpp)
+    QString CreateMenuBasePath(QString root) const;
+    QString CreateMenuAppPath(QString base) const;
+    QString CreateShortcutName(const QString& name) const;
+    QStringList AppendExtraParams(const QString& parameters) const;
+    QString CreateUrlFilename() const;
+    void CreateShortcuts() const;
+    void RemoveShortcuts();
+    void CheckForPreferredBrowser();
+
+    std::shared_ptr<QSettings> productIniSettings;
+    std::shared_ptr<App::AbstractPreferredBrowser> preferredBrowser;
+    std::unique_ptr<SettingsManager> settingsManager;
+    std::unique_ptr<ArchiveExtractor> extractor;
+    std::unique_ptr<App::URLHandler> urlHandler;
+    std::thread worker;
+    InstallationSettings settings;
+    RegistrationProfile profile;
+    bool parallelCopy = false;
+    bool unattended = false;
+    bool deleteUserSettings = false;
+    int copyErrorCount = 0;
+    std::atomic<InstallationState> state{InstallationState::NotStarted};
+};
+
+} // namespace Vorlan
