@@ -4,7 +4,7 @@ if(NOT EXISTS "${LZMA_SDK_DIR}/7zArcIn.c")
         "or give another copy with -DLZMA_SDK_DIR=<folder of 7zArcIn.c>.")
 endif()
 
-set(lzma_sources 7zArcIn 7zBuf 7zCrc 7zCrcOpt 7zDec 7zFile 7zStream Bcj2 Bra Bra86 BraIA64 CpuArch
+set(lzma_sources 7zAlloc 7zArcIn 7zBuf 7zCrc 7zCrcOpt 7zDec 7zFile 7zStream Bcj2 Bra Bra86 BraIA64 CpuArch
     Delta Lzma2Dec LzmaDec Ppmd7 Ppmd7Dec)
 list(TRANSFORM lzma_sources PREPEND "${LZMA_SDK_DIR}/")
 list(TRANSFORM lzma_sources APPEND ".c")

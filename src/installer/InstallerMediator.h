@@ -183,20 +183,18 @@ private:
     void OpenArchive();
     QString GetLocationLogs() const;
 
-    // A run (InstallationPipeline.cpp). Extract is the whole of an installation on the worker.
+    // A run on the worker thread (InstallationPipeline.cpp): Extract guards RunInstallation.
     void StartRun(void (InstallerMediator::*run)());
     void Extract();
     void RunInstallation();
+    void ReportFailure();
     void BeginStage(const char* stageId, const char* logText);
     bool WillDownloadAdditionalData() const;
     void StartCapabilityCheck(Installer::IAccelerationChecker& checker) const;
     void StopRunningPrograms();
     void PlaceFiles(const QStringList& reservedNames, double weight);
-    void StoreCapabilityResults(Installer::IAccelerationChecker& checker);
+    void StoreCapabilityResults(Installer::IAccelerationChecker& checker, double position);
     void DownloadAdditionalData(double start, double range);
-    void RunAfterInstallAction();
-    void Finish();
-    void Fail(const char* where, const std::string& error);
 
     // Placing files (FilePlacement.cpp)
     QStringList ReserveFilesForReinstall();

@@ -1,0 +1,226 @@
+#include "archive/ArchiveExtractor.h"
+
+#include "archive/EntryName.h"
+#include "archive/SevenZip.h"
+#include "installer/ExtractSettings.h"
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+
+namespace Vorlan
+{
+
+namespace
+{
+
+constexpr ISzAlloc heap = {SzAlloc, SzFree};
+constexpr std::size_t inputBufferSize = 256 * 1024;
+
+void ThrowUnless(bool condition, const char* error)
+{
+    if (!condition)
+        throw std::runtime_error(error);
+}
+
+// The block of the archive that was decoded last; entries of one block follow each other.
+struct DecodedBlock
+{
+    ~DecodedBlock() { ISzAlloc_Free(&heap, data); }
+
+    UInt32 index = 0xFFFFFFFF;
+    Byte* data = nullptr;
+    std::size_t size = 0;
+};
+
+// A file to be written; closed at the latest when the object goes.
+class OutputFile
+{
+public:
+    explicit OutputFile(const std::wstring& path)
+    {
+        File_Construct(&file);
+        ThrowUnless(
+            OutFile_OpenW(&file, path.c_str()) == 0, "Cannot open destination file for write");
+    }
+    ~OutputFile() { File_Close(&file); }
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+
+    void Write(const Byte* data, std::size_t size)
+    {
+        std::size_t written = size;
+        ThrowUnless(
+            File_Write(&file, data, &written) == 0 && written == size, "Cannot write output file");
+    }
+
+    void Close() { ThrowUnless(File_Close(&file) == 0, "Cannot close output file"); }
+
+private:
+    CSzFile file;
+};
+
+bool IsFolder(const std::wstring& path)
+{
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+// Creates every folder that the name of an output file goes through.
+void CreateFolders(const std::wstring& destination, std::wstring name)
+{
+    for (auto slash = name.find(L'/'); slash != std::wstring::npos; slash = name.find(L'/', slash))
+    {
+        const std::wstring folder = destination + name.substr(0, slash);
+        ThrowUnless(IsFolder(folder) || CreateDirectoryW(folder.c_str(), nullptr),
+            "Failed to create directory");
+        name[slash] = L'\\';
+    }
+}
+
+bool IsSelected(const ExtractSettings& selection, const std::wstring& key)
+{
+    return (selection.include.empty() || selection.include.count(key) != 0) &&
+           selection.exclude.count(key) == 0;
+}
+
+} // namespace
+
+struct ArchiveExtractor::State
+{
+    State()
+    {
+        File_Construct(&stream.file);
+        SzArEx_Init(&database);
+    }
+    ~State()
+    {
+        SzArEx_Free(&database, &heap);
+        File_Close(&stream.file);
+    }
+    State(const State&) = delete;
+    State& operator=(const State&) = delete;
+
+    struct Data
+    {
+        const Byte* bytes = nullptr;
+        std::size_t size = 0;
+    };
+
+    void Open(const std::wstring& archivePath);
+    void ReadNames();
+    Data Decode(UInt32 index, DecodedBlock& block);
+
+    CFileInStream stream = {};
+    CLookToRead2 look = {};
+    CSzArEx database = {};
+    std::array<Byte, inputBufferSize> buffer;
+    std::vector<std::wstring> names;
+};
+
+void ArchiveExtractor::State::Open(const std::wstring& archivePath)
+{
+    ThrowUnless(InFile_OpenW(&stream.file, archivePath.c_str()) == 0, "Failed to open input file");
+
+    FileInStream_CreateVTable(&stream);
+    LookToRead2_CreateVTable(&look, False);
+    look.realStream = &stream.vt;
+    look.buf = buffer.data();
+    look.bufSize = buffer.size();
+    LookToRead2_INIT(&look)
+
+        CrcGenerateTable();
+    ThrowUnless(SzArEx_Open(&database, &look.vt, &heap, &heap) == SZ_OK,
+        "Failed read archive data, maybe file is corrupted");
+}
+
+void ArchiveExtractor::State::ReadNames()
+{
+    names.reserve(database.NumFiles);
+    std::vector<UInt16> units;
+    bool allNamed = true;
+    for (UInt32 index = 0; index < database.NumFiles; ++index)
+    {
+        names.emplace_back();
+        if (SzArEx_IsDir(&database, index))
+            continue;
+        units.resize(SzArEx_GetFileNameUtf16(&database, index, nullptr));
+        SzArEx_GetFileNameUtf16(&database, index, units.data());
+        names.back().assign(units.begin(), units.end() - 1);
+        allNamed = allNamed && !names.back().empty();
+    }
+    ThrowUnless(
+        allNamed && AreEntryNamesSafe(names), "Failed read archive data, maybe file is corrupted");
+}
+
+ArchiveExtractor::State::Data ArchiveExtractor::State::Decode(UInt32 index, DecodedBlock& block)
+{
+    // An entry without data belongs to no block. Asked for it, the decoder would drop the block
+    // that the entries around it share, and decode that once more.
+    if (SzArEx_GetFileSize(&database, index) == 0)
+        return {};
+
+    std::size_t offset = 0;
+    std::size_t size = 0;
+    ThrowUnless(SzArEx_Extract(&database, &look.vt, index, &block.index, &block.data, &block.size,
+                    &offset, &size, &heap, &heap) == SZ_OK,
+        "Failed to extract file data!");
+    return {block.data + offset, size};
+}
+
+ArchiveExtractor::ArchiveExtractor(const std::wstring& archivePath)
+    : state(std::make_unique<State>())
+{
+    state->Open(archivePath);
+    state->ReadNames();
+}
+
+ArchiveExtractor::~ArchiveExtractor() = default;
+
+const std::vector<std::wstring>& ArchiveExtractor::GetEntryNames() const
+{
+    return state->names;
+}
+
+std::size_t ArchiveExtractor::GetLongestNameLength() const
+{
+    std::size_t longest = 0;
+    for (const std::wstring& name : state->names)
+        longest = std::max(longest, name.size());
+    return longest;
+}
+
+uint64_t ArchiveExtractor::GetTotalUnpackedSize() const
+{
+    // An archive that holds nothing has no table of positions.
+    const CSzArEx& database = state->database;
+    return database.NumFiles == 0 ? 0 : database.UnpackPositions[database.NumFiles];
+}
+
+void ArchiveExtractor::Unpack(
+    const ExtractSettings& selection, const std::wstring& destination, Progress progress)
+{
+    DecodedBlock block;
+    uint64_t total = 0;
+    for (UInt32 index = 0; index < state->names.size(); ++index)
+    {
+        const std::wstring& name = state->names[index];
+        const std::wstring key = EntryKey(name);
+        if (name.empty() || !IsSelected(selection, key))
+            continue;
+
+        const State::Data data = state->Decode(index, block);
+        const auto renamed = selection.rename.find(key);
+        const std::wstring& outputName = renamed == selection.rename.end() ? name : renamed->second;
+        CreateFolders(destination, outputName);
+
+        OutputFile file(destination + outputName);
+        total += data.size;
+        file.Write(data.bytes, data.size);
+        file.Close();
+        if (progress)
+            progress(total, outputName);
+    }
+}
+
+} // namespace Vorlan

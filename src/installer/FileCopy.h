@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+#include <functional>
+#include <string>
+
+struct ExtractSettings;
+
+namespace Vorlan
+{
+
+// One file that the payload names and that may lie beside the installer already.
+struct CopyJob
+{
+    bool valid = false;  // false: a folder, or not selected
+    QString source;      // relative to the current folder
+    QString destination; // below the installation folder
+    std::wstring key;    // the lower-case name
+};
+
+CopyJob CreateCopyJob(
+    const ExtractSettings& selection, const std::wstring& name, const QString& folder);
+
+struct CopyFileOperationStatus
+{
+    bool skipped = true; // true unless the file is in place now
+    quint64 size = 0;    // bytes
+    QString error;       // empty on success and on a plain skip
+};
+
+// Copies a file over whatever file is at the destination. A source that does not exist is skipped;
+// a source that is the destination itself counts as copied. Throws nothing; any thread.
+CopyFileOperationStatus CopyOneFile(const QString& source, const QString& destination);
+
+// Runs CopyOneFile for job after job on the global thread pool, `threadCount` at a time. `nextJob`
+// gives the next job, or an invalid one when there is none left; `collect` gets each result and says
+// whether new copies may be started. Both are called on the caller's thread only.
+void RunCopies(int threadCount, const std::function<CopyJob()>& nextJob,
+    const std::function<bool(const CopyJob&, const CopyFileOperationStatus&)>& collect);
+
+} // namespace Vorlan

@@ -1,0 +1,251 @@
+#include "installer/InstallerMediator.h"
+
+#include "archive/ArchiveExtractor.h"
+#include "installer/FileCopy.h"
+#include "installer/ProgressThrottle.h"
+#include "installer/Shortcuts.h"
+#include "platform/Path.h"
+#include "platform/System.h"
+#include "registry/SettingsManager.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QThread>
+#include <QThreadPool>
+
+#include <algorithm>
+#include <chrono>
+#include <set>
+#include <stdexcept>
+
+namespace Vorlan
+{
+
+namespace
+{
+
+using ProgressFunction = std::function<void(unsigned long long)>;
+
+// The host receives fewer than this many copy errors; further ones only reach the log.
+constexpr int copyErrorLimit = 10;
+
+// Libraries of the version on the machine that survive a reinstallation.
+QStringList ReservedLibraries()
+{
+    return {"opengl32.dll", "libgallium_wgl.dll"};
+}
+
+// Creates every folder that the selected names need below the installation folder.
+void CreateDirectoryTree(const std::vector<std::wstring>& names, const ExtractSettings& selection,
+    const QString& installDir)
+{
+    std::set<QString> created;
+    for (const std::wstring& name : names)
+    {
+        const CopyJob job = CreateCopyJob(selection, name, installDir);
+        const QString folder = job.destination.left(job.destination.lastIndexOf('/'));
+        if (!job.valid || !created.insert(folder).second)
+            continue;
+        if (!QDir(folder).exists() && !QDir().mkpath(folder))
+            throw std::runtime_error("Couldn't create directory " + folder.toStdString());
+    }
+    qInfo() << "Directory tree've been created";
+}
+
+} // namespace
+
+QStringList InstallerMediator::ReserveFilesForReinstall()
+{
+    QStringList reserved;
+    const QString previousFolder = settingsManager->GetInstallLocation();
+    if (previousFolder.isEmpty())
+        return reserved;
+
+    bool isArchitectureChecked = false;
+    for (const QString& name : ReservedLibraries())
+    {
+        const QString source = previousFolder + name;
+        if (!QFile::exists(source))
+            continue;
+        if (!isArchitectureChecked &&
+            settingsManager->GetArchitectBits() != SettingsManager::GetAppBits())
+        {
+            qInfo() << "OpenGL libraries of previous installation are incompatible with current "
+                       "because of different bit capacity";
+            return QStringList();
+        }
+        isArchitectureChecked = true;
+
+        const QString destination =
+            QCoreApplication::applicationDirPath() + QDir::separator() + name;
+        if (CopyOneFile(source, destination).skipped)
+        {
+            HandleCopyFileError(
+                name, tr("Failed to copy %1. Wrong path or no permission").arg(name));
+            continue;
+        }
+        qInfo() << "OpenGL library" << name
+                << "of previous installation has been successfully reserved";
+        reserved += name;
+    }
+    return reserved;
+}
+
+void InstallerMediator::ExtractFiles(const QStringList& reservedNames, double weight)
+{
+    ExtractSettings selection;
+    selection.rename[L"installergui.exe"] = L"uninst.exe";
+    ProgressThrottle throttle;
+    if (!QDir(settings.installDir).exists() && !QDir().mkpath(settings.installDir))
+        qInfo() << "Error: failed to create dir!";
+
+    const uint64_t total = extractor->GetTotalUnpackedSize();
+    qInfo() << "Start copying files:" << total << " bytes";
+    const ProgressFunction progress = [&](unsigned long long bytes)
+    {
+        if (total != 0 && throttle.IsDue())
+            emit InstallationProgress(
+                static_cast<double>(bytes) / static_cast<double>(total) * weight, QString());
+    };
+
+    const auto start = std::chrono::steady_clock::now();
+    const CopyOperationInfo copied = CopyExistingFiles(progress, selection, reservedNames);
+    const auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(
+        std::chrono::steady_clock::now() - start);
+    qInfo() << "Copied:" << copied.copiedFiles << " files, size:" << copied.copiedBytes
+            << " elapsed time:" << static_cast<qint64>(elapsed.count()) << " ms"
+            << " excluded:" << selection.exclude.size();
+
+    qInfo() << "Extracting file is started to:" << settings.installDir;
+    extractor->Unpack(selection, Platform::WideFromText(settings.installDir),
+        [&](uint64_t bytes, const std::wstring&) { progress(bytes + copied.copiedBytes); });
+    qInfo() << "Files are extracted";
+}
+
+InstallerMediator::CopyOperationInfo InstallerMediator::CopyExistingFiles(
+    const ProgressFunction& progress, ExtractSettings& selection, const QStringList& reservedNames)
+{
+    std::vector<std::wstring> names = extractor->GetEntryNames();
+    for (const QString& name : reservedNames)
+        names.push_back(Platform::WideFromText(name));
+    CreateDirectoryTree(names, selection, settings.installDir);
+
+    const int threads = std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
+    if (parallelCopy && threads >= 2 && Core::IsRunningOnSSD() &&
+        Core::IsPathOnSSD(settings.installDir.toStdString()))
+        return ParallelCopyExistingFiles(progress, selection, names, threads);
+    return CopyOneAfterAnother(progress, selection, names);
+}
+
+InstallerMediator::CopyOperationInfo InstallerMediator::CopyOneAfterAnother(
+    const ProgressFunction& progress, ExtractSettings& selection,
+    const std::vector<std::wstring>& names)
+{
+    CopyOperationInfo info;
+    for (const std::wstring& name : names)
+    {
+        const CopyJob job = CreateCopyJob(selection, name, settings.installDir);
+        const CopyFileOperationStatus status =
+            job.valid ? CopyOneFile(job.source, job.destination) : CopyFileOperationStatus();
+        if (!status.error.isEmpty())
+        {
+            qInfo() << "Copy error:" << status.error;
+            HandleCopyFileError(job.source, status.error);
+            throw std::runtime_error(status.error.toStdString());
+        }
+        if (status.skipped || status.size == 0)
+        {
+            ++info.skippedFiles;
+            continue;
+        }
+        info.copiedBytes += status.size;
+        ++info.copiedFiles;
+        progress(info.copiedBytes);
+        selection.exclude.insert(job.key);
+    }
+    return info;
+}
+
+InstallerMediator::CopyOperationInfo InstallerMediator::ParallelCopyExistingFiles(
+    const ProgressFunction& progress, ExtractSettings& selection,
+    const std::vector<std::wstring>& names, int threadCount)
+{
+    qInfo() << "Using " << threadCount
+            << " threads to copy files , thread id:" << QThread::currentThreadId();
+    QThreadPool& pool = *QThreadPool::globalInstance();
+    if (threadCount > pool.maxThreadCount())
+    {
+        qInfo() << "The pool parameter is changed to:" << threadCount
+                << ", thread id:" << QThread::currentThreadId();
+        pool.setMaxThreadCount(threadCount);
+    }
+
+    CopyOperationInfo info;
+    QString errors;
+    const auto nextJob = [&, name = names.begin()]() mutable
+    {
+        CopyJob job;
+        while (!job.valid && name != names.end())
+        {
+            job = CreateCopyJob(selection, *name++, settings.installDir);
+            info.skippedFiles += job.valid ? 0 : 1;
+        }
+        return job;
+    };
+    const auto collect = [&](const CopyJob& job, const CopyFileOperationStatus& status)
+    {
+        errors += status.error;
+        const bool isCopied = !status.skipped && status.size != 0;
+        info.copiedBytes += isCopied ? status.size : 0;
+        ++(isCopied ? info.copiedFiles : info.skippedFiles);
+        if (!status.error.isEmpty())
+        {
+            qInfo() << "Copy error:" << status.error;
+            HandleCopyFileError(Platform::TextFromWide(job.key), status.error);
+        }
+        else if (isCopied)
+        {
+            progress(info.copiedBytes);
+            selection.exclude.insert(job.key);
+        }
+        return errors.isEmpty();
+    };
+    RunCopies(threadCount, nextJob, collect);
+    if (!errors.isEmpty())
+        throw std::runtime_error(errors.toStdString());
+    qInfo() << "Copy is completed, thread id:" << QThread::currentThreadId();
+    return info;
+}
+
+void InstallerMediator::HandleCopyFileError(const QString& fileName, const QString& reason)
+{
+    ++copyErrorCount;
+    if (copyErrorCount < copyErrorLimit)
+        emit CopyFileError(fileName, reason);
+    else
+        qDebug() << "Error on file " << fileName << ". " << reason;
+}
+
+void InstallerMediator::UpdateProgramData()
+{
+    for (auto entry = profile.outputNames.begin(); entry != profile.outputNames.end(); ++entry)
+    {
+        const QString& name = entry.key();
+        const QString& target = entry.value();
+        const QString source = settings.installDir + name;
+        const QString destination = GetStandardLocation(StandardLocation::CommonAppData) +
+                                    QDir::separator() + Platform::ToNativePath(target);
+        if (QFile::exists(destination))
+            QFile::remove(destination);
+        QDir().mkpath(QFileInfo(destination).path());
+        const bool isMoved = QFile::rename(source, destination);
+        qInfo() << "Moved " << source << " to " << destination << " successfully: " << isMoved;
+        if (!isMoved)
+            HandleCopyFileError(name,
+                tr("Failed to move file %1 to %2. Wrong path or no permission").arg(name, target));
+    }
+}
+
+} // namespace Vorlan

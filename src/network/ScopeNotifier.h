@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+
+namespace Vorlan
+{
+
+// Announces a stretch of work: calls one function when it is constructed and the other when it
+// goes, also through an exception. The second one must not throw; it is not called when the first
+// one did.
+class ScopeNotifier
+{
+public:
+    ScopeNotifier(const std::function<void()>& enter, std::function<void()> leave)
+        : exit(std::move(leave))
+    {
+        enter();
+    }
+    ~ScopeNotifier() { exit(); }
+    ScopeNotifier(const ScopeNotifier&) = delete;
+    ScopeNotifier& operator=(const ScopeNotifier&) = delete;
+
+private:
+    std::function<void()> exit;
+};
+
+} // namespace Vorlan

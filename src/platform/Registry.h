@@ -1,0 +1,66 @@
+#pragma once
+
+#include "registry/RegistrySettings.h"
+
+#include <QFlags>
+#include <QString>
+#include <QStringList>
+
+namespace Vorlan
+{
+
+namespace Util
+{
+
+// Reads values from the first place that has them, without creating anything. The keys are paths
+// below the roots.
+class RegistryHelper
+{
+public:
+    // Where to look, in this order.
+    enum AccessFlag
+    {
+        CurrentUser64 = 1,
+        CurrentUser32 = 2,
+        LocalMachine64 = 4,
+        LocalMachine32 = 8
+    };
+    Q_DECLARE_FLAGS(AccessFlags, AccessFlag)
+
+    static constexpr int everywhere =
+        CurrentUser64 | CurrentUser32 | LocalMachine64 | LocalMachine32;
+
+    RegistryHelper(const QStringList& keyPaths, AccessFlags accessFlags);
+
+    // The value's text; a number as decimal digits; empty when no place has it.
+    QString GetValue(const QString& name) const;
+
+private:
+    QStringList keys;
+    AccessFlags flags;
+};
+
+} // namespace Util
+
+namespace App
+{
+
+// While it lives, the settings read and write relative to a child group.
+class QSettingsGroupGuard
+{
+public:
+    QSettingsGroupGuard(RegistrySettings& guarded, const QString& group) : settings(guarded)
+    {
+        settings.beginGroup(group);
+    }
+    ~QSettingsGroupGuard() { settings.endGroup(); }
+    QSettingsGroupGuard(const QSettingsGroupGuard&) = delete;
+    QSettingsGroupGuard& operator=(const QSettingsGroupGuard&) = delete;
+
+private:
+    RegistrySettings& settings;
+};
+
+} // namespace App
+
+} // namespace Vorlan

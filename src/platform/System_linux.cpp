@@ -1,0 +1,91 @@
+#include "platform/System.h"
+
+#include <Pal.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+
+namespace Vorlan::Core
+{
+
+namespace
+{
+
+constexpr char defaultWindowsVersion[] = "10.0.19045";
+
+QVariant MachineSetting(const QString& name)
+{
+    const QString fileName = QString::fromStdString((Pal::MachineRoot() / "machine.ini").string());
+    return QSettings(fileName, QSettings::IniFormat).value(name);
+}
+
+// The block device of a path says whether it rotates; a partition asks its disk. File systems
+// without a device of their own do not say.
+bool IsOnRotationFreeDevice(const QString& path)
+{
+    QFileInfo existing(QDir::cleanPath(path));
+    while (!existing.exists() && !existing.isRoot())
+        existing.setFile(existing.path());
+
+    struct stat status = {};
+    if (stat(QFile::encodeName(existing.absoluteFilePath()).constData(), &status) != 0)
+        return false;
+    const QString device = QFileInfo(
+        QString("/sys/dev/block/%1:%2").arg(major(status.st_dev)).arg(minor(status.st_dev)))
+                               .canonicalFilePath();
+    if (device.isEmpty())
+        return false;
+    for (const char* queue : {"/queue/rotational", "/../queue/rotational"})
+    {
+        QFile rotational(device + queue);
+        if (rotational.open(QIODevice::ReadOnly))
+            return rotational.read(1) == "0";
+    }
+    return false;
+}
+
+bool IsSolidState(const QString& path)
+{
+    const QVariant setting = MachineSetting("solidState");
+    return setting.isValid() ? setting.toBool() : IsOnRotationFreeDevice(path);
+}
+
+} // namespace
+
+bool IsGreaterOrEqualThen(const Version& version)
+{
+    const QString running = MachineSetting("windowsVersion").toString();
+    const std::string text = running.isEmpty() ? defaultWindowsVersion : running.toStdString();
+    return !(version > Util::VersionFromString(text, "."));
+}
+
+bool IsProcessRunning(const std::string& imageName, const std::string& path)
+{
+    const QString wantedName = QString::fromStdString(imageName);
+    const QString wantedPath = QDir::cleanPath(QString::fromStdString(path));
+    const QStringList processes = QDir("/proc").entryList({"[0-9]*"}, QDir::Dirs);
+    return std::any_of(processes.begin(), processes.end(),
+        [&](const QString& process)
+        {
+            const QString executable = QFile::symLinkTarget("/proc/" + process + "/exe");
+            return QFileInfo(executable).fileName().compare(wantedName, Qt::CaseInsensitive) == 0 &&
+                   (path.empty() || executable.compare(wantedPath, Qt::CaseInsensitive) == 0);
+        });
+}
+
+bool IsRunningOnSSD()
+{
+    return IsSolidState("/");
+}
+
+bool IsPathOnSSD(const std::string& path)
+{
+    return IsSolidState(QString::fromStdString(path));
+}
+
+} // namespace Vorlan::Core
