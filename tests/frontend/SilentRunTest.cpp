@@ -140,6 +140,15 @@ TEST_F(SilentRunTest, ADestinationThatIsAFileIsRefusedByName)
     EXPECT_TRUE(result.errors.contains(QDir::toNativeSeparators(file.fileName())));
 }
 
+TEST_F(SilentRunTest, TooLittleSpaceIsFoundBeforeTheRun)
+{
+    setup.AddArchive("huge.7z");
+    const auto result = setup.Start({"/S"});
+    EXPECT_EQ(result.exitCode, SetupRun::ShownExitCode(112));
+    ExpectOneLineWith(result, "There is not enough disk space");
+    EXPECT_EQ(setup.DefaultProductFolder(), QString());
+}
+
 TEST_F(SilentRunTest, ALogThatCannotBeWrittenIsOneLine)
 {
     const auto result = setup.Start({"/S", "/LOG=missing/run.log"});
