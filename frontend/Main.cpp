@@ -1,0 +1,135 @@
+#include "CommandLine.h"
+#include "JsonReport.h"
+#include "LogFile.h"
+#include "Outcome.h"
+#include "ProgressReport.h"
+#include "SilentRun.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QSysInfo>
+
+#include <cstdio>
+#include <iostream>
+#include <memory>
+#include <stdexcept>
+
+#include <unistd.h>
+
+using namespace Vorlan::FrontEnd;
+
+namespace
+{
+
+struct Invocation
+{
+    QString programPath;
+    QStringList words;
+};
+
+// A short-lived application object knows both in the right encoding; the real one comes when the
+// options have said which kind it must be.
+Invocation ReadInvocation(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    return {QCoreApplication::applicationFilePath(), QCoreApplication::arguments()};
+}
+
+EventSink MakeSink(const CommandLine& options)
+{
+    if (options.json)
+    {
+        return [](const RunEvent& event) { WriteJsonEvent(std::cout, event); };
+    }
+    if (options.progress)
+    {
+        const bool isTerminal = isatty(fileno(stdout)) != 0;
+        const auto report = std::make_shared<ProgressReport>(std::cout, isTerminal);
+        return [report](const RunEvent& event) { report->Show(event); };
+    }
+    return [](const RunEvent&) {};
+}
+
+Outcome RunSilently(const CommandLine& options, int argc, char** argv)
+{
+    if (QSysInfo::kernelType() != "winnt")
+    {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    const QApplication application(argc, argv);
+    return InstallSilently(options, MakeSink(options));
+}
+
+Outcome RunRole(Role role, const CommandLine& options, int argc, char** argv)
+{
+    if (role == Role::Uninstaller)
+    {
+        return {ExitCode::Failed, "This build cannot uninstall yet: delete the folder by hand."};
+    }
+    if (!options.silent)
+    {
+        return {
+            ExitCode::Failed, "This build has no window yet: give /S for a silent installation."};
+    }
+    return RunSilently(options, argc, argv);
+}
+
+// Keeps a log meanwhile; a failure names it.
+Outcome RunLogged(Role role, const CommandLine& options, int argc, char** argv)
+{
+    const QString action = role == Role::Uninstaller ? "uninstall" : "install";
+    const QString path = options.logFile.isEmpty()
+                             ? LogFile::DefaultPath(action, QDateTime::currentDateTime())
+                             : options.logFile;
+    try
+    {
+        const LogFile log(path);
+        Outcome outcome = RunRole(role, options, argc, argv);
+        if (outcome.code != ExitCode::Done)
+        {
+            qCritical("%s", qUtf8Printable(outcome.error));
+            outcome.error += " (log file: " + log.Path() + ")";
+        }
+        return outcome;
+    }
+    catch (const std::exception& error)
+    {
+        return {ExitCode::Failed, error.what()};
+    }
+}
+
+int Finish(const Outcome& outcome, const CommandLine& options)
+{
+    if (options.json)
+    {
+        WriteJsonOutcome(std::cout, outcome);
+    }
+    if (outcome.code != ExitCode::Done)
+    {
+        std::cerr << outcome.error.toStdString() << std::endl;
+    }
+    return static_cast<int>(outcome.code);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const Invocation invocation = ReadInvocation(argc, argv);
+    const ParsedCommandLine parsed =
+        ParseCommandLine(DropProgramPath(invocation.words, invocation.programPath));
+    if (!parsed.error.isEmpty())
+    {
+        return Finish({ExitCode::BadCommandLine, parsed.error}, parsed.options);
+    }
+    if (parsed.options.help)
+    {
+        std::cout << HelpText().toStdString();
+        return static_cast<int>(ExitCode::Done);
+    }
+    const CommandLine options = WithAbsolutePaths(parsed.options, QDir::current());
+    const Role role = RoleOf(invocation.programPath, options);
+    QDir::setCurrent(QFileInfo(invocation.programPath).absolutePath());
+    return Finish(RunLogged(role, options, argc, argv), options);
+}

@@ -1,0 +1,107 @@
+#include "ProgressReport.h"
+
+#include <QMap>
+
+#include <ostream>
+
+namespace Vorlan::FrontEnd
+{
+namespace
+{
+
+constexpr int barWidth = 40;
+
+QString StageText(const QString& stageId)
+{
+    static const QMap<QString, QString> texts{
+        {"REMOVE_PREVIOUS_VERSION", "Removing the previous version"},
+        {"EXTRACT_FILES", "Placing the files"},
+        {"UPDATE_REGISTRY", "Registering the program"},
+        {"CHECK_ACCELERATIONS", "Checking hardware acceleration"},
+        {"DOWNLOAD_ADDITIONAL_DATA", "Downloading additional data"},
+        {"PERFORM_AFTER_INSTALL_ACTION", "Finishing"},
+    };
+    return texts.value(stageId, stageId);
+}
+
+double Bounded(double fraction)
+{
+    return qBound(0.0, fraction, 1.0);
+}
+
+} // namespace
+
+QString RenderBar(double fraction)
+{
+    const int filled = qRound(Bounded(fraction) * barWidth);
+    return QString("[%1%2] %3 %")
+        .arg(QString(filled, '#'), QString(barWidth - filled, '.'))
+        .arg(qRound(Bounded(fraction) * 100), 3);
+}
+
+ProgressReport::ProgressReport(std::ostream& stream, bool isTerminal)
+    : out(stream), terminal(isTerminal)
+{
+}
+
+void ProgressReport::Show(const RunEvent& event)
+{
+    const QJsonObject& values = event.parameters;
+    if (event.signal == "ProcessStarted")
+    {
+        ShowStage(values["process"].toString());
+    }
+    else if (event.signal == "InstallationProgress")
+    {
+        ShowProgress(values["p"].toDouble());
+    }
+    else if (event.signal == "FilesExtracted")
+    {
+        ShowLine(QString("Files placed in %1 s").arg(values["time"].toDouble(), 0, 'f', 1));
+    }
+    else if (event.signal == "CopyFileError")
+    {
+        ShowLine("Problem: " + values["fileName"].toString() + ": " + values["reason"].toString());
+    }
+    else if (event.signal == "InstallationFinished")
+    {
+        ShowLine("Installed");
+    }
+}
+
+void ProgressReport::ShowStage(const QString& stageId)
+{
+    ShowLine(StageText(stageId) + "...");
+}
+
+void ProgressReport::ShowProgress(double fraction)
+{
+    const int steps = terminal ? 100 : 10;
+    const int step = static_cast<int>(Bounded(fraction) * steps);
+    if (step == shownStep)
+    {
+        return;
+    }
+    shownStep = step;
+    if (terminal)
+    {
+        out << '\r' << RenderBar(fraction).toStdString() << std::flush;
+        barIsOpen = true;
+    }
+    else
+    {
+        ShowLine(RenderBar(fraction));
+    }
+}
+
+void ProgressReport::ShowLine(const QString& line)
+{
+    if (barIsOpen)
+    {
+        out << '\n';
+        barIsOpen = false;
+    }
+    out << line.toStdString() << std::endl;
+}
+
+} // namespace Vorlan::FrontEnd

@@ -1,0 +1,162 @@
+#include "SilentRun.h"
+
+#include "MediatorEvents.h"
+
+#include "installer/InstallerMediator.h"
+#include "installer/ProductProfile.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QTranslator>
+
+#include <memory>
+#include <stdexcept>
+
+namespace Vorlan::FrontEnd
+{
+namespace
+{
+
+// The value of an option with three states that switches it on, and the one for "not asked".
+constexpr int chosen = 2;
+constexpr int notAsked = 0;
+
+Outcome Failure(const QString& error)
+{
+    return {ExitCode::Failed, error};
+}
+
+// The engine would tell of a missing archive in a box that waits for a person.
+Outcome CheckArchive()
+{
+    const QDir programFolder(QCoreApplication::applicationDirPath());
+    const QString path = programFolder.filePath(ProductProfile::archiveFileName);
+    if (QFileInfo(path).isFile())
+    {
+        return {};
+    }
+    return Failure(QString("The archive %1 is missing: put it beside the setup program.")
+                       .arg(QDir::toNativeSeparators(path)));
+}
+
+InstallationSettings ApplyOptions(InstallationSettings settings, const CommandLine& options)
+{
+    const auto tristate = [](bool isChosen) { return isChosen ? chosen : notAsked; };
+    settings.autoLaunch = tristate(options.autoLaunch);
+    settings.contextMenuConvert = tristate(options.contextMenu);
+    settings.contextMenuOpenWith = tristate(options.contextMenu);
+    settings.createShortcuts = !options.noShortcuts;
+    if (!options.folder.isEmpty())
+    {
+        settings.installDir = settings.GetFilteredDirectory(options.folder);
+    }
+    if (!options.language.isEmpty())
+    {
+        settings.locale = options.language;
+    }
+    if (!options.webUid.isEmpty())
+    {
+        settings.userInfo.webUid = options.webUid;
+    }
+    return settings;
+}
+
+// A folder that cannot be used at all, and a volume without enough room, end differently.
+Outcome CheckFolder(const InstallationSettings& settings)
+{
+    QString error;
+    if (!InstallationSettings::IsValidPath(settings.installDir, 0, error))
+    {
+        return Failure(
+            QString("%1: %2. Choose another with /D=<folder>.").arg(error, settings.installDir));
+    }
+    const auto space = static_cast<long long>(settings.requiredSpace);
+    if (!InstallationSettings::IsValidPath(settings.installDir, space, error))
+    {
+        const QString line = QString("%1: %2 needs %3 bytes. Free some, or choose another folder "
+                                     "with /D=<folder>.")
+                                 .arg(error, settings.installDir)
+                                 .arg(space);
+        return {ExitCode::DiskFull, line};
+    }
+    return {};
+}
+
+std::unique_ptr<QTranslator> InstallTranslation(const QString& locale)
+{
+    auto translator = std::make_unique<QTranslator>();
+    const QString path = QString("resources/locales/%1/InstallerGUI_%1.qm").arg(locale);
+    if (translator->load(path))
+    {
+        QCoreApplication::installTranslator(translator.get());
+    }
+    else
+    {
+        qWarning() << "No translation in" << path << ": texts stay English";
+    }
+    return translator;
+}
+
+// Starts the run and waits for its last signal.
+Outcome RunToTheEnd(InstallerMediator& mediator, const EventSink& sink)
+{
+    QEventLoop loop;
+    Outcome outcome;
+    ConnectEvents(mediator, loop,
+        [&](const RunEvent& event)
+        {
+            sink(event);
+            if (event.signal == "InstallationError")
+            {
+                outcome = Failure(event.parameters["text"].toString());
+                loop.quit();
+            }
+            else if (event.signal == "InstallationFinished")
+            {
+                loop.quit();
+            }
+        });
+    mediator.StartInstallation();
+    loop.exec();
+    return outcome;
+}
+
+Outcome InstallWith(InstallerMediator& mediator, const CommandLine& options, const EventSink& sink)
+{
+    const InstallationSettings settings = ApplyOptions(mediator.GetSettings(), options);
+    const auto translator = InstallTranslation(settings.locale);
+    const Outcome refusal = CheckFolder(settings);
+    if (refusal.code != ExitCode::Done)
+    {
+        return refusal;
+    }
+    mediator.SetSettings(settings);
+    mediator.OnLocaleChanged(settings.locale);
+    return RunToTheEnd(mediator, sink);
+}
+
+} // namespace
+
+Outcome InstallSilently(const CommandLine& options, const EventSink& sink)
+{
+    const Outcome refusal = CheckArchive();
+    if (refusal.code != ExitCode::Done)
+    {
+        return refusal;
+    }
+    try
+    {
+        const QString programName = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
+        InstallerMediator mediator({programName, true, true, options.Scope(), true});
+        return InstallWith(mediator, options, sink);
+    }
+    catch (const std::exception& error)
+    {
+        return Failure(QString("The setup cannot start: %1. Download it again.").arg(error.what()));
+    }
+}
+
+} // namespace Vorlan::FrontEnd

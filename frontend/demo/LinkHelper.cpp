@@ -1,0 +1,12 @@
+#include <iostream>
+
+// The demo's handler of links: says which link it was asked to open.
+int main(int argc, char** argv)
+{
+    if (argc != 2)
+    {
+        std::cerr << "VorlanLinkHelper: give one link to open\n";
+        return 2;
+    }
+    std::cout << "link: " << argv[1] << '\n';
+}

@@ -1,0 +1,166 @@
+#include "CommandLine.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+namespace Vorlan::FrontEnd
+{
+namespace
+{
+
+CommandLine Parsed(const QStringList& arguments)
+{
+    const ParsedCommandLine parsed = ParseCommandLine(arguments);
+    EXPECT_EQ(parsed.error.toStdString(), "");
+    return parsed.options;
+}
+
+std::string ErrorOf(const QStringList& arguments)
+{
+    return ParseCommandLine(arguments).error.toStdString();
+}
+
+TEST(CommandLineTest, NothingIsChosenByDefault)
+{
+    const CommandLine options = Parsed({});
+    EXPECT_FALSE(options.silent || options.uninstall || options.help || options.autoLaunch);
+    EXPECT_FALSE(options.removeAll || options.deleteSettings || options.noShortcuts);
+    EXPECT_EQ(options.Scope(), QSettings::UserScope);
+    EXPECT_TRUE(options.folder.isEmpty());
+}
+
+struct FlagRow
+{
+    const char* word;
+    bool CommandLine::*flag;
+};
+
+void PrintTo(const FlagRow& row, std::ostream* out)
+{
+    *out << row.word;
+}
+
+class CommandLineFlagTest : public testing::TestWithParam<FlagRow>
+{
+};
+
+TEST_P(CommandLineFlagTest, SetsItsOptionAndNoOther)
+{
+    const FlagRow row = GetParam();
+    CommandLine options = Parsed({row.word});
+    EXPECT_TRUE(options.*row.flag);
+    for (bool CommandLine::*flag : {&CommandLine::silent, &CommandLine::uninstall,
+             &CommandLine::removeAll, &CommandLine::deleteSettings, &CommandLine::help})
+    {
+        EXPECT_EQ(options.*flag, flag == row.flag);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Words, CommandLineFlagTest,
+    testing::Values(FlagRow{"/S", &CommandLine::silent}, FlagRow{"/s", &CommandLine::silent},
+        FlagRow{"--S", &CommandLine::silent}, FlagRow{"/VerySilent", &CommandLine::silent},
+        FlagRow{"--quiet", &CommandLine::silent}, FlagRow{"/UNINSTALL", &CommandLine::uninstall},
+        FlagRow{"/ALLUSERS", &CommandLine::allUsers},
+        FlagRow{"/CURRENTUSER", &CommandLine::currentUser},
+        FlagRow{"/AUTOLAUNCH", &CommandLine::autoLaunch},
+        FlagRow{"/CONTEXTMENU", &CommandLine::contextMenu},
+        FlagRow{"/NOSHORTCUTS", &CommandLine::noShortcuts},
+        FlagRow{"/REMOVEALL", &CommandLine::removeAll},
+        FlagRow{"/DELETESETTINGS", &CommandLine::deleteSettings},
+        FlagRow{"/IGNORE_MUTEX", &CommandLine::ignoreMutex},
+        FlagRow{"/PROGRESS", &CommandLine::progress}, FlagRow{"/JSON", &CommandLine::json},
+        FlagRow{"/?", &CommandLine::help}, FlagRow{"--help", &CommandLine::help}));
+
+TEST(CommandLineTest, ValuesFollowTheFirstEqualsSign)
+{
+    const CommandLine options =
+        Parsed({"/D=/opt/My Apps=1", "--lang=de_DE", "/LOG=run.log", "/WEBUID=abc-123"});
+    EXPECT_EQ(options.folder, "/opt/My Apps=1");
+    EXPECT_EQ(options.language, "de_DE");
+    EXPECT_EQ(options.logFile, "run.log");
+    EXPECT_EQ(options.webUid, "abc-123");
+    EXPECT_EQ(Parsed({"/D=a", "/DIR=b"}).folder, "b");
+    EXPECT_EQ(Parsed({"/ALLUSERS"}).Scope(), QSettings::SystemScope);
+}
+
+TEST(CommandLineTest, WrongWordsAreRefusedByName)
+{
+    EXPECT_EQ(ErrorOf({"/S", "/FOO"}), "Unknown option /FOO: /? lists all options.");
+    EXPECT_EQ(ErrorOf({"-S"}), "Unknown option -S: /? lists all options.");
+    EXPECT_EQ(ErrorOf({"/opt/apps"}), "Unknown option /opt/apps: /? lists all options.");
+    EXPECT_EQ(ErrorOf({"--"}), "Unknown option --: /? lists all options.");
+    EXPECT_EQ(ErrorOf({"stray"}), "Unexpected word \"stray\": options begin with / (see /?).");
+    EXPECT_EQ(ErrorOf({"/D"}), "The option /D needs a value: write /D=<folder>.");
+    EXPECT_EQ(ErrorOf({"--log="}), "The option --log= needs a value: write /LOG=<file>.");
+    EXPECT_EQ(ErrorOf({"/S=1"}), "The option /S=1 takes no value: write /S.");
+}
+
+TEST(CommandLineTest, ContradictionsAreRefused)
+{
+    EXPECT_EQ(ErrorOf({"/CURRENTUSER", "/ALLUSERS"}),
+        "The options /ALLUSERS and /CURRENTUSER exclude each other: give one of them.");
+    EXPECT_EQ(
+        ErrorOf({"/LANG=sv_SE"}).find("The option /LANG=sv_SE names no supported language"), 0u);
+}
+
+TEST(CommandLineTest, LeadingWordsThatSpellTheProgramAreDropped)
+{
+    const QString path = "/x/Vorlan Quillax/uninst.exe";
+    const QStringList rest{"/S", "/IGNORE_MUTEX"};
+    EXPECT_EQ(DropProgramPath(QStringList{path} + rest, path), rest);
+    EXPECT_EQ(DropProgramPath(QStringList{"/x/Vorlan", "Quillax/uninst.exe"} + rest, path), rest);
+    EXPECT_EQ(DropProgramPath(QStringList{"uninst.exe"} + rest, path), rest);
+    EXPECT_EQ(
+        DropProgramPath({"/x/a", "b/uninst.exe", "/S"}, "/x/a  b/uninst.exe"), QStringList{"/S"});
+    EXPECT_EQ(DropProgramPath({path}, path), QStringList());
+    EXPECT_EQ(DropProgramPath({}, path), QStringList());
+}
+
+TEST(CommandLineTest, AProgramPathOverALinkIsDroppedToo)
+{
+    const QTemporaryDir folder;
+    const QString real = QDir(folder.path()).canonicalPath() + "/real dir";
+    ASSERT_TRUE(QDir().mkpath(real));
+    QFile program(real + "/uninst.exe");
+    ASSERT_TRUE(program.open(QIODevice::WriteOnly));
+    const QString detour = real + "/../real";
+    EXPECT_EQ(
+        DropProgramPath({detour, "dir/uninst.exe", "/S"}, program.fileName()), QStringList{"/S"});
+}
+
+TEST(CommandLineTest, RelativePathsAreTakenFromTheStartFolder)
+{
+    const QDir start("/start");
+    const CommandLine options =
+        WithAbsolutePaths(Parsed({"/D=sub/../apps", "/LOG=run.log"}), start);
+    EXPECT_EQ(options.folder, "/start/apps");
+    EXPECT_EQ(options.logFile, "/start/run.log");
+    const CommandLine absolute = WithAbsolutePaths(Parsed({"/D=/opt/apps"}), start);
+    EXPECT_EQ(absolute.folder, "/opt/apps");
+    EXPECT_TRUE(absolute.logFile.isEmpty());
+}
+
+TEST(CommandLineTest, TheFileNameOrTheOptionMakesTheUninstaller)
+{
+    EXPECT_EQ(RoleOf("/x/installergui.exe", {}), Role::Installer);
+    EXPECT_EQ(RoleOf("/uninst.exe/installergui.exe", {}), Role::Installer);
+    EXPECT_EQ(RoleOf("/x/UnInst.exe", {}), Role::Uninstaller);
+    EXPECT_EQ(RoleOf("/x/installergui.exe", Parsed({"/UNINSTALL"})), Role::Uninstaller);
+}
+
+TEST(CommandLineTest, HelpNamesEveryOptionAndExitCode)
+{
+    const QString help = HelpText();
+    for (const char* word : {"/S", "/VERYSILENT", "/quiet", "/UNINSTALL", "/D=<folder>",
+             "/DIR=", "/LANG=<code>", "/ALLUSERS", "/CURRENTUSER", "/LOG=<file>", "/AUTOLAUNCH",
+             "/CONTEXTMENU", "/NOSHORTCUTS", "/WEBUID=<id>", "/REMOVEALL", "/DELETESETTINGS",
+             "/IGNORE_MUTEX", "/PROGRESS", "/JSON", "/?", "--help", "zh_TW", "\n  0 ", "\n  87 ",
+             "\n  112 ", "\n  1051 ", "\n  1602 ", "\n  1603 ", "\n  1618 "})
+    {
+        EXPECT_TRUE(help.contains(word)) << word;
+    }
+}
+
+} // namespace
+} // namespace Vorlan::FrontEnd

@@ -1,0 +1,222 @@
+#include "support/SetupRun.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+namespace
+{
+
+const int badCommandLine = SetupRun::ShownExitCode(87);
+const int failed = SetupRun::ShownExitCode(1603);
+
+QByteArray ContentOf(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+QString PayloadFolder()
+{
+    return qEnvironmentVariable("VORLAN_TEST_PAYLOADS");
+}
+
+// Nothing on standard output, and one line of errors with `part` in it.
+void ExpectOneLineWith(const SetupRun::Result& result, const QString& part)
+{
+    EXPECT_EQ(result.output.toStdString(), "");
+    EXPECT_EQ(result.errors.count('\n'), 1) << result.errors.toStdString();
+    EXPECT_TRUE(result.errors.contains(part)) << result.errors.toStdString();
+}
+
+// The log that the error line names.
+QString LogNamedIn(const QString& errors)
+{
+    const auto match = QRegularExpression("\\(log file: (.*)\\)").match(errors);
+    EXPECT_TRUE(match.hasMatch()) << errors.toStdString();
+    return match.captured(1);
+}
+
+void ExpectSameContent(const QString& path, const QString& expectedPath)
+{
+    EXPECT_TRUE(ContentOf(path) == ContentOf(expectedPath)) << path.toStdString();
+}
+
+void ExpectTreeInstalled(const QString& content, const QString& target)
+{
+    QDirIterator files(content, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+    {
+        const QString name = QDir(content).relativeFilePath(files.next());
+        if (name != "installergui.exe" && name != "fonts.conf")
+        {
+            ExpectSameContent(target + '/' + name, content + '/' + name);
+        }
+    }
+}
+
+QList<QJsonObject> JsonLines(const QString& output)
+{
+    QList<QJsonObject> objects;
+    for (const QString& line : output.split('\n', Qt::SkipEmptyParts))
+    {
+        const QJsonDocument document = QJsonDocument::fromJson(line.toUtf8());
+        EXPECT_TRUE(document.isObject()) << line.toStdString();
+        objects << document.object();
+    }
+    return objects;
+}
+
+// Names of the signals and stages, but not the progress between them.
+std::string SignalsIn(const QList<QJsonObject>& objects)
+{
+    QStringList names;
+    for (const QJsonObject& object : objects)
+    {
+        if (object["signal"] != "InstallationProgress")
+        {
+            names << object["signal"].toString() + object["process"].toString();
+        }
+    }
+    return names.join(' ').toStdString();
+}
+
+class SilentRunTest : public testing::Test
+{
+protected:
+    SetupRun setup;
+};
+
+TEST_F(SilentRunTest, AWrongCommandLineIsOneLineThatNamesTheWord)
+{
+    for (const char* word : {"/FOO", "/D=", "stray", "/LANG=xx_XX"})
+    {
+        const auto result = setup.Start({"/S", word});
+        EXPECT_EQ(result.exitCode, badCommandLine);
+        ExpectOneLineWith(result, word);
+    }
+    EXPECT_TRUE(QDir(setup.TemporaryFolder()).isEmpty());
+}
+
+TEST_F(SilentRunTest, HelpGoesToStandardOutput)
+{
+    const auto result = setup.Start({"/?"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.errors.toStdString(), "");
+    EXPECT_TRUE(result.output.contains("/VERYSILENT"));
+}
+
+TEST_F(SilentRunTest, AMissingArchiveIsOneLineAndTheLogIsNamed)
+{
+    const auto result = setup.Start({"/S"});
+    EXPECT_EQ(result.exitCode, failed);
+    ExpectOneLineWith(result, "InstallerData.7z is missing");
+    EXPECT_TRUE(ContentOf(LogNamedIn(result.errors)).contains("InstallerData.7z is missing"));
+    EXPECT_TRUE(LogNamedIn(result.errors).startsWith(setup.TemporaryFolder()));
+}
+
+TEST_F(SilentRunTest, AnArchiveThatIsNoneIsOneLine)
+{
+    setup.AddArchiveContent("this is no archive");
+    const auto result = setup.Start({"/S"});
+    EXPECT_EQ(result.exitCode, failed);
+    ExpectOneLineWith(result, "The setup cannot start: ");
+    EXPECT_EQ(setup.DefaultProductFolder(), QString());
+}
+
+TEST_F(SilentRunTest, ADestinationThatIsAFileIsRefusedByName)
+{
+    setup.AddArchive("small.7z");
+    QFile file(setup.WorkFolder() + "/target");
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const auto result = setup.Start({"/S", "/D=target"});
+    EXPECT_EQ(result.exitCode, failed);
+    ExpectOneLineWith(result, "Can't access the specified destination folder");
+    EXPECT_TRUE(result.errors.contains(QDir::toNativeSeparators(file.fileName())));
+}
+
+TEST_F(SilentRunTest, ALogThatCannotBeWrittenIsOneLine)
+{
+    const auto result = setup.Start({"/S", "/LOG=missing/run.log"});
+    EXPECT_EQ(result.exitCode, failed);
+    ExpectOneLineWith(result, "choose another with /LOG=<file>");
+}
+
+TEST_F(SilentRunTest, InstallsTheWholePayloadAndSaysNothing)
+{
+    setup.AddArchive("small.7z");
+    const auto result = setup.Start({"/S"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.output.toStdString(), "");
+    EXPECT_EQ(result.errors.toStdString(), "");
+    const QString product = setup.DefaultProductFolder();
+    ASSERT_FALSE(product.isEmpty());
+    ExpectTreeInstalled(PayloadFolder() + "/small-content", product);
+    EXPECT_FALSE(QDir(product + "/nothing").exists()) << "empty folders are not made";
+    EXPECT_EQ(
+        ContentOf(product + "/uninst.exe"), ContentOf(setup.SetupFolder() + "/installergui.exe"));
+}
+
+TEST_F(SilentRunTest, RelativePathsCountFromTheFolderOfTheCaller)
+{
+    setup.AddArchive("small.7z");
+    const auto result = setup.Start({"/S", "/D=some where", "/LOG=run.log"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
+    ExpectTreeInstalled(
+        PayloadFolder() + "/small-content", setup.WorkFolder() + "/some where/Vorlan Quillax");
+    EXPECT_TRUE(ContentOf(setup.WorkFolder() + "/run.log").contains("Extracting files..."));
+    EXPECT_EQ(QDir(setup.TemporaryFolder()).entryList({"*.log"}), QStringList());
+}
+
+TEST_F(SilentRunTest, ProgressShowsTheStagesInOrder)
+{
+    setup.AddArchive("many-blocks.7z");
+    const auto result = setup.Start({"/S", "/PROGRESS", "/LANG=de_DE"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
+    const QStringList lines = result.output.split('\n');
+    EXPECT_EQ(lines.filter(QRegularExpression("\\.\\.\\.$")).join(' ').toStdString(),
+        "Removing the previous version... Placing the files... Registering the program... "
+        "Checking hardware acceleration...");
+    EXPECT_TRUE(result.output.contains("] 100 %\n"));
+    EXPECT_TRUE(result.output.endsWith("Installed\n"));
+}
+
+TEST_F(SilentRunTest, JsonHoldsEverySignalOnALine)
+{
+    setup.AddArchive("small.7z");
+    const auto result = setup.Start({"/S", "/JSON"});
+    const QList<QJsonObject> objects = JsonLines(result.output);
+    ASSERT_FALSE(objects.isEmpty()) << result.errors.toStdString();
+    EXPECT_EQ(objects.last(), (QJsonObject{{"exitCode", 0}}));
+    EXPECT_EQ(SignalsIn(objects.mid(0, objects.size() - 1)),
+        "InstallationStarted WebConfigLoaderStarted WebConfigLoaderFinished "
+        "ProcessStartedREMOVE_PREVIOUS_VERSION ProcessStartedEXTRACT_FILES FilesExtracted "
+        "ProcessStartedUPDATE_REGISTRY ProcessStartedCHECK_ACCELERATIONS TrackCoreStatistics "
+        "InstallationFinished");
+}
+
+TEST_F(SilentRunTest, JsonTellsAFailureToo)
+{
+    const auto result = setup.Start({"/S", "/JSON"});
+    EXPECT_EQ(result.exitCode, failed);
+    const QList<QJsonObject> objects = JsonLines(result.output);
+    ASSERT_EQ(objects.size(), 1);
+    EXPECT_EQ(objects[0]["exitCode"], 1603);
+    EXPECT_EQ(objects[0]["error"].toString() + '\n', result.errors);
+}
+
+TEST_F(SilentRunTest, TheEmbeddingExampleInstalls)
+{
+    setup.AddArchive("small.7z");
+    setup.AddProgram("embedding-example.exe");
+    const auto result = setup.Start("embedding-example.exe", {"-platform", "offscreen"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
+    ExpectTreeInstalled(PayloadFolder() + "/small-content", setup.DefaultProductFolder());
+}
+
+} // namespace

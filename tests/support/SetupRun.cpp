@@ -1,0 +1,104 @@
+#include "SetupRun.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QDirIterator>
+#include <QSysInfo>
+
+namespace
+{
+
+constexpr int timeLimitMs = 120000;
+
+} // namespace
+
+SetupRun::SetupRun()
+{
+    EXPECT_TRUE(root.isValid());
+    for (const QString& folder : {WorkFolder(), SetupFolder(), TemporaryFolder(), MachineFolder()})
+    {
+        EXPECT_TRUE(QDir().mkpath(folder));
+    }
+    AddProgram("installergui.exe");
+    AddProgram(ENGINE_FILE_NAME);
+}
+
+int SetupRun::ShownExitCode(int code)
+{
+    return QSysInfo::kernelType() == "winnt" ? code : code & 0xFF;
+}
+
+void SetupRun::AddProgram(const QString& fileName)
+{
+    const QString source = QDir(FRONTEND_FOLDER).filePath(fileName);
+    EXPECT_TRUE(QFile::copy(source, QDir(SetupFolder()).filePath(fileName)))
+        << source.toStdString();
+}
+
+void SetupRun::AddArchive(const QString& payloadName)
+{
+    const QDir payloads(qEnvironmentVariable("VORLAN_TEST_PAYLOADS"));
+    EXPECT_TRUE(QFile::copy(payloads.filePath(payloadName), SetupFolder() + "/InstallerData.7z"))
+        << "VORLAN_TEST_PAYLOADS must name the folder of " << payloadName.toStdString();
+}
+
+void SetupRun::AddArchiveContent(const QByteArray& content)
+{
+    QFile archive(SetupFolder() + "/InstallerData.7z");
+    EXPECT_TRUE(archive.open(QIODevice::WriteOnly));
+    EXPECT_EQ(archive.write(content), content.size());
+}
+
+SetupRun::Result SetupRun::Start(const QString& program, const QStringList& arguments)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("VORLAN_MACHINE", MachineFolder());
+    for (const char* name : {"TMPDIR", "TMP", "TEMP"})
+    {
+        environment.insert(name, QDir::toNativeSeparators(TemporaryFolder()));
+    }
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(WorkFolder());
+    process.start(QDir(SetupFolder()).filePath(program), arguments);
+    EXPECT_TRUE(process.waitForFinished(timeLimitMs)) << process.errorString().toStdString();
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+        QString::fromUtf8(process.readAllStandardError())};
+}
+
+QString SetupRun::WorkFolder() const
+{
+    return root.filePath("work");
+}
+
+QString SetupRun::SetupFolder() const
+{
+    return root.filePath("set up");
+}
+
+QString SetupRun::TemporaryFolder() const
+{
+    return root.filePath("temporary");
+}
+
+QString SetupRun::MachineFolder() const
+{
+    return root.filePath("machine");
+}
+
+QString SetupRun::DefaultProductFolder() const
+{
+    QDirIterator folders(
+        MachineFolder(), {"Vorlan Quillax"}, QDir::Dirs, QDirIterator::Subdirectories);
+    while (folders.hasNext())
+    {
+        const QString folder = folders.next();
+        if (folder.contains("/AppData/Roaming/"))
+        {
+            return folder;
+        }
+    }
+    return {};
+}
