@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -41,14 +42,14 @@ public:
 
     bool Fired() const;
 
+    struct State; // known to the layer's sources only
+
 private:
-    const std::string m_function;
-    const unsigned m_callNumber;
-    const Expect m_expect;
+    const std::unique_ptr<State> m_state;
 };
 
-// Called with a text that names the fault. Without a handler the text goes to the standard error
-// output and the program aborts.
+// Called with a text that names the fault. Without a handler (nullptr) the text goes to the
+// standard error output and the program aborts.
 void SetUnusedFaultHandler(std::function<void(const std::string&)> handler);
 
 // What is open in this process: the path of each open file and key, sorted.

@@ -41,8 +41,10 @@ constexpr Mapping mappings[] = {
     {EILSEQ, ERROR_INVALID_NAME},
 };
 
-bool ParentIsFolder(const std::string& path)
+bool ParentIsFolder(std::string path)
 {
+    while (path.size() > 1 && path.back() == '/')
+        path.pop_back();
     const std::filesystem::path parent = std::filesystem::path(path).parent_path();
     std::error_code error;
     return parent.empty() || std::filesystem::is_directory(parent, error);

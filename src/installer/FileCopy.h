@@ -35,8 +35,8 @@ struct CopyFileOperationStatus
 CopyFileOperationStatus CopyOneFile(const QString& source, const QString& destination);
 
 // Runs CopyOneFile for job after job on the global thread pool, `threadCount` at a time. `nextJob`
-// gives the next job, or an invalid one when there is none left; `collect` gets each result and says
-// whether new copies may be started. Both are called on the caller's thread only.
+// gives the next job, or an invalid one when there is none left; `collect` gets each result and
+// says whether new copies may be started. Both are called on the caller's thread only.
 void RunCopies(int threadCount, const std::function<CopyJob()>& nextJob,
     const std::function<bool(const CopyJob&, const CopyFileOperationStatus&)>& collect);
 

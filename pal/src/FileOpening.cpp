@@ -1,0 +1,258 @@
+// Calls that name a file: opening, creating, asking for attributes.
+#include <windows.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <memory>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "ErrorMapping.h"
+#include "Faults.h"
+#include "LastError.h"
+#include "OpenFile.h"
+#include "WideText.h"
+
+namespace Pal
+{
+
+OpenFile::OpenFile(int descriptor, std::string path, DWORD access, DWORD shareMode)
+    : m_descriptor(descriptor), m_path(std::move(path)), m_access(access), m_shareMode(shareMode)
+{
+    struct stat status = {};
+    if (fstat(descriptor, &status) == 0)
+    {
+        m_device = status.st_dev;
+        m_inode = status.st_ino;
+    }
+}
+
+OpenFile::~OpenFile()
+{
+    Close();
+}
+
+DWORD OpenFile::Close()
+{
+    if (m_descriptor < 0)
+        return ERROR_SUCCESS;
+    const int result = close(m_descriptor);
+    m_descriptor = -1;
+    return result == 0 ? ERROR_SUCCESS : ErrorFromErrno(errno);
+}
+
+bool OpenFile::Excludes(const OpenFile& other) const
+{
+    const auto forbids = [](const OpenFile& first, const OpenFile& second)
+    {
+        return (second.Allows(GENERIC_READ) && !(first.m_shareMode & FILE_SHARE_READ)) ||
+               (second.Allows(GENERIC_WRITE) && !(first.m_shareMode & FILE_SHARE_WRITE));
+    };
+    return m_device == other.m_device && m_inode == other.m_inode &&
+           (forbids(*this, other) || forbids(other, *this));
+}
+
+namespace
+{
+
+struct OpenRequest
+{
+    DWORD access;
+    DWORD shareMode;
+    DWORD disposition;
+};
+
+HANDLE FailedOpen(DWORD error)
+{
+    SetLastError(error);
+    return INVALID_HANDLE_VALUE;
+}
+
+bool Truncates(DWORD disposition)
+{
+    return disposition == CREATE_ALWAYS || disposition == TRUNCATE_EXISTING;
+}
+
+DWORD CheckRequest(const OpenRequest& request, DWORD flags, bool hasExtras)
+{
+    constexpr DWORD allAccess = GENERIC_READ | GENERIC_WRITE;
+    constexpr DWORD allSharing = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    if (hasExtras || (flags & ~DWORD{FILE_ATTRIBUTE_NORMAL}))
+        return ERROR_NOT_SUPPORTED;
+    if (!(request.access & allAccess) || (request.access & ~allAccess))
+        return ERROR_NOT_SUPPORTED;
+    if ((request.shareMode & ~allSharing) || request.disposition < CREATE_NEW ||
+        request.disposition > TRUNCATE_EXISTING)
+        return ERROR_INVALID_PARAMETER;
+    if (Truncates(request.disposition) && !(request.access & GENERIC_WRITE))
+        return ERROR_INVALID_PARAMETER;
+    return ERROR_SUCCESS;
+}
+
+int OpenFlags(const OpenRequest& request)
+{
+    int flags = O_CLOEXEC;
+    if (request.access == GENERIC_READ)
+        flags |= O_RDONLY;
+    else
+        flags |= (request.access & GENERIC_READ) ? O_RDWR : O_WRONLY;
+    if (request.disposition == CREATE_NEW)
+        flags |= O_CREAT | O_EXCL;
+    if (request.disposition == CREATE_ALWAYS || request.disposition == OPEN_ALWAYS)
+        flags |= O_CREAT;
+    return flags;
+}
+
+int OpenDescriptor(const std::string& path, int flags)
+{
+    int descriptor = -1;
+    do
+        descriptor = open(path.c_str(), flags, 0777);
+    while (descriptor < 0 && errno == EINTR);
+    return descriptor;
+}
+
+mode_t ModeOf(int descriptor)
+{
+    struct stat status = {};
+    return fstat(descriptor, &status) == 0 ? status.st_mode : 0;
+}
+
+// The content goes only after the share modes have been asked.
+HANDLE EnterFile(const std::shared_ptr<OpenFile>& file, DWORD disposition)
+{
+    const auto excludes = [&file](const OpenObject& other)
+    {
+        const auto* otherFile = dynamic_cast<const OpenFile*>(&other);
+        return otherFile && otherFile->Excludes(*file);
+    };
+    const HANDLE handle = HandleTable::Instance().AddUnless(excludes, file);
+    if (!handle)
+        return FailedOpen(ERROR_SHARING_VIOLATION);
+    const bool mustEmpty = Truncates(disposition) && S_ISREG(ModeOf(file->Descriptor()));
+    if (mustEmpty && ftruncate(file->Descriptor(), 0) != 0)
+    {
+        const DWORD error = ErrorFromErrno(errno);
+        HandleTable::Instance().Take<OpenFile>(handle);
+        return FailedOpen(error);
+    }
+    return handle;
+}
+
+HANDLE OpenNativeFile(const std::string& path, const OpenRequest& request)
+{
+    struct stat status = {};
+    const bool existed = stat(path.c_str(), &status) == 0;
+    const int descriptor = OpenDescriptor(path, OpenFlags(request));
+    if (descriptor < 0)
+    {
+        const int error = errno;
+        return FailedOpen(error == EEXIST ? ERROR_FILE_EXISTS : ErrorForPath(error, path));
+    }
+    const auto file =
+        std::make_shared<OpenFile>(descriptor, path, request.access, request.shareMode);
+    if (S_ISDIR(ModeOf(descriptor)))
+        return FailedOpen(ERROR_ACCESS_DENIED);
+    const HANDLE handle = EnterFile(file, request.disposition);
+    const bool mayCreate =
+        request.disposition == CREATE_ALWAYS || request.disposition == OPEN_ALWAYS;
+    if (handle != INVALID_HANDLE_VALUE && mayCreate)
+        SetLastError(existed ? ERROR_ALREADY_EXISTS : ERROR_SUCCESS);
+    return handle;
+}
+
+template <typename Name>
+HANDLE OpenNamedFile(Name name, const OpenRequest& request, DWORD flags, bool hasExtras)
+{
+    DWORD error = CheckRequest(request, flags, hasExtras);
+    std::string path;
+    if (error == ERROR_SUCCESS)
+        error = NativePath(name, path);
+    return error == ERROR_SUCCESS ? OpenNativeFile(path, request) : FailedOpen(error);
+}
+
+DWORD AttributesOf(const std::string& path, const struct stat& status)
+{
+    struct stat target = {};
+    const bool folder = stat(path.c_str(), &target) == 0 && S_ISDIR(target.st_mode);
+    DWORD attributes = folder ? FILE_ATTRIBUTE_DIRECTORY : 0;
+    if (S_ISLNK(status.st_mode))
+        attributes |= FILE_ATTRIBUTE_REPARSE_POINT;
+    else if (!folder && !(status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)))
+        attributes |= FILE_ATTRIBUTE_READONLY;
+    return attributes ? attributes : FILE_ATTRIBUTE_NORMAL;
+}
+
+} // namespace
+
+} // namespace Pal
+
+// Keeps:   access, share modes and dispositions; ERROR_FILE_EXISTS from CREATE_NEW; after
+//          CREATE_ALWAYS and OPEN_ALWAYS the last error tells whether the file was there; a folder
+//          is ERROR_ACCESS_DENIED; a symbolic link is followed.
+// Differs: share modes bind the handles of this process only, and FILE_SHARE_DELETE changes
+//          nothing. Names are case-sensitive and may hold any character. A new file gets mode 0777
+//          less the umask, because Windows has no executable bit.
+// Refuses: access other than GENERIC_READ and GENERIC_WRITE, every flag and attribute but
+//          FILE_ATTRIBUTE_NORMAL, security attributes, a template; CREATE_ALWAYS without
+//          GENERIC_WRITE.
+HANDLE CreateFileW(LPCWSTR fileName, DWORD desiredAccess, DWORD shareMode,
+    LPSECURITY_ATTRIBUTES securityAttributes, DWORD creationDisposition, DWORD flagsAndAttributes,
+    HANDLE templateFile)
+{
+    if (Pal::FaultHits(__func__))
+        return INVALID_HANDLE_VALUE;
+    return Pal::OpenNamedFile(fileName, {desiredAccess, shareMode, creationDisposition},
+        flagsAndAttributes, securityAttributes || templateFile);
+}
+
+// As CreateFileW.
+// Differs: the name is UTF-8.
+HANDLE CreateFileA(LPCSTR fileName, DWORD desiredAccess, DWORD shareMode,
+    LPSECURITY_ATTRIBUTES securityAttributes, DWORD creationDisposition, DWORD flagsAndAttributes,
+    HANDLE templateFile)
+{
+    if (Pal::FaultHits(__func__))
+        return INVALID_HANDLE_VALUE;
+    return Pal::OpenNamedFile(fileName, {desiredAccess, shareMode, creationDisposition},
+        flagsAndAttributes, securityAttributes || templateFile);
+}
+
+// Keeps:   ERROR_ALREADY_EXISTS for whatever bears the name, ERROR_PATH_NOT_FOUND without the
+//          parent folder.
+// Refuses: security attributes.
+BOOL CreateDirectoryW(LPCWSTR pathName, LPSECURITY_ATTRIBUTES securityAttributes)
+{
+    if (Pal::FaultHits(__func__))
+        return FALSE;
+    if (securityAttributes)
+        return Pal::Failed(ERROR_NOT_SUPPORTED);
+    std::string path;
+    const DWORD error = Pal::NativePath(pathName, path);
+    if (error != ERROR_SUCCESS)
+        return Pal::Failed(error);
+    if (mkdir(path.c_str(), 0777) != 0)
+        return Pal::Failed(Pal::ErrorForPath(errno, path));
+    return TRUE;
+}
+
+// Keeps:   folder, read-only, and a symbolic link as FILE_ATTRIBUTE_REPARSE_POINT of its own;
+//          FILE_ATTRIBUTE_NORMAL when there is nothing else to say.
+// Differs: a file is read-only when nobody may write it; a folder never is. The other attributes,
+//          FILE_ATTRIBUTE_ARCHIVE among them, do not exist.
+DWORD GetFileAttributesW(LPCWSTR fileName)
+{
+    if (Pal::FaultHits(__func__))
+        return INVALID_FILE_ATTRIBUTES;
+    std::string path;
+    DWORD error = Pal::NativePath(fileName, path);
+    struct stat status = {};
+    if (error == ERROR_SUCCESS && lstat(path.c_str(), &status) != 0)
+        error = Pal::ErrorForPath(errno, path);
+    if (error == ERROR_SUCCESS)
+        return Pal::AttributesOf(path, status);
+    SetLastError(error);
+    return INVALID_FILE_ATTRIBUTES;
+}

@@ -1,0 +1,255 @@
+#include "RegFileReader.h"
+
+#include "RegFileWriter.h"
+
+namespace Pal
+{
+
+namespace
+{
+
+constexpr std::u16string_view lineEnd = u"\r\n";
+
+bool TakePrefix(std::u16string_view& text, std::u16string_view prefix)
+{
+    if (text.substr(0, prefix.size()) != prefix)
+        return false;
+    text.remove_prefix(prefix.size());
+    return true;
+}
+
+bool TakeSuffix(std::u16string_view& text, std::u16string_view suffix)
+{
+    if (text.size() < suffix.size() || text.substr(text.size() - suffix.size()) != suffix)
+        return false;
+    text.remove_suffix(suffix.size());
+    return true;
+}
+
+std::u16string_view TakeLine(std::u16string_view& text)
+{
+    const size_t end = text.find(lineEnd);
+    const std::u16string_view line = text.substr(0, end);
+    text.remove_prefix(end == text.npos ? text.size() : end + lineEnd.size());
+    return line;
+}
+
+std::optional<DWORD> HexDigit(char16_t digit)
+{
+    if (digit >= u'0' && digit <= u'9')
+        return digit - u'0';
+    const char16_t lower = digit | 0x20;
+    if (lower >= u'a' && lower <= u'f')
+        return lower - u'a' + 10;
+    return std::nullopt;
+}
+
+std::optional<DWORD> HexNumber(std::u16string_view digits, size_t mostDigits)
+{
+    if (digits.empty() || digits.size() > mostDigits)
+        return std::nullopt;
+    DWORD number = 0;
+    for (const char16_t unit : digits)
+    {
+        const std::optional<DWORD> digit = HexDigit(unit);
+        if (!digit)
+            return std::nullopt;
+        number = number << 4 | *digit;
+    }
+    return number;
+}
+
+// Takes a quoted text with its escapes; the quotes must both be there.
+std::optional<std::u16string> TakeQuoted(std::u16string_view& text)
+{
+    if (!TakePrefix(text, u"\""))
+        return std::nullopt;
+    std::u16string content;
+    while (!text.empty() && text.front() != u'"')
+    {
+        TakePrefix(text, u"\\");
+        if (text.empty())
+            return std::nullopt;
+        content.push_back(text.front());
+        text.remove_prefix(1);
+    }
+    return TakePrefix(text, u"\"") ? std::optional(content) : std::nullopt;
+}
+
+class RecordParser
+{
+public:
+    RecordParser(std::u16string_view record, const std::shared_ptr<KeyNode>& root)
+        : m_rest(record), m_root(root)
+    {
+    }
+
+    bool Apply()
+    {
+        while (!m_rest.empty())
+        {
+            const std::u16string_view line = TakeLine(m_rest);
+            if (line.empty() || line.front() == u';')
+                continue;
+            if (!(line.front() == u'[' ? ApplySection(line) : ApplyValue(line)))
+                return false;
+        }
+        return true;
+    }
+
+private:
+    bool ApplySection(std::u16string_view line)
+    {
+        m_key.reset();
+        if (!TakePrefix(line, u"[") || !TakeSuffix(line, u"]"))
+            return false;
+        const bool removed = TakePrefix(line, u"-");
+        const std::optional<KeyPath> path = ParsePath(line);
+        if (!path || (removed && path->empty()))
+            return false;
+        if (removed)
+            RemoveKey(m_root, *path);
+        else
+            m_key = MakeKey(m_root, *path);
+        return true;
+    }
+
+    std::optional<KeyPath> ParsePath(std::u16string_view text) const
+    {
+        KeyPath path;
+        while (true)
+        {
+            const size_t separator = text.find(u'\\');
+            path.emplace_back(text.substr(0, separator));
+            if (path.back().empty())
+                return std::nullopt;
+            if (separator == text.npos)
+                break;
+            text.remove_prefix(separator + 1);
+        }
+        if (FoldCase(path.front()) != FoldCase(m_root->Name()))
+            return std::nullopt;
+        path.erase(path.begin());
+        return path;
+    }
+
+    bool ApplyValue(std::u16string_view line)
+    {
+        RegistryValue value;
+        if (!TakePrefix(line, u"@"))
+        {
+            const std::optional<std::u16string> name = TakeQuoted(line);
+            if (!name)
+                return false;
+            value.name = *name;
+        }
+        if (!m_key || !TakePrefix(line, u"="))
+            return false;
+        if (line == u"-")
+        {
+            m_key->RemoveValue(value.name);
+            return true;
+        }
+        if (!ParseData(line, value))
+            return false;
+        m_key->SetValue(std::move(value));
+        return true;
+    }
+
+    bool ParseData(std::u16string_view text, RegistryValue& value)
+    {
+        if (text.substr(0, 1) == u"\"")
+            return ParseText(text, value);
+        if (TakePrefix(text, u"dword:"))
+            return ParseDword(text, value);
+        if (!TakePrefix(text, u"hex"))
+            return false;
+        value.type = REG_BINARY;
+        if (TakePrefix(text, u"(") && !ParseHexType(text, value))
+            return false;
+        return TakePrefix(text, u":") && ParseHexLines(text, value);
+    }
+
+    static bool ParseText(std::u16string_view text, RegistryValue& value)
+    {
+        const std::optional<std::u16string> content = TakeQuoted(text);
+        if (!content || !text.empty())
+            return false;
+        value.type = REG_SZ;
+        value.data = DiskBytes(*content + u'\0');
+        return true;
+    }
+
+    static bool ParseDword(std::u16string_view text, RegistryValue& value)
+    {
+        const std::optional<DWORD> number = HexNumber(text, 8);
+        if (!number)
+            return false;
+        value.type = REG_DWORD;
+        for (int shift = 0; shift < 32; shift += 8)
+            value.data.push_back(static_cast<char>(*number >> shift));
+        return true;
+    }
+
+    static bool ParseHexType(std::u16string_view& text, RegistryValue& value)
+    {
+        const size_t end = text.find(u')');
+        const std::optional<DWORD> type = HexNumber(text.substr(0, end), 8);
+        if (end == text.npos || !type)
+            return false;
+        value.type = *type;
+        text.remove_prefix(end + 1);
+        return true;
+    }
+
+    // Goes on with the following lines of the record as long as a line ends in a backslash.
+    bool ParseHexLines(std::u16string_view text, RegistryValue& value)
+    {
+        while (TakeSuffix(text, u"\\"))
+        {
+            if (m_rest.empty() || !ParseHexBytes(text, value))
+                return false;
+            text = TakeLine(m_rest);
+            while (TakePrefix(text, u" "))
+                continue;
+        }
+        return ParseHexBytes(text, value);
+    }
+
+    static bool ParseHexBytes(std::u16string_view text, RegistryValue& value)
+    {
+        while (!text.empty())
+        {
+            const size_t comma = text.find(u',');
+            const std::optional<DWORD> byte = HexNumber(text.substr(0, comma), 2);
+            if (!byte)
+                return false;
+            value.data.push_back(static_cast<char>(*byte));
+            text.remove_prefix(comma == text.npos ? text.size() : comma + 1);
+        }
+        return true;
+    }
+
+    std::u16string_view m_rest;
+    const std::shared_ptr<KeyNode>& m_root;
+    std::shared_ptr<KeyNode> m_key; // of the section; null after a removed one
+};
+
+} // namespace
+
+std::optional<size_t> ApplyRecords(std::u16string_view text, const std::shared_ptr<KeyNode>& root)
+{
+    constexpr std::u16string_view recordEnd = u"\r\n\r\n";
+    size_t start = 0;
+    while (true)
+    {
+        const size_t end = text.find(recordEnd, start);
+        if (end == text.npos)
+            return start;
+        if (!RecordParser(text.substr(start, end - start), root).Apply())
+            return std::nullopt;
+        start = end + recordEnd.size();
+    }
+}
+
+} // namespace Pal

@@ -1,0 +1,110 @@
+#include "RegistryStore.h"
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+#include <Pal.h>
+
+#include "../ErrorMapping.h"
+#include "../Machine.h"
+
+namespace Pal
+{
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+Descriptor OpenLockFile(const fs::path& machineRoot, int flags)
+{
+    const fs::path path = RegistryFolder(machineRoot) / "lock";
+    return Descriptor(open(path.c_str(), O_RDONLY | O_CLOEXEC | flags, 0666));
+}
+
+DWORD LockFile(const Descriptor& lock, int operation)
+{
+    int result = 0;
+    do
+        result = flock(lock.Get(), operation);
+    while (result != 0 && errno == EINTR);
+    return result == 0 ? ERROR_SUCCESS : ErrorFromErrno(errno);
+}
+
+DWORD RefreshOrSetAside(RegistryFile& file, const Descriptor& lock)
+{
+    DWORD error = file.Refresh();
+    if (error != ERROR_BADDB)
+        return error;
+    // Another process may have set it aside before this one has the lock for itself.
+    error = LockFile(lock, LOCK_EX);
+    if (error == ERROR_SUCCESS)
+        error = file.Refresh();
+    return error == ERROR_BADDB ? file.SetAside() : error;
+}
+
+} // namespace
+
+std::u16string RootName(RegistryRoot root)
+{
+    return root == RegistryRoot::CurrentUser ? u"HKEY_CURRENT_USER" : u"HKEY_LOCAL_MACHINE";
+}
+
+RegistryStore::RegistryStore(fs::path machineRoot)
+    : m_machineRoot(std::move(machineRoot)),
+      m_files{RegistryFile(RegistryFolder(m_machineRoot) / "HKEY_CURRENT_USER.reg",
+                  RootName(RegistryRoot::CurrentUser)),
+          RegistryFile(RegistryFolder(m_machineRoot) / "HKEY_LOCAL_MACHINE.reg",
+              RootName(RegistryRoot::LocalMachine))}
+{
+}
+
+DWORD RegistryStore::OpenLock(Descriptor& lock) const
+{
+    lock = OpenLockFile(m_machineRoot, O_CREAT);
+    if (!lock.IsOpen() && errno == ENOENT)
+    {
+        const std::error_code error = CreateMachine(m_machineRoot);
+        if (error)
+            return ErrorFromErrno(error.value());
+        lock = OpenLockFile(m_machineRoot, O_CREAT);
+    }
+    return lock.IsOpen() ? ERROR_SUCCESS : ErrorFromErrno(errno);
+}
+
+DWORD RegistryStore::Enter(RegistryRoot root, Access access, Descriptor& lock)
+{
+    DWORD error = OpenLock(lock);
+    if (error == ERROR_SUCCESS)
+        error = LockFile(lock, access == Access::Write ? LOCK_EX : LOCK_SH);
+    if (error == ERROR_SUCCESS)
+        error = RefreshOrSetAside(File(root), lock);
+    if (error != ERROR_SUCCESS)
+        File(root).ReportFailure(access == Access::Write ? "written" : "read");
+    return error;
+}
+
+void RegistryStore::CompactAtExit()
+{
+    const Descriptor lock = OpenLockFile(m_machineRoot, 0);
+    if (!lock.IsOpen() || LockFile(lock, LOCK_EX) != ERROR_SUCCESS)
+        return; // the machine is gone, or the files stay as they are: longer, but right
+    for (RegistryFile& file : m_files)
+    {
+        if (file.Refresh() == ERROR_SUCCESS)
+            file.CompactIfAppended();
+    }
+}
+
+std::shared_ptr<RegistryStore> CurrentStore()
+{
+    static auto& current = *new std::shared_ptr<RegistryStore>; // used until the process ends
+    const fs::path root = MachineRoot();
+    if (!current || current->MachineRoot() != root)
+        current = std::make_shared<RegistryStore>(root);
+    return current;
+}
+
+} // namespace Pal

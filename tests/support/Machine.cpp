@@ -1,0 +1,98 @@
+#include "support/Machine.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QMutexLocker>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+constexpr char rootVariable[] = "VORLAN_MACHINE";
+Machine* current = nullptr;
+
+} // namespace
+
+Machine::Machine() : formerFolder(QDir::currentPath()), formerRoot(qgetenv(rootVariable))
+{
+    current = this;
+    qputenv(rootVariable, QFile::encodeName(Path("machine")));
+    QDir().mkpath(Path("current"));
+    QDir::setCurrent(Path("current"));
+    formerHandler = qInstallMessageHandler(Capture);
+}
+
+Machine::~Machine()
+{
+    qInstallMessageHandler(formerHandler);
+    QDir::setCurrent(formerFolder);
+    qputenv(rootVariable, formerRoot);
+    current = nullptr;
+}
+
+QString Machine::Path(const QString& relative) const
+{
+    return QDir::toNativeSeparators(scratch.filePath(relative));
+}
+
+QStringList Machine::Log() const
+{
+    const QMutexLocker lock(&mutex);
+    return lines;
+}
+
+void Machine::Capture(QtMsgType, const QMessageLogContext&, const QString& line)
+{
+    const QMutexLocker lock(&current->mutex);
+    current->lines += line;
+}
+
+void WriteFile(const QString& path, const QByteArray& content)
+{
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(path).path())) << path.toStdString();
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+    ASSERT_EQ(file.write(content), content.size());
+}
+
+QByteArray ReadFile(const QString& path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+QStringList ListTree(const QString& folder)
+{
+    QStringList names;
+    QDirIterator entry(folder,
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+        QDirIterator::Subdirectories);
+    while (entry.hasNext())
+    {
+        const QString name = QDir(folder).relativeFilePath(entry.next());
+        names += entry.fileInfo().isDir() ? name + '/' : name;
+    }
+    names.sort();
+    return names;
+}
+
+QMap<QString, QByteArray> ReadTree(const QString& folder)
+{
+    QMap<QString, QByteArray> contents;
+    for (const QString& name : ListTree(folder))
+    {
+        if (!name.endsWith('/'))
+            contents[name] = ReadFile(folder + '/' + name);
+    }
+    return contents;
+}
+
+QString Payload(const QString& name)
+{
+    const QString folder = qEnvironmentVariable("VORLAN_TEST_PAYLOADS");
+    EXPECT_FALSE(folder.isEmpty()) << "VORLAN_TEST_PAYLOADS names the folder of the test payloads";
+    return folder + '/' + name;
+}

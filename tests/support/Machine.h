@@ -1,0 +1,48 @@
+#pragma once
+
+#include "support/Printing.h"
+
+#include <QMap>
+#include <QMutex>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+// A fresh machine for one test: a machine root, empty registry roots, an empty current folder, and
+// the lines that the engine logs. Everything is put back when it goes.
+class Machine
+{
+public:
+    Machine();
+    ~Machine();
+    Machine(const Machine&) = delete;
+    Machine& operator=(const Machine&) = delete;
+
+    // A path below this machine's scratch folder.
+    QString Path(const QString& relative) const;
+
+    // The lines logged so far, as Qt's logger writes them; on any thread.
+    QStringList Log() const;
+
+private:
+    static void Capture(QtMsgType type, const QMessageLogContext& context, const QString& line);
+
+    QTemporaryDir scratch;
+    QString formerFolder;
+    QByteArray formerRoot;
+    QtMessageHandler formerHandler;
+    mutable QMutex mutex;
+    QStringList lines;
+};
+
+void WriteFile(const QString& path, const QByteArray& content);
+QByteArray ReadFile(const QString& path);
+
+// Every file and folder below a folder, relative to it and sorted; folders end with "/".
+QStringList ListTree(const QString& folder);
+
+// Contents of every file below a folder by relative path; folders carry no entry.
+QMap<QString, QByteArray> ReadTree(const QString& folder);
+
+// The folder of the payload archives that the test runner made.
+QString Payload(const QString& name);

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "archive/ArchiveExtractor.h"
+#include "installer/InstallerMediator.h"
+#include "platform/Path.h"
+#include "registry/SettingsManager.h"
+
+namespace Vorlan
+{
+
+// Reaches a mediator's stages one by one, and stands in for what a product's profile could hold.
+struct MediatorAccess
+{
+    InstallerMediator& mediator;
+
+    // Lets the mediator install from an archive that does not lie beside the test program.
+    void OpenArchive(const QString& path)
+    {
+        mediator.extractor = std::make_unique<ArchiveExtractor>(Platform::WideFromText(path));
+    }
+    // Waits for the whole run, what follows its end signal included.
+    void Join() { mediator.worker.join(); }
+
+    RegistrationProfile& Profile() { return mediator.profile; }
+    SettingsManager& Registry() { return *mediator.settingsManager; }
+    InstallationSettings& Settings() { return mediator.settings; }
+
+    QStringList ReserveFilesForReinstall() { return mediator.ReserveFilesForReinstall(); }
+    void ExtractFiles(const QStringList& reserved) { mediator.ExtractFiles(reserved, 1.0); }
+    void HandleCopyFileError(const QString& name, const QString& reason)
+    {
+        mediator.HandleCopyFileError(name, reason);
+    }
+    void UpdateProgramData() { mediator.UpdateProgramData(); }
+
+    void CopyInParallel(const std::vector<std::wstring>& names, int threads)
+    {
+        ExtractSettings selection;
+        mediator.ParallelCopyExistingFiles([](unsigned long long) {}, selection, names, threads);
+    }
+};
+
+} // namespace Vorlan
