@@ -1,8 +1,9 @@
 #include "CommandLine.h"
 
+#include "support/Machine.h"
+
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QRegularExpression>
 
 namespace
@@ -10,9 +11,7 @@ namespace
 
 QString TextOf(const QString& path)
 {
-    QFile file(PROJECT_SOURCES "/" + path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return QString::fromUtf8(file.readAll());
+    return QString::fromUtf8(ReadFile(PROJECT_SOURCES "/" + path));
 }
 
 TEST(ReadmeTest, QuotesTheEmbeddingExampleAsItIs)
