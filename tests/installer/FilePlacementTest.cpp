@@ -82,8 +82,7 @@ TEST_F(FilePlacementTest, FilesBesideTheInstallerAreCopiedAndTheRestUnpacked)
     EXPECT_TRUE(log.contains("Directory tree've been created"));
     EXPECT_TRUE(log.filter("Copied: 2  files, size: 41  elapsed time: ")
                     .filter(" ms  excluded: 2")
-                    .size()
-        == 1)
+                    .size() == 1)
         << log.join('\n').toStdString();
     EXPECT_TRUE(log.contains("Extracting file is started to: \"" + installDir + '"'));
     EXPECT_EQ(log.last(), "Files are extracted");
@@ -108,7 +107,8 @@ TEST_F(FilePlacementTest, SetupFolderMayBeTheInstallationFolder)
 TEST_F(FilePlacementTest, FolderThatCannotBeCreatedFails)
 {
     WriteFile(machine.Path("apps/Vorlan Quillax"), "a file where the folder must be");
-    EXPECT_EQ(ExtractFiles(), "Couldn't create directory " + QDir::fromNativeSeparators(installDir).chopped(1));
+    EXPECT_EQ(ExtractFiles(),
+        "Couldn't create directory " + QDir::fromNativeSeparators(installDir).chopped(1));
     EXPECT_TRUE(machine.Log().contains("Error: failed to create dir!"));
 }
 
@@ -117,8 +117,8 @@ TEST_F(FilePlacementTest, FirstCopyErrorStopsSequentialCopying)
     WriteFile("quill.exe", "program beside the installer");
     QDir().mkpath(installDir + "quill.exe/occupied");
     const QString error = ExtractFiles();
-    EXPECT_TRUE(error.startsWith("Failed to remove existing file from destination")
-        || error.startsWith("Failed to copy file quill.exe error "))
+    EXPECT_TRUE(error.startsWith("Failed to remove existing file from destination") ||
+                error.startsWith("Failed to copy file quill.exe error "))
         << error.toStdString();
     EXPECT_EQ(signalLog.Calls(), QStringList("CopyFileError(quill.exe, " + error + ')'));
     EXPECT_TRUE(machine.Log().contains("Copy error: \"" + error + '"'));
@@ -164,8 +164,8 @@ TEST_F(FilePlacementTest, ParallelCopyStopsLaunchingAfterAnErrorAndReportsEachOn
     }
     catch (const std::runtime_error& error)
     {
-        EXPECT_EQ(signalLog.Calls(),
-            QStringList("CopyFileError(file0, " + QString(error.what()) + ')'));
+        EXPECT_EQ(
+            signalLog.Calls(), QStringList("CopyFileError(file0, " + QString(error.what()) + ')'));
     }
     EXPECT_EQ(ReadTree(installDir), (QMap<QString, QByteArray>()));
 }
@@ -176,9 +176,8 @@ TEST_F(FilePlacementTest, HostHearsOfNineCopyErrors)
         access.HandleCopyFileError(QString("file%1").arg(i), "reason");
     EXPECT_EQ(signalLog.Calls().size(), 9);
     EXPECT_EQ(signalLog.Calls().last(), "CopyFileError(file9, reason)");
-    EXPECT_EQ(machine.Log(),
-        QStringList({"Error on file  \"file10\" .  \"reason\"",
-            "Error on file  \"file11\" .  \"reason\""}));
+    EXPECT_EQ(machine.Log(), QStringList({"Error on file  \"file10\" .  \"reason\"",
+                                 "Error on file  \"file11\" .  \"reason\""}));
 }
 
 TEST_F(FilePlacementTest, ProgressComesWhenMoreThanTenMillisecondsHavePassed)
@@ -237,9 +236,9 @@ TEST_F(FilePlacementTest, ProgramDataMovesToTheAllUsersFolder)
     access.UpdateProgramData();
     EXPECT_EQ(ReadFile(target), "fonts");
     EXPECT_FALSE(QFile::exists(installDir + "fonts.conf"));
-    EXPECT_EQ(machine.Log().last(),
-        "Moved  \"" + installDir + "fonts.conf\"  to  \"" + QDir::toNativeSeparators(target)
-            + "\"  successfully:  true");
+    EXPECT_EQ(machine.Log().last(), "Moved  \"" + installDir + "fonts.conf\"  to  \"" +
+                                        QDir::toNativeSeparators(target) +
+                                        "\"  successfully:  true");
     EXPECT_EQ(signalLog.Calls(), QStringList());
 }
 

@@ -193,8 +193,8 @@ TEST_F(InstallerMediatorTest, ArchiveTellsTheSpaceThatIsNeeded)
             box->close();
         });
     const auto mediator = Create(true);
-    EXPECT_EQ(boxText,
-        "The archive \"InstallerData.7z\" was not found in the installation directory!");
+    EXPECT_EQ(
+        boxText, "The archive \"InstallerData.7z\" was not found in the installation directory!");
     EXPECT_EQ(mediator->GetSettings().requiredSpace, 0u);
     EXPECT_EQ(mediator->GetSettings().longestEntryNameLength, 0u);
 }

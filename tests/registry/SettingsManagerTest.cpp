@@ -55,9 +55,9 @@ TEST_F(SettingsManagerTest, PlainInstallationWritesExactlyItsValues)
     EXPECT_TRUE(QDateTime::fromString(date, "dd/MM/yyyy hh:mm:ss").isValid()) << date.toStdString();
     EXPECT_EQ(Values("Quillax24"),
         QStringList({"ArchitectBits=x64", "DateTime=" + date,
-            "ExePath=/apps/Vorlan Quillax/quill.exe", "MainAppIpcId=quill", "ParentProductId=",
-            "PartnerName.OVERRIDE=", "Path=/apps/Vorlan Quillax/", "ProductId=quillax",
-            "VersionByInstaller=24-5-1", "autoUpdate=true", "locale=de_DE"}));
+            "ExePath=/apps/Vorlan Quillax/quill.exe", "MainAppIpcId=quill",
+            "ParentProductId=", "PartnerName.OVERRIDE=", "Path=/apps/Vorlan Quillax/",
+            "ProductId=quillax", "VersionByInstaller=24-5-1", "autoUpdate=true", "locale=de_DE"}));
     EXPECT_EQ(manager.GetInstallLocation(), "/apps/Vorlan Quillax/");
     EXPECT_EQ(manager.GetArchitectBits(), "x64");
     EXPECT_EQ(manager.GetLocale(), "de_DE");

@@ -1,0 +1,83 @@
+#include "installer/InstallerMediator.h"
+
+#include "support/Machine.h"
+#include "support/MediatorAccess.h"
+#include "support/SignalLog.h"
+
+#include <Pal.h>
+#include <windows.h>
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+using namespace Vorlan;
+
+namespace
+{
+
+class InstallationFaultsTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        InstallationSettings settings = mediator.GetSettings();
+        settings.installDir = machine.Path("Vorlan Quillax/");
+        mediator.SetSettings(settings);
+        access.OpenArchive(Payload("small.7z"));
+    }
+
+    void Install()
+    {
+        mediator.StartInstallation();
+        signalLog.WaitForEnd();
+        access.Join();
+    }
+
+    Machine machine;
+    const QString name = "setup.exe";
+    InstallerMediator mediator{{name, false, true, QSettings::UserScope, false}};
+    MediatorAccess access{mediator};
+    SignalLog signalLog{mediator};
+};
+
+} // namespace
+
+TEST_F(InstallationFaultsTest, FullDiskIsOneErrorAndTheNextRunIsComplete)
+{
+    {
+        // Not the first writes: the registry writes through calls of its own.
+        const Pal::ScopedFault full("WriteFile", ERROR_DISK_FULL, 3);
+        Install();
+    }
+    EXPECT_EQ(signalLog.Count("InstallationError"), 1);
+    EXPECT_EQ(signalLog.Count("InstallationFinished"), 0);
+    EXPECT_EQ(mediator.GetInstallationState(), InstallationState::NotStarted);
+    EXPECT_TRUE(
+        machine.Log().contains("Error  Cannot write output file  in InstallerMediator::Extract()"));
+
+    Install();
+    EXPECT_EQ(signalLog.Calls().last(), "InstallationFinished");
+    EXPECT_EQ(ReadFile(machine.Path("Vorlan Quillax/libs/codec one.dll")),
+        ReadFile(Payload("small-content/libs/codec one.dll")));
+}
+
+TEST_F(InstallationFaultsTest, RegistryThatCannotBeWrittenDoesNotStopTheRun)
+{
+    const Pal::ScopedFault refused("RegSetValueExW", ERROR_ACCESS_DENIED);
+    Install();
+    EXPECT_EQ(signalLog.Calls().last(), "InstallationFinished");
+    EXPECT_EQ(access.Registry().GetInstallLocation(), machine.Path("Vorlan Quillax/"));
+}
+
+TEST_F(InstallationFaultsTest, DamagedRegistryIsReportedAndSetAside)
+{
+    const QString file = machine.Path("machine/registry/HKEY_CURRENT_USER.reg");
+    Install();
+    WriteFile(file, "no registry at all");
+    Install();
+    EXPECT_EQ(signalLog.Calls().last(), "InstallationFinished");
+    EXPECT_EQ(ReadFile(file + ".damaged-1"), "no registry at all");
+    EXPECT_EQ(machine.Log().filter("Registry file is damaged and was set aside").size(), 1);
+    EXPECT_EQ(access.Registry().GetInstallLocation(), machine.Path("Vorlan Quillax/"));
+}
