@@ -10,7 +10,6 @@
 #include <QFileInfo>
 #include <QSysInfo>
 
-#include <cstdio>
 #include <iostream>
 #include <memory>
 #include <stdexcept>
@@ -44,7 +43,7 @@ EventSink MakeSink(const CommandLine& options)
     }
     if (options.progress)
     {
-        const bool isTerminal = isatty(fileno(stdout)) != 0;
+        const bool isTerminal = isatty(STDOUT_FILENO) != 0;
         const auto report = std::make_shared<ProgressReport>(std::cout, isTerminal);
         return [report](const RunEvent& event) { report->Show(event); };
     }

@@ -13,14 +13,17 @@ Fail()
     exit 1
 }
 
-# RunStep <what it does> <what to do when it fails> <log file> <command...>
+# RunStep <what it does> <what to do when it fails> <log file> <command...>: a failure shows the
+# end of the output and then one line.
 RunStep()
 {
     local what=$1 advice=$2 log=$3
     shift 3
     Say "$what"
     mkdir -p "$(dirname "$log")"
-    "$@" </dev/null >"$log" 2>&1 || Fail "failed: $what. $advice (full output: $log)"
+    "$@" </dev/null >"$log" 2>&1 && return
+    tail -n 20 "$log" >&2
+    Fail "failed: $what. $advice (full output: $log)"
 }
 
 # StartsWithHelp "$@": whether the caller only asks what the tool does.

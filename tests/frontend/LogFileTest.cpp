@@ -1,5 +1,7 @@
 #include "LogFile.h"
 
+#include "support/Machine.h"
+
 #include <gtest/gtest.h>
 
 #include <QDebug>
@@ -16,9 +18,7 @@ namespace
 
 QStringList LinesOf(const QString& path)
 {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return QString::fromUtf8(file.readAll()).split('\n');
+    return QString::fromUtf8(ReadFile(path)).split('\n');
 }
 
 TEST(LogFileTest, EveryLineCarriesTimeLevelAndText)
@@ -40,7 +40,7 @@ TEST(LogFileTest, EveryLineCarriesTimeLevelAndText)
     for (int i = 0; i < ends.size(); ++i)
     {
         EXPECT_TRUE(time.match(lines[i]).hasMatch()) << lines[i].toStdString();
-        EXPECT_EQ(lines[i].mid(24).toStdString(), ends[i].toStdString());
+        EXPECT_EQ(lines[i].mid(24), ends[i]);
     }
 }
 

@@ -1,9 +1,9 @@
+#include "support/Machine.h"
 #include "support/SetupRun.h"
 
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QDirIterator>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -14,22 +14,10 @@ namespace
 const int badCommandLine = SetupRun::ShownExitCode(87);
 const int failed = SetupRun::ShownExitCode(1603);
 
-QByteArray ContentOf(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return file.readAll();
-}
-
-QString PayloadFolder()
-{
-    return qEnvironmentVariable("VORLAN_TEST_PAYLOADS");
-}
-
 // Nothing on standard output, and one line of errors with `part` in it.
 void ExpectOneLineWith(const SetupRun::Result& result, const QString& part)
 {
-    EXPECT_EQ(result.output.toStdString(), "");
+    EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.errors.count('\n'), 1) << result.errors.toStdString();
     EXPECT_TRUE(result.errors.contains(part)) << result.errors.toStdString();
 }
@@ -42,21 +30,17 @@ QString LogNamedIn(const QString& errors)
     return match.captured(1);
 }
 
-void ExpectSameContent(const QString& path, const QString& expectedPath)
+// The payload "small.7z" is in this folder, less the two files that go elsewhere.
+void ExpectSmallPayloadIn(const QString& folder)
 {
-    EXPECT_TRUE(ContentOf(path) == ContentOf(expectedPath)) << path.toStdString();
-}
-
-void ExpectTreeInstalled(const QString& content, const QString& target)
-{
-    QDirIterator files(content, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext())
+    QMap<QString, QByteArray> expected = ReadTree(Payload("small-content"));
+    expected.remove("installergui.exe");
+    expected.remove("fonts.conf");
+    const QMap<QString, QByteArray> installed = ReadTree(folder);
+    for (auto file = expected.constBegin(); file != expected.constEnd(); ++file)
     {
-        const QString name = QDir(content).relativeFilePath(files.next());
-        if (name != "installergui.exe" && name != "fonts.conf")
-        {
-            ExpectSameContent(target + '/' + name, content + '/' + name);
-        }
+        EXPECT_TRUE(installed.value(file.key()) == file.value()) << file.key().toStdString();
+        EXPECT_TRUE(installed.contains(file.key())) << file.key().toStdString();
     }
 }
 
@@ -73,7 +57,7 @@ QList<QJsonObject> JsonLines(const QString& output)
 }
 
 // Names of the signals and stages, but not the progress between them.
-std::string SignalsIn(const QList<QJsonObject>& objects)
+QString SignalsIn(const QList<QJsonObject>& objects)
 {
     QStringList names;
     for (const QJsonObject& object : objects)
@@ -83,7 +67,7 @@ std::string SignalsIn(const QList<QJsonObject>& objects)
             names << object["signal"].toString() + object["process"].toString();
         }
     }
-    return names.join(' ').toStdString();
+    return names.join(' ');
 }
 
 class SilentRunTest : public testing::Test
@@ -107,7 +91,7 @@ TEST_F(SilentRunTest, HelpGoesToStandardOutput)
 {
     const auto result = setup.Start({"/?"});
     EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.errors.toStdString(), "");
+    EXPECT_EQ(result.errors, "");
     EXPECT_TRUE(result.output.contains("/VERYSILENT"));
 }
 
@@ -116,7 +100,7 @@ TEST_F(SilentRunTest, AMissingArchiveIsOneLineAndTheLogIsNamed)
     const auto result = setup.Start({"/S"});
     EXPECT_EQ(result.exitCode, failed);
     ExpectOneLineWith(result, "InstallerData.7z is missing");
-    EXPECT_TRUE(ContentOf(LogNamedIn(result.errors)).contains("InstallerData.7z is missing"));
+    EXPECT_TRUE(ReadFile(LogNamedIn(result.errors)).contains("InstallerData.7z is missing"));
     EXPECT_TRUE(LogNamedIn(result.errors).startsWith(setup.TemporaryFolder()));
 }
 
@@ -140,6 +124,15 @@ TEST_F(SilentRunTest, ADestinationThatIsAFileIsRefusedByName)
     EXPECT_TRUE(result.errors.contains(QDir::toNativeSeparators(file.fileName())));
 }
 
+TEST_F(SilentRunTest, TooLittleSpaceIsFoundBeforeTheRun)
+{
+    setup.AddArchive("huge.7z");
+    const auto result = setup.Start({"/S"});
+    EXPECT_EQ(result.exitCode, SetupRun::ShownExitCode(112));
+    ExpectOneLineWith(result, "There is not enough disk space");
+    EXPECT_EQ(setup.DefaultProductFolder(), QString());
+}
+
 TEST_F(SilentRunTest, ALogThatCannotBeWrittenIsOneLine)
 {
     const auto result = setup.Start({"/S", "/LOG=missing/run.log"});
@@ -152,14 +145,14 @@ TEST_F(SilentRunTest, InstallsTheWholePayloadAndSaysNothing)
     setup.AddArchive("small.7z");
     const auto result = setup.Start({"/S"});
     EXPECT_EQ(result.exitCode, 0);
-    EXPECT_EQ(result.output.toStdString(), "");
-    EXPECT_EQ(result.errors.toStdString(), "");
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors, "");
     const QString product = setup.DefaultProductFolder();
     ASSERT_FALSE(product.isEmpty());
-    ExpectTreeInstalled(PayloadFolder() + "/small-content", product);
+    ExpectSmallPayloadIn(product);
     EXPECT_FALSE(QDir(product + "/nothing").exists()) << "empty folders are not made";
     EXPECT_EQ(
-        ContentOf(product + "/uninst.exe"), ContentOf(setup.SetupFolder() + "/installergui.exe"));
+        ReadFile(product + "/uninst.exe"), ReadFile(setup.SetupFolder() + "/installergui.exe"));
 }
 
 TEST_F(SilentRunTest, RelativePathsCountFromTheFolderOfTheCaller)
@@ -167,9 +160,8 @@ TEST_F(SilentRunTest, RelativePathsCountFromTheFolderOfTheCaller)
     setup.AddArchive("small.7z");
     const auto result = setup.Start({"/S", "/D=some where", "/LOG=run.log"});
     EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
-    ExpectTreeInstalled(
-        PayloadFolder() + "/small-content", setup.WorkFolder() + "/some where/Vorlan Quillax");
-    EXPECT_TRUE(ContentOf(setup.WorkFolder() + "/run.log").contains("Extracting files..."));
+    ExpectSmallPayloadIn(setup.WorkFolder() + "/some where/Vorlan Quillax");
+    EXPECT_TRUE(ReadFile(setup.WorkFolder() + "/run.log").contains("Extracting files..."));
     EXPECT_EQ(QDir(setup.TemporaryFolder()).entryList({"*.log"}), QStringList());
 }
 
@@ -179,7 +171,7 @@ TEST_F(SilentRunTest, ProgressShowsTheStagesInOrder)
     const auto result = setup.Start({"/S", "/PROGRESS", "/LANG=de_DE"});
     EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
     const QStringList lines = result.output.split('\n');
-    EXPECT_EQ(lines.filter(QRegularExpression("\\.\\.\\.$")).join(' ').toStdString(),
+    EXPECT_EQ(lines.filter(QRegularExpression("\\.\\.\\.$")).join(' '),
         "Removing the previous version... Placing the files... Registering the program... "
         "Checking hardware acceleration...");
     EXPECT_TRUE(result.output.contains("] 100 %\n"));
@@ -216,7 +208,7 @@ TEST_F(SilentRunTest, TheEmbeddingExampleInstalls)
     setup.AddProgram("embedding-example.exe");
     const auto result = setup.Start("embedding-example.exe", {"-platform", "offscreen"});
     EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
-    ExpectTreeInstalled(PayloadFolder() + "/small-content", setup.DefaultProductFolder());
+    ExpectSmallPayloadIn(setup.DefaultProductFolder());
 }
 
 } // namespace

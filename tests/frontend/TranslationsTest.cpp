@@ -1,4 +1,5 @@
 #include "installer/ProductProfile.h"
+#include "support/Printing.h"
 
 #include <gtest/gtest.h>
 
@@ -114,7 +115,7 @@ TEST_P(TranslationsTest, TheCompiledFileHoldsTheSameTexts)
         const QStringList parts = key.split('\n');
         const QString text = translator.translate(parts[0].toUtf8().constData(),
             parts[1].toUtf8().constData(), parts[2].toUtf8().constData());
-        EXPECT_EQ(text.toStdString(), translation.text.toStdString()) << key.toStdString();
+        EXPECT_EQ(text, translation.text) << key.toStdString();
     }
 }
 

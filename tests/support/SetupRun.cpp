@@ -1,4 +1,6 @@
-#include "SetupRun.h"
+#include "support/SetupRun.h"
+
+#include "support/Machine.h"
 
 #include <gtest/gtest.h>
 
@@ -38,16 +40,13 @@ void SetupRun::AddProgram(const QString& fileName)
 
 void SetupRun::AddArchive(const QString& payloadName)
 {
-    const QDir payloads(qEnvironmentVariable("VORLAN_TEST_PAYLOADS"));
-    EXPECT_TRUE(QFile::copy(payloads.filePath(payloadName), SetupFolder() + "/InstallerData.7z"))
-        << "VORLAN_TEST_PAYLOADS must name the folder of " << payloadName.toStdString();
+    EXPECT_TRUE(QFile::copy(Payload(payloadName), SetupFolder() + "/InstallerData.7z"))
+        << "no payload " << payloadName.toStdString();
 }
 
 void SetupRun::AddArchiveContent(const QByteArray& content)
 {
-    QFile archive(SetupFolder() + "/InstallerData.7z");
-    EXPECT_TRUE(archive.open(QIODevice::WriteOnly));
-    EXPECT_EQ(archive.write(content), content.size());
+    WriteFile(SetupFolder() + "/InstallerData.7z", content);
 }
 
 SetupRun::Result SetupRun::Start(const QString& program, const QStringList& arguments)

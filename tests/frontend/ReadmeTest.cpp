@@ -1,0 +1,39 @@
+#include "CommandLine.h"
+
+#include "support/Machine.h"
+
+#include <gtest/gtest.h>
+
+#include <QRegularExpression>
+
+namespace
+{
+
+QString TextOf(const QString& path)
+{
+    return QString::fromUtf8(ReadFile(PROJECT_SOURCES "/" + path));
+}
+
+TEST(ReadmeTest, QuotesTheEmbeddingExampleAsItIs)
+{
+    EXPECT_TRUE(TextOf("README.md")
+                    .contains("```cpp\n" + TextOf("tests/support/EmbeddingExample.cpp") + "```\n"));
+}
+
+TEST(ReadmeTest, NamesEveryOptionAndExitCodeOfTheHelp)
+{
+    const QString readme = TextOf("README.md");
+    const QString help = Vorlan::FrontEnd::HelpText();
+    auto names = QRegularExpression("^  (/[A-Z_?]+=?|\\d+)", QRegularExpression::MultilineOption)
+                     .globalMatch(help);
+    int count = 0;
+    for (; names.hasNext(); ++count)
+    {
+        const QString name = names.next().captured(1);
+        const QString quoted = name.startsWith('/') ? '`' + name : "| " + name + " |";
+        EXPECT_TRUE(readme.contains(quoted)) << name.toStdString();
+    }
+    EXPECT_EQ(count, 17 + 7);
+}
+
+} // namespace
