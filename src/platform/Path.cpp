@@ -7,6 +7,7 @@
 
 #include <codecvt>
 #include <locale>
+#include <stdexcept>
 
 namespace Vorlan
 {
@@ -57,16 +58,29 @@ namespace
 
 using Utf8Converter = std::wstring_convert<std::codecvt_utf8_utf16<wchar_t>>;
 
+// The converter throws on text that is broken, but takes text that is cut off for whole.
+void ThrowUnlessWhole(bool isWhole)
+{
+    if (!isWhole)
+        throw std::range_error("text is cut off in the middle of a character");
 }
+
+} // namespace
 
 std::wstring WstringFromUtf8(const std::string& text)
 {
-    return Utf8Converter().from_bytes(text);
+    Utf8Converter converter;
+    std::wstring converted = converter.from_bytes(text);
+    ThrowUnlessWhole(converter.converted() == text.size());
+    return converted;
 }
 
 std::string Utf8FromWstring(const std::wstring& text)
 {
-    return Utf8Converter().to_bytes(text);
+    Utf8Converter converter;
+    std::string converted = converter.to_bytes(text);
+    ThrowUnlessWhole(converter.converted() == text.size());
+    return converted;
 }
 
 } // namespace Core

@@ -72,7 +72,7 @@ const std::vector<ArchiveEntry> product = {
 
 TEST_F(ArchiveExtractorTest, RealPayloadUnpacksBitForBit)
 {
-    for (const QString& name : {"small.7z", "many-blocks.7z", "old-methods.7z"})
+    for (const QString name : {"small.7z", "many-blocks.7z", "old-methods.7z"})
     {
         EmptyOutput();
         EXPECT_EQ(Unpack(Payload(name)), "") << name.toStdString();
@@ -172,7 +172,7 @@ TEST_F(ArchiveExtractorTest, WhatIsNoArchiveIsRefused)
 
 TEST_F(ArchiveExtractorTest, HostileNamesAreRefusedBeforeAnythingIsWritten)
 {
-    for (const QString& name :
+    for (const QString name :
         {"../out.txt", "/tmp/out.txt", "a\\..\\..\\out.txt", "C:out.txt", ""})
     {
         EXPECT_EQ(Unpack(Write({{"first.txt", "first"}, {name, "out"}})), corrupted)

@@ -176,8 +176,9 @@ TEST_F(FilePlacementTest, HostHearsOfNineCopyErrors)
         access.HandleCopyFileError(QString("file%1").arg(i), "reason");
     EXPECT_EQ(signalLog.Calls().size(), 9);
     EXPECT_EQ(signalLog.Calls().last(), "CopyFileError(file9, reason)");
-    EXPECT_EQ(machine.Log(), QStringList({"Error on file  \"file10\" .  \"reason\"",
-                                 "Error on file  \"file11\" .  \"reason\""}));
+    EXPECT_EQ(machine.Log().filter("Error on file"),
+        QStringList({"Error on file  \"file10\" .  \"reason\"",
+            "Error on file  \"file11\" .  \"reason\""}));
 }
 
 TEST_F(FilePlacementTest, ProgressComesWhenMoreThanTenMillisecondsHavePassed)
