@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 namespace
 {
 
@@ -93,6 +95,7 @@ QMap<QString, QByteArray> ReadTree(const QString& folder)
 QString Payload(const QString& name)
 {
     const QString folder = qEnvironmentVariable("VORLAN_TEST_PAYLOADS");
-    EXPECT_FALSE(folder.isEmpty()) << "VORLAN_TEST_PAYLOADS names the folder of the test payloads";
+    if (folder.isEmpty())
+        throw std::runtime_error("VORLAN_TEST_PAYLOADS does not name the folder of the payloads");
     return folder + '/' + name;
 }
