@@ -172,8 +172,7 @@ TEST_F(ArchiveExtractorTest, WhatIsNoArchiveIsRefused)
 
 TEST_F(ArchiveExtractorTest, HostileNamesAreRefusedBeforeAnythingIsWritten)
 {
-    for (const QString name :
-        {"../out.txt", "/tmp/out.txt", "a\\..\\..\\out.txt", "C:out.txt", ""})
+    for (const QString name : {"../out.txt", "/tmp/out.txt", "a\\..\\..\\out.txt", "C:out.txt", ""})
     {
         EXPECT_EQ(Unpack(Write({{"first.txt", "first"}, {name, "out"}})), corrupted)
             << name.toStdString();
