@@ -14,6 +14,10 @@ add_library(LzmaSdk::LzmaSdk ALIAS LzmaSdk)
 target_include_directories(LzmaSdk SYSTEM PUBLIC "${LZMA_SDK_DIR}")
 target_compile_definitions(LzmaSdk PUBLIC Z7_PPMD_SUPPORT)
 target_compile_options(LzmaSdk PRIVATE -w $<$<NOT:$<CONFIG:Debug>>:-O3>)
+if(VORLAN_SANITIZE)
+    # The SDK reads unaligned numbers on processors that allow it.
+    target_compile_options(LzmaSdk PRIVATE -fno-sanitize=alignment)
+endif()
 if(NOT WIN32)
     # The SDK knows wide file names only with Windows file calls: it gets those of our own layer,
     # so that injected faults reach its reads and writes as well.

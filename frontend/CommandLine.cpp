@@ -150,9 +150,11 @@ QString FindConflict(const CommandLine& options)
 bool SpellsPath(const QStringList& words, const QString& programPath)
 {
     const QString joined = words.join(' ');
+    const auto matches = [](const QString& path, const QString& other)
+    { return path.compare(other, Qt::CaseInsensitive) == 0; };
     const QString typed = QDir::fromNativeSeparators(joined).simplified();
-    return typed == QDir::fromNativeSeparators(programPath).simplified() ||
-           QFileInfo(joined).canonicalFilePath() == programPath;
+    return matches(typed, QDir::fromNativeSeparators(programPath).simplified()) ||
+           matches(QFileInfo(joined).canonicalFilePath(), programPath);
 }
 
 } // namespace

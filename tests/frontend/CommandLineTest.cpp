@@ -115,6 +115,7 @@ TEST(CommandLineTest, LeadingWordsThatSpellTheProgramAreDropped)
     EXPECT_EQ(DropProgramPath(QStringList{"uninst.exe"} + rest, path), rest);
     EXPECT_EQ(
         DropProgramPath({"/x/a", "b/uninst.exe", "/S"}, "/x/a  b/uninst.exe"), QStringList{"/S"});
+    EXPECT_EQ(DropProgramPath({"/X/vorlan", "quillax/UNINST.EXE", "/S"}, path), QStringList{"/S"});
     EXPECT_EQ(DropProgramPath({path}, path), QStringList());
     EXPECT_EQ(DropProgramPath({}, path), QStringList());
 }

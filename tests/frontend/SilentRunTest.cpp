@@ -113,6 +113,18 @@ TEST_F(SilentRunTest, AnArchiveThatIsNoneIsOneLine)
     EXPECT_EQ(setup.DefaultProductFolder(), QString());
 }
 
+TEST_F(SilentRunTest, ARunThatFailsIsOneLineInTheChosenLanguage)
+{
+    QByteArray damaged = ReadFile(Payload("small.7z"));
+    damaged.replace(5000, 100, QByteArray(100, 'x'));
+    setup.AddArchiveContent(damaged);
+    setup.AddProgram("resources/locales/fr_FR/InstallerGUI_fr_FR.qm");
+    const auto result = setup.Start({"/S", "/LANG=fr_FR"});
+    EXPECT_EQ(result.exitCode, failed);
+    ExpectOneLineWith(result, QString::fromUtf8("L'installation a échoué."));
+    EXPECT_TRUE(ReadFile(LogNamedIn(result.errors)).contains("warning  Error "));
+}
+
 TEST_F(SilentRunTest, ADestinationThatIsAFileIsRefusedByName)
 {
     setup.AddArchive("small.7z");

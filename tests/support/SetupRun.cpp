@@ -34,8 +34,9 @@ int SetupRun::ShownExitCode(int code)
 void SetupRun::AddProgram(const QString& fileName)
 {
     const QString source = QDir(FRONTEND_FOLDER).filePath(fileName);
-    EXPECT_TRUE(QFile::copy(source, QDir(SetupFolder()).filePath(fileName)))
-        << source.toStdString();
+    const QString target = QDir(SetupFolder()).filePath(fileName);
+    EXPECT_TRUE(QDir().mkpath(QFileInfo(target).path()));
+    EXPECT_TRUE(QFile::copy(source, target)) << source.toStdString();
 }
 
 void SetupRun::AddArchive(const QString& payloadName)

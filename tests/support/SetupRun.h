@@ -30,7 +30,7 @@ public:
     Result Start(const QString& program, const QStringList& arguments);
     Result Start(const QStringList& arguments) { return Start("installergui.exe", arguments); }
 
-    // Copies a built program into the setup folder.
+    // Copies a file of the build's program folder into the setup folder, under the same path.
     void AddProgram(const QString& fileName);
 
     QString WorkFolder() const;  // where the program is started
