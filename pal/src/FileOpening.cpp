@@ -156,10 +156,10 @@ HANDLE OpenNativeFile(const std::string& path, const OpenRequest& request)
     if (S_ISDIR(ModeOf(descriptor)))
         return FailedOpen(ERROR_ACCESS_DENIED);
     const HANDLE handle = EnterFile(file, request.disposition);
-    const bool mayCreate =
-        request.disposition == CREATE_ALWAYS || request.disposition == OPEN_ALWAYS;
-    if (handle != INVALID_HANDLE_VALUE && mayCreate)
-        SetLastError(existed ? ERROR_ALREADY_EXISTS : ERROR_SUCCESS);
+    const bool foundInstead =
+        existed && (request.disposition == CREATE_ALWAYS || request.disposition == OPEN_ALWAYS);
+    if (handle != INVALID_HANDLE_VALUE)
+        SetLastError(foundInstead ? ERROR_ALREADY_EXISTS : ERROR_SUCCESS);
     return handle;
 }
 
@@ -189,9 +189,9 @@ DWORD AttributesOf(const std::string& path, const struct stat& status)
 
 } // namespace Pal
 
-// Keeps:   access, share modes and dispositions; ERROR_FILE_EXISTS from CREATE_NEW; after
-//          CREATE_ALWAYS and OPEN_ALWAYS the last error tells whether the file was there; a folder
-//          is ERROR_ACCESS_DENIED; a symbolic link is followed.
+// Keeps:   access, share modes and dispositions; ERROR_FILE_EXISTS from CREATE_NEW; success sets
+//          the last error to zero, or to ERROR_ALREADY_EXISTS where CREATE_ALWAYS or OPEN_ALWAYS
+//          found the file; a folder is ERROR_ACCESS_DENIED; a symbolic link is followed.
 // Differs: share modes bind the handles of this process only, and FILE_SHARE_DELETE changes
 //          nothing. Names are case-sensitive and may hold any character. A new file gets mode 0777
 //          less the umask, because Windows has no executable bit.

@@ -28,6 +28,12 @@ StoredValue StoredText(const QString& text)
     return {REG_BINARY, QByteArray(reinterpret_cast<const char*>(text.utf16()), size)};
 }
 
+// With its zeros, which the conversion of a whole array stops at.
+QString Latin1Text(const QByteArray& bytes)
+{
+    return QString::fromLatin1(bytes.constData(), bytes.size());
+}
+
 QString Streamed(const QVariant& value)
 {
     const bool isTime = value.userType() == QMetaType::QDateTime;
@@ -35,7 +41,7 @@ QString Streamed(const QVariant& value)
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     stream.setVersion(isTime ? QDataStream::Qt_5_6 : QDataStream::Qt_4_0);
     stream << value;
-    return (isTime ? "@DateTime(" : "@Variant(") + QString::fromLatin1(bytes) + ')';
+    return (isTime ? "@DateTime(" : "@Variant(") + Latin1Text(bytes) + ')';
 }
 
 QString EscapedText(const QString& text)
@@ -50,7 +56,7 @@ QString TextOf(const QVariant& value)
     case QMetaType::UnknownType:
         return "@Invalid()";
     case QMetaType::QByteArray:
-        return "@ByteArray(" + QString::fromLatin1(value.toByteArray()) + ')';
+        return "@ByteArray(" + Latin1Text(value.toByteArray()) + ')';
     case QMetaType::QString:
     case QMetaType::Bool:
     case QMetaType::Int:

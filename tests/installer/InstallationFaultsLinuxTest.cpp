@@ -73,11 +73,17 @@ TEST_F(InstallationFaultsTest, RegistryThatCannotBeWrittenDoesNotStopTheRun)
 TEST_F(InstallationFaultsTest, DamagedRegistryIsReportedAndSetAside)
 {
     const QString file = machine.Path("machine/registry/HKEY_CURRENT_USER.reg");
-    Install();
     WriteFile(file, "no registry at all");
-    Install();
-    EXPECT_EQ(signalLog.Calls().last(), "InstallationFinished");
+    InstallerMediator next({name, false, true, QSettings::UserScope, false});
+    MediatorAccess nextAccess{next};
+    next.SetSettings(mediator.GetSettings());
+    nextAccess.OpenArchive(Payload("small.7z"));
+    SignalLog nextLog(next);
+    next.StartInstallation();
+    nextLog.WaitForEnd();
+
+    EXPECT_EQ(nextLog.Calls().last(), "InstallationFinished");
     EXPECT_EQ(ReadFile(file + ".damaged-1"), "no registry at all");
     EXPECT_EQ(machine.Log().filter("Registry file is damaged and was set aside").size(), 1);
-    EXPECT_EQ(access.Registry().GetInstallLocation(), machine.Path("Vorlan Quillax/"));
+    EXPECT_EQ(nextAccess.Registry().GetInstallLocation(), machine.Path("Vorlan Quillax/"));
 }

@@ -1,0 +1,280 @@
+#include "support/LinuxProcesses.h"
+#include "support/RegistryFiles.h"
+
+#include <csignal>
+
+#include <sys/resource.h>
+
+namespace
+{
+
+using Names = std::vector<std::wstring>;
+using namespace std::string_literals;
+
+const std::string header = "Windows Registry Editor Version 5.00\n\n";
+const std::string journalStart = header + "[HKEY_CURRENT_USER]\n\n"
+                                          "[HKEY_CURRENT_USER\\Software\\VorlanPalTests]\n\n";
+
+class RegistryFileLinuxTest : public RegistryFiles
+{
+};
+
+TEST_F(RegistryFileLinuxTest, EveryChangeIsOneRecordInRegeditsFormat)
+{
+    SetText(Key(), L"plain", L"C:\\dir\\\"x\"");
+    SetText(Key(), L"", L"\u4e2d \U0001F3B5");
+    SetText(Key(), L"lines", L"a\r\nb");
+    SetWide(Key(), L"open", REG_SZ, L"ab");
+    SetWide(Key(), L"expand", REG_EXPAND_SZ, L"%A%\0"s);
+    SetWide(Key(), L"multi", REG_MULTI_SZ, L"a\0b\0\0"s);
+    SetBytes(Key(), L"number", REG_DWORD, {0x78, 0x56, 0x34, 0x12});
+    SetBytes(Key(), L"short", REG_DWORD, {1, 2});
+    SetBytes(Key(), L"wide", REG_QWORD, {8, 7, 6, 5, 4, 3, 2, 1});
+    SetBytes(Key(), L"none", REG_NONE, {});
+    SetBytes(Key(), L"long", REG_BINARY, std::vector<BYTE>(50, 0xAB));
+    RegDeleteValueW(Key(), L"lines");
+    RegCloseKey(MakeKey(Key(), L"Sub\\Key"));
+    RegDeleteKeyW(Key(), L"Sub\\Key");
+
+    const std::string section = "[HKEY_CURRENT_USER\\Software\\VorlanPalTests]\n";
+    const std::string expected =
+        journalStart + section + "\"plain\"=\"C:\\\\dir\\\\\\\"x\\\"\"\n\n" + section +
+        "@=\"\u4e2d \U0001F3B5\"\n\n" + section +
+        "\"lines\"=hex(1):61,00,0d,00,0a,00,62,00,00,00\n\n" + section +
+        "\"open\"=hex(1):61,00,62,00\n\n" + section +
+        "\"expand\"=hex(2):25,00,41,00,25,00,00,00\n\n" + section +
+        "\"multi\"=hex(7):61,00,00,00,62,00,00,00,00,00\n\n" + section +
+        "\"number\"=dword:12345678\n\n" + section + "\"short\"=hex(4):01,02\n\n" + section +
+        "\"wide\"=hex(b):08,07,06,05,04,03,02,01\n\n" + section + "\"none\"=hex(0):\n\n" + section +
+        "\"long\"=hex:ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,\\\n"
+        "  ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,ab,\\\n"
+        "  ab,ab,ab\n\n" +
+        section + "\"lines\"=-\n\n" +
+        "[HKEY_CURRENT_USER\\Software\\VorlanPalTests\\Sub\\Key]\n\n" +
+        "[-HKEY_CURRENT_USER\\Software\\VorlanPalTests\\Sub\\Key]\n\n";
+    EXPECT_EQ(Text(), expected);
+
+    ReadAnew();
+    const HKEY again = MakeKey(HKEY_CURRENT_USER, keyPath);
+    EXPECT_EQ(ValueNames(again), (Names{L"plain", L"", L"open", L"expand", L"multi", L"number",
+                                     L"short", L"wide", L"none", L"long"}));
+    EXPECT_EQ(TextOf(again, L""), L"\u4e2d \U0001F3B5");
+    EXPECT_EQ(SeeValue(again, L"multi")->Text(), L"a\0b\0\0"s);
+    EXPECT_EQ(SeeValue(again, L"short")->data, (std::vector<BYTE>{1, 2}));
+    EXPECT_EQ(SeeValue(again, L"long")->data, std::vector<BYTE>(50, 0xAB));
+    EXPECT_EQ(SubKeyNames(again), Names{L"Sub"});
+    RegCloseKey(again);
+}
+
+TEST_F(RegistryFileLinuxTest, ANormalEndLeavesASortedFileThatHoldsEverythingOnce)
+{
+    SetText(Key(), L"b", L"first");
+    const auto change = []
+    {
+        const HKEY key = MakeKey(HKEY_CURRENT_USER, keyPath);
+        for (const wchar_t* name : {L"b", L"a", L"b"})
+            SetText(key, name, L"text");
+        for (const wchar_t* name : {L"zeta", L"Beta"})
+            RegCloseKey(MakeKey(key, name));
+        return RegCloseKey(key);
+    };
+    ASSERT_EQ(WaitForChild(StartChild(change, Ending::Normal)), 0);
+    EXPECT_EQ(Text(), header + "[HKEY_CURRENT_USER]\n\n"
+                               "[HKEY_CURRENT_USER\\Software]\n\n"
+                               "[HKEY_CURRENT_USER\\Software\\VorlanPalTests]\n"
+                               "\"b\"=\"text\"\n"
+                               "\"a\"=\"text\"\n\n"
+                               "[HKEY_CURRENT_USER\\Software\\VorlanPalTests\\Beta]\n\n"
+                               "[HKEY_CURRENT_USER\\Software\\VorlanPalTests\\zeta]\n\n");
+    EXPECT_EQ(SubKeyNames(Key()), (Names{L"Beta", L"zeta"}));
+}
+
+TEST_F(RegistryFileLinuxTest, TheFileDoesNotGrowWithTheNumberOfChanges)
+{
+    const std::wstring text(500, L'x');
+    for (int i = 0; i < 1000; ++i)
+        ASSERT_EQ(SetText(Key(), L"value", text + std::to_wstring(i)), ERROR_SUCCESS);
+    EXPECT_LT(Bytes(FilePath()).size(), 72 * 1024);
+    ReadAnew();
+    EXPECT_EQ(TextOf(Key(), L"value"), text + L"999");
+}
+
+TEST_F(RegistryFileLinuxTest, AFileEditedByHandIsRead)
+{
+    PutFile(DiskForm(header + "; a comment\n"
+                              "[HKEY_CURRENT_USER\\A]\n"
+                              "@=\"default\"\n"
+                              "\"hex\"=hex:0A,\\\n  0b\n"
+                              "\"gone\"=\"soon\"\n\n\n"
+                              "[hkey_current_user\\a\\B]\n\n"
+                              "[HKEY_CURRENT_USER\\A]\n"
+                              "\"gone\"=-\n\n"
+                              "[-HKEY_CURRENT_USER\\A\\B]\n\n"
+                              "[HKEY_CURRENT_USER\\C]\n"
+                              "\"number\"=dword:000000fF\n\n"));
+    const HKEY a = MakeKey(HKEY_CURRENT_USER, L"A");
+    const HKEY c = MakeKey(HKEY_CURRENT_USER, L"C");
+    EXPECT_EQ(ValueNames(a), (Names{L"", L"hex"}));
+    EXPECT_EQ(SubKeyNames(a), Names{});
+    EXPECT_EQ(SeeValue(a, L"hex")->data, (std::vector<BYTE>{0x0A, 0x0B}));
+    EXPECT_EQ(SeeValue(c, L"number")->data, (std::vector<BYTE>{0xFF, 0, 0, 0}));
+    RegCloseKey(a);
+    RegCloseKey(c);
+    PutFile(DiskForm(journalStart));
+}
+
+TEST_F(RegistryFileLinuxTest, ARecordCutOffAnywhereLeavesTheOldContentAndIsCutOffForGood)
+{
+    SetText(Key(), L"value", L"old");
+    const QByteArray before = Bytes(FilePath());
+    SetText(Key(), L"value", L"new");
+    const QByteArray after = Bytes(FilePath());
+    for (int size = before.size(); size <= after.size(); ++size)
+    {
+        PutFile(after.left(size));
+        const bool whole = size == after.size();
+        ASSERT_EQ(TextOf(Key(), L"value"), whole ? L"new" : L"old") << size;
+        ASSERT_EQ(SetText(Key(), L"next", L"1"), ERROR_SUCCESS);
+        const std::string kept = TextForm(whole ? after : before);
+        ASSERT_EQ(Text(), kept + "[HKEY_CURRENT_USER\\Software\\VorlanPalTests]\n"
+                                 "\"next\"=\"1\"\n\n");
+    }
+}
+
+TEST_F(RegistryFileLinuxTest, ADamagedFileIsReportedAndSetAsideNeverOverwritten)
+{
+    const std::string key = "[HKEY_CURRENT_USER\\A]\n";
+    const QByteArray damaged[] = {
+        "",
+        DiskForm(header).mid(2),
+        DiskForm("REGEDIT4\n\n"),
+        DiskForm(header + "\"value\"=\"before any key\"\n\n"),
+        DiskForm(header + "[HKEY_LOCAL_MACHINE\\A]\n\n"),
+        DiskForm(header + "[HKEY_CURRENT_USER\\A\n\n"),
+        DiskForm(header + "[-HKEY_CURRENT_USER]\n\n"),
+        DiskForm(header + key + "\"value\"=\"no end\n\n"),
+        DiskForm(header + key + "\"value\"=\"text\" more\n\n"),
+        DiskForm(header + key + "\"value\"=dword:xyz\n\n"),
+        DiskForm(header + key + "\"value\"=hex:00,1g\n\n"),
+        DiskForm(header + key + "\"value\"=hex(b:00\n\n"),
+        DiskForm(header + key + "\"value\"=hex:00,\\\n\n"),
+        DiskForm(header + key + "garbage\n\n"),
+    };
+    int number = 0;
+    for (const QByteArray& content : damaged)
+    {
+        PutFile(content);
+        const WarningLog log;
+        const HKEY root = MakeKey(HKEY_CURRENT_USER, L"");
+        ASSERT_NE(root, nullptr);
+        EXPECT_EQ(SubKeyNames(root), Names{});
+        const QString aside = FilePath() + ".damaged-" + QString::number(++number);
+        EXPECT_EQ(WarningLog::Lines(),
+            QStringList{"Registry file is damaged and was set aside: " + aside});
+        EXPECT_EQ(Bytes(aside), content) << number;
+        EXPECT_EQ(SetText(root, L"value", L"goes on"), ERROR_SUCCESS);
+        EXPECT_EQ(Text(), header + "[HKEY_CURRENT_USER]\n\n[HKEY_CURRENT_USER]\n"
+                                   "\"value\"=\"goes on\"\n\n");
+        RegCloseKey(root);
+    }
+    EXPECT_EQ(number, 14);
+}
+
+TEST_F(RegistryFileLinuxTest, AnUnreadableFileIsAnErrorAndOneWarning)
+{
+    QFile::remove(FilePath());
+    ASSERT_TRUE(QDir().mkdir(FilePath()));
+    {
+        const WarningLog log;
+        HKEY key = nullptr;
+        for (int i = 0; i < 2; ++i)
+            EXPECT_EQ(
+                RegOpenKeyExW(HKEY_CURRENT_USER, keyPath, 0, KEY_READ, &key), ERROR_ACCESS_DENIED);
+        EXPECT_EQ(WarningLog::Lines(), QStringList{"Registry file cannot be read: " + FilePath()});
+    }
+    ASSERT_TRUE(QDir().rmdir(FilePath()));
+}
+
+TEST_F(RegistryFileLinuxTest, AMachineThatCannotBeMadeIsAnErrorAndOneWarning)
+{
+    const QByteArray machine = qgetenv("VORLAN_MACHINE");
+    const QString file = QString::fromStdWString(PathOf(L"no folder"));
+    QFile(file).open(QIODevice::WriteOnly);
+    qputenv("VORLAN_MACHINE", file.toUtf8());
+    {
+        const WarningLog log;
+        HKEY key = nullptr;
+        for (int i = 0; i < 2; ++i)
+            EXPECT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, keyPath, 0, nullptr, 0, KEY_ALL_ACCESS,
+                          nullptr, &key, nullptr),
+                ERROR_PATH_NOT_FOUND);
+        EXPECT_EQ(WarningLog::Lines(), QStringList{"Registry file cannot be written: " + file +
+                                                   "/registry/HKEY_CURRENT_USER.reg"});
+    }
+    qputenv("VORLAN_MACHINE", machine);
+}
+
+TEST_F(RegistryFileLinuxTest, AWriteThatFailsHalfwayLeavesTheOldContent)
+{
+    SetText(Key(), L"value", L"old");
+    const QByteArray before = Bytes(FilePath());
+    const HKEY key = Key();
+    const auto writeWithLittleRoom = [key, &before]
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const auto room = static_cast<rlim_t>(before.size()) + 20;
+        const rlimit limit = {room, room};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        const WarningLog log;
+        int wrong = SetText(key, L"value", L"new") == ERROR_DISK_FULL ? 0 : 1;
+        wrong += SetText(key, L"other", L"new") == ERROR_DISK_FULL ? 0 : 2;
+        wrong += TextOf(key, L"value") == L"old" ? 0 : 4;
+        return wrong + (WarningLog::Lines().size() == 1 ? 0 : 8);
+    };
+    EXPECT_EQ(WaitForChild(StartChild(writeWithLittleRoom)), 0);
+    EXPECT_EQ(Bytes(FilePath()), before);
+    EXPECT_EQ(TextOf(Key(), L"value"), L"old");
+}
+
+TEST_F(RegistryFileLinuxTest, AnotherMachineRootIsAnotherRegistryAtOnce)
+{
+    SetText(Key(), L"where", L"first");
+    const QByteArray machine = qgetenv("VORLAN_MACHINE");
+    qputenv("VORLAN_MACHINE", machine + "-second");
+    HKEY key = nullptr;
+    EXPECT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, keyPath, 0, KEY_READ, &key), ERROR_FILE_NOT_FOUND);
+    EXPECT_TRUE(QDir(machine + "-second/Windows/System32").exists());
+    EXPECT_EQ(TextOf(Key(), L"where"), L"first");
+    qputenv("VORLAN_MACHINE", machine);
+    ASSERT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, keyPath, 0, KEY_READ, &key), ERROR_SUCCESS);
+    EXPECT_EQ(TextOf(key, L"where"), L"first");
+    RegCloseKey(key);
+}
+
+TEST_F(RegistryFileLinuxTest, WhatTheFileCannotHoldIsRefused)
+{
+    HKEY key = nullptr;
+    FILETIME time = {};
+    wchar_t name[8];
+    DWORD length = 8;
+    EXPECT_EQ(SetText(Key(), L"two\nlines", L"text"), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(SetBytes(Key(), L"half", REG_SZ, {1, 2}), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(SetBytes(Key(), L"link", 6, {}), ERROR_NOT_SUPPORTED);
+    EXPECT_EQ(
+        RegCreateKeyExW(Key(), L"two\nlines", 0, nullptr, 0, KEY_READ, nullptr, &key, nullptr),
+        ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(RegCreateKeyExW(Key(), L"Sub", 0, nullptr, 1, KEY_READ, nullptr, &key, nullptr),
+        ERROR_NOT_SUPPORTED);
+    EXPECT_EQ(RegCreateKeyExW(Key(), L"Sub", 0, name, 0, KEY_READ, nullptr, &key, nullptr),
+        ERROR_NOT_SUPPORTED);
+    EXPECT_EQ(RegOpenKeyExW(Key(), L"", 8, KEY_READ, &key), ERROR_NOT_SUPPORTED);
+    EXPECT_EQ(RegOpenKeyExW(Key(), L"", 0, GENERIC_READ, &key), ERROR_NOT_SUPPORTED);
+    EXPECT_EQ(RegOpenKeyExW(Key(), L"", 0, KEY_WOW64_32KEY | KEY_WOW64_64KEY, &key),
+        ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(RegOpenKeyExW(Key(), L"\\Sub", 0, KEY_READ, &key), ERROR_BAD_PATHNAME);
+    EXPECT_EQ(RegEnumKeyExW(Key(), 0, name, &length, nullptr, nullptr, nullptr, &time),
+        ERROR_NOT_SUPPORTED);
+    EXPECT_EQ(Text(), journalStart);
+}
+
+} // namespace

@@ -1,0 +1,210 @@
+#include "support/PalMachine.h"
+#include "support/RegistryCalls.h"
+
+#include <cwchar>
+
+namespace
+{
+
+using Names = std::vector<std::wstring>;
+using Bytes = std::vector<BYTE>;
+
+class RegistryValuesTest : public PalMachine
+{
+};
+
+TEST_F(RegistryValuesTest, EveryTypeComesBackAsItWasStored)
+{
+    const std::vector<std::pair<DWORD, Bytes>> values = {
+        {REG_NONE, {}},
+        {REG_NONE, {1, 2, 3}},
+        {REG_BINARY, Bytes(300, 0xA5)},
+        {REG_DWORD, {0x78, 0x56, 0x34, 0x12}},
+        {REG_QWORD, {1, 0, 0, 0, 0, 0, 0, 0x80}},
+    };
+    for (const auto& [type, data] : values)
+    {
+        ASSERT_EQ(SetBytes(Key(), L"value", type, data), ERROR_SUCCESS);
+        const auto seen = SeeValue(Key(), L"VALUE");
+        ASSERT_TRUE(seen);
+        EXPECT_EQ(seen->type, type);
+        EXPECT_EQ(seen->data, data);
+    }
+}
+
+TEST_F(RegistryValuesTest, EveryTextTypeComesBackAsItWasStored)
+{
+    using namespace std::string_literals;
+    const std::vector<std::pair<DWORD, std::wstring>> texts = {
+        {REG_SZ, L"\0"s},
+        {REG_SZ, L"plain\0"s},
+        {REG_SZ, L"\"quoted\" C:\\back\\slash %PATH% ; [x]\0"s},
+        {REG_SZ, L"two\r\nlines\0"s},
+        {REG_SZ, L"a zero \0 inside\0"s},
+        {REG_SZ, L"\u4e2d\u6587 \u00fc\0"s},
+        {REG_EXPAND_SZ, L"%ProgramFiles%\\x\0"s},
+        {REG_MULTI_SZ, L"one\0two\0\0"s},
+        {REG_MULTI_SZ, L"\0"s},
+    };
+    for (const auto& [type, text] : texts)
+    {
+        ASSERT_EQ(SetWide(Key(), L"value", type, text), ERROR_SUCCESS);
+        const auto seen = SeeValue(Key(), L"value");
+        ASSERT_TRUE(seen);
+        EXPECT_EQ(seen->type, type);
+        EXPECT_EQ(seen->Text(), text);
+    }
+}
+
+TEST_F(RegistryValuesTest, AskingTellsTheSizeAndATooSmallBufferIsMoreData)
+{
+    SetText(Key(), L"value", L"1234");
+    const DWORD bytes = 5 * sizeof(wchar_t);
+    DWORD size = 0;
+    DWORD type = 0;
+    BYTE data[64] = {};
+    EXPECT_EQ(RegQueryValueExW(Key(), L"value", nullptr, &type, nullptr, nullptr), ERROR_SUCCESS);
+    EXPECT_EQ(type, DWORD{REG_SZ});
+    EXPECT_EQ(RegQueryValueExW(Key(), L"value", nullptr, nullptr, nullptr, &size), ERROR_SUCCESS);
+    EXPECT_EQ(size, bytes);
+    size = bytes - 1;
+    EXPECT_EQ(RegQueryValueExW(Key(), L"value", nullptr, &type, data, &size), ERROR_MORE_DATA);
+    EXPECT_EQ(size, bytes);
+    EXPECT_EQ(RegQueryValueExW(Key(), L"value", nullptr, &type, data, &size), ERROR_SUCCESS);
+    EXPECT_STREQ(reinterpret_cast<const wchar_t*>(data), L"1234");
+    EXPECT_EQ(
+        RegQueryValueExW(Key(), L"value", nullptr, &type, data, nullptr), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(
+        RegQueryValueExW(Key(), L"none", nullptr, &type, nullptr, &size), ERROR_FILE_NOT_FOUND);
+}
+
+TEST_F(RegistryValuesTest, TextStoredWithoutAZeroIsReadWithOneWhereThereIsRoom)
+{
+    const DWORD bytes = 3 * sizeof(wchar_t);
+    ASSERT_EQ(
+        RegSetValueExW(Key(), L"value", 0, REG_SZ, reinterpret_cast<const BYTE*>(L"abcX"), bytes),
+        ERROR_SUCCESS);
+    wchar_t text[8];
+    std::wmemset(text, L'#', 8);
+    DWORD size = bytes;
+    EXPECT_EQ(
+        RegQueryValueExW(Key(), L"value", nullptr, nullptr, reinterpret_cast<BYTE*>(text), &size),
+        ERROR_SUCCESS);
+    EXPECT_EQ(size, bytes);
+    EXPECT_EQ(std::wstring(text, 4), L"abc#");
+    size = sizeof(text);
+    EXPECT_EQ(
+        RegQueryValueExW(Key(), L"value", nullptr, nullptr, reinterpret_cast<BYTE*>(text), &size),
+        ERROR_SUCCESS);
+    EXPECT_EQ(size, bytes);
+    EXPECT_STREQ(text, L"abc");
+}
+
+TEST_F(RegistryValuesTest, NamesIgnoreCaseAndKeepTheOneTheyWereMadeWith)
+{
+    SetText(Key(), L"InstallDir", L"first");
+    SetText(Key(), L"INSTALLDIR", L"second");
+    EXPECT_EQ(ValueNames(Key()), Names{L"InstallDir"});
+    EXPECT_EQ(TextOf(Key(), L"installdir"), L"second");
+}
+
+TEST_F(RegistryValuesTest, TheDefaultValueHasAnEmptyNameOrNone)
+{
+    SetText(Key(), L"", L"default");
+    DWORD size = 0;
+    EXPECT_EQ(RegQueryValueExW(Key(), nullptr, nullptr, nullptr, nullptr, &size), ERROR_SUCCESS);
+    EXPECT_EQ(size, 8 * sizeof(wchar_t));
+    EXPECT_EQ(ValueNames(Key()), Names{L""});
+    EXPECT_EQ(RegDeleteValueW(Key(), nullptr), ERROR_SUCCESS);
+    EXPECT_EQ(RegDeleteValueW(Key(), L""), ERROR_FILE_NOT_FOUND);
+}
+
+TEST_F(RegistryValuesTest, ANameMayHoldWhatAKeyNameMayNot)
+{
+    const Names names = {L"back\\slash", L"\"quoted\"", L"[a]=b", L"@", L"; c", L"sl/ash"};
+    for (const std::wstring& name : names)
+        SetText(Key(), name, name);
+    EXPECT_EQ(ValueNames(Key()), names);
+    for (const std::wstring& name : names)
+        EXPECT_EQ(TextOf(Key(), name), name);
+}
+
+TEST_F(RegistryValuesTest, AValueNameHasAtMost16383Characters)
+{
+    EXPECT_EQ(SetText(Key(), std::wstring(16383, L'n'), L"text"), ERROR_SUCCESS);
+    EXPECT_EQ(SetText(Key(), std::wstring(16384, L'n'), L"text"), ERROR_INVALID_PARAMETER);
+}
+
+TEST_F(RegistryValuesTest, ValuesAreListedInTheOrderTheyWereMade)
+{
+    for (const wchar_t* name : {L"c", L"a", L"b"})
+        SetText(Key(), name, name);
+    SetText(Key(), L"c", L"changed");
+    EXPECT_EQ(ValueNames(Key()), (Names{L"c", L"a", L"b"}));
+    EXPECT_EQ(RegDeleteValueW(Key(), L"A"), ERROR_SUCCESS);
+    SetText(Key(), L"a", L"again");
+    EXPECT_EQ(ValueNames(Key()), (Names{L"c", L"b", L"a"}));
+}
+
+TEST_F(RegistryValuesTest, ListingGivesNameTypeAndDataAndSaysWhatDoesNotFit)
+{
+    SetText(Key(), L"four", L"text");
+    wchar_t name[8];
+    wchar_t text[8];
+    DWORD type = 0;
+    DWORD length = 4;
+    DWORD size = sizeof(text);
+    const auto list = [&](DWORD index)
+    {
+        return RegEnumValueW(
+            Key(), index, name, &length, nullptr, &type, reinterpret_cast<BYTE*>(text), &size);
+    };
+    EXPECT_EQ(list(0), ERROR_MORE_DATA);
+    length = 5;
+    size = 5 * sizeof(wchar_t) - 1;
+    EXPECT_EQ(list(0), ERROR_MORE_DATA);
+    EXPECT_EQ(size, 5 * sizeof(wchar_t));
+    length = 5;
+    EXPECT_EQ(list(0), ERROR_SUCCESS);
+    EXPECT_EQ(length, 4u);
+    EXPECT_STREQ(name, L"four");
+    EXPECT_EQ(type, DWORD{REG_SZ});
+    EXPECT_STREQ(text, L"text");
+    EXPECT_EQ(list(1), ERROR_NO_MORE_ITEMS);
+}
+
+TEST_F(RegistryValuesTest, TheKeyTellsItsCountsAndLongestNames)
+{
+    RegCloseKey(MakeKey(Key(), L"abc"));
+    RegCloseKey(MakeKey(Key(), L"abcde"));
+    SetText(Key(), L"name", L"123");
+    SetBytes(Key(), L"n", REG_BINARY, Bytes(40));
+    DWORD subKeys = 0;
+    DWORD longestSubKey = 0;
+    DWORD values = 0;
+    DWORD longestName = 0;
+    DWORD longestData = 0;
+    ASSERT_EQ(RegQueryInfoKeyW(Key(), nullptr, nullptr, nullptr, &subKeys, &longestSubKey, nullptr,
+                  &values, &longestName, &longestData, nullptr, nullptr),
+        ERROR_SUCCESS);
+    EXPECT_EQ(subKeys, 2u);
+    EXPECT_EQ(longestSubKey, 5u);
+    EXPECT_EQ(values, 2u);
+    EXPECT_EQ(longestName, 4u);
+    EXPECT_EQ(longestData, 40u);
+}
+
+TEST_F(RegistryValuesTest, ManyValuesInOneKeyAreAllThereAndCanAllGo)
+{
+    constexpr int count = 10000;
+    for (int i = 0; i < count; ++i)
+        ASSERT_EQ(SetText(Key(), L"value" + std::to_wstring(i), L"text"), ERROR_SUCCESS);
+    const Names names = ValueNames(Key());
+    ASSERT_EQ(names.size(), size_t{count});
+    EXPECT_EQ(names.back(), L"value9999");
+    for (const std::wstring& name : names)
+        ASSERT_EQ(RegDeleteValueW(Key(), name.c_str()), ERROR_SUCCESS);
+    EXPECT_EQ(ValueNames(Key()), Names{});
+}
+
+} // namespace

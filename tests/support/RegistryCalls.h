@@ -1,0 +1,98 @@
+// Short forms of registry calls for tests, on both systems.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <windows.h>
+
+inline HKEY MakeKey(HKEY parent, const std::wstring& path, REGSAM access = KEY_ALL_ACCESS)
+{
+    HKEY key = nullptr;
+    RegCreateKeyExW(
+        parent, path.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE, access, nullptr, &key, nullptr);
+    return key;
+}
+
+inline LSTATUS SetBytes(
+    HKEY key, const std::wstring& name, DWORD type, const std::vector<BYTE>& data)
+{
+    return RegSetValueExW(key, name.c_str(), 0, type, data.data(), static_cast<DWORD>(data.size()));
+}
+
+// Without a closing zero of its own: put it into the text where one is wanted.
+inline LSTATUS SetWide(HKEY key, const std::wstring& name, DWORD type, const std::wstring& text)
+{
+    return RegSetValueExW(key, name.c_str(), 0, type, reinterpret_cast<const BYTE*>(text.data()),
+        static_cast<DWORD>(text.size() * sizeof(wchar_t)));
+}
+
+inline LSTATUS SetText(HKEY key, const std::wstring& name, const std::wstring& text)
+{
+    return SetWide(key, name, REG_SZ, text + L'\0');
+}
+
+struct ValueSeen
+{
+    DWORD type;
+    std::vector<BYTE> data;
+
+    std::wstring Text() const
+    {
+        return std::wstring(
+            reinterpret_cast<const wchar_t*>(data.data()), data.size() / sizeof(wchar_t));
+    }
+};
+
+inline std::optional<ValueSeen> SeeValue(HKEY key, const std::wstring& name)
+{
+    DWORD size = 0;
+    if (RegQueryValueExW(key, name.c_str(), nullptr, nullptr, nullptr, &size) != ERROR_SUCCESS)
+        return std::nullopt;
+    ValueSeen seen{REG_NONE, std::vector<BYTE>(size)};
+    if (RegQueryValueExW(key, name.c_str(), nullptr, &seen.type, seen.data.data(), &size) !=
+        ERROR_SUCCESS)
+        return std::nullopt;
+    return seen;
+}
+
+// The text without its closing zero; "(none)" where there is no such value.
+inline std::wstring TextOf(HKEY key, const std::wstring& name)
+{
+    const std::optional<ValueSeen> seen = SeeValue(key, name);
+    if (!seen)
+        return L"(none)";
+    const std::wstring text = seen->Text();
+    return text.substr(0, text.find(L'\0'));
+}
+
+inline std::vector<std::wstring> ValueNames(HKEY key)
+{
+    std::vector<std::wstring> names;
+    wchar_t name[16384];
+    DWORD length = 16384;
+    for (DWORD index = 0; RegEnumValueW(key, index, name, &length, nullptr, nullptr, nullptr,
+                              nullptr) == ERROR_SUCCESS;
+         ++index)
+    {
+        names.emplace_back(name, length);
+        length = 16384;
+    }
+    return names;
+}
+
+inline std::vector<std::wstring> SubKeyNames(HKEY key)
+{
+    std::vector<std::wstring> names;
+    wchar_t name[256];
+    DWORD length = 256;
+    for (DWORD index = 0; RegEnumKeyExW(key, index, name, &length, nullptr, nullptr, nullptr,
+                              nullptr) == ERROR_SUCCESS;
+         ++index)
+    {
+        names.emplace_back(name, length);
+        length = 256;
+    }
+    return names;
+}
