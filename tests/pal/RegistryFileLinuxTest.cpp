@@ -89,6 +89,17 @@ TEST_F(RegistryFileLinuxTest, ANormalEndLeavesASortedFileThatHoldsEverythingOnce
     EXPECT_EQ(SubKeyNames(Key()), (Names{L"Beta", L"zeta"}));
 }
 
+TEST_F(RegistryFileLinuxTest, ValuesAreListedInTheOrderTheyWereMade)
+{
+    for (const wchar_t* name : {L"c", L"a", L"b"})
+        SetText(Key(), name, name);
+    SetText(Key(), L"c", L"changed");
+    EXPECT_EQ(ValueNames(Key()), (Names{L"c", L"a", L"b"}));
+    EXPECT_EQ(RegDeleteValueW(Key(), L"A"), ERROR_SUCCESS);
+    SetText(Key(), L"a", L"again");
+    EXPECT_EQ(ValueNames(Key()), (Names{L"c", L"b", L"a"}));
+}
+
 TEST_F(RegistryFileLinuxTest, TheFileDoesNotGrowWithTheNumberOfChanges)
 {
     const std::wstring text(500, L'x');
