@@ -116,6 +116,7 @@ TEST_F(RegistryFileLinuxTest, AFileEditedByHandIsRead)
                               "[HKEY_CURRENT_USER\\A]\n"
                               "@=\"default\"\n"
                               "\"hex\"=hex:0A,\\\n  0b\n"
+                              "\"escapes\"=\"\\\\a\\r\\n\\\"\"\n"
                               "\"gone\"=\"soon\"\n\n\n"
                               "[hkey_current_user\\a\\B]\n\n"
                               "[HKEY_CURRENT_USER\\A]\n"
@@ -125,7 +126,8 @@ TEST_F(RegistryFileLinuxTest, AFileEditedByHandIsRead)
                               "\"number\"=dword:000000fF\n\n"));
     const HKEY a = MakeKey(HKEY_CURRENT_USER, L"A");
     const HKEY c = MakeKey(HKEY_CURRENT_USER, L"C");
-    EXPECT_EQ(ValueNames(a), (Names{L"", L"hex"}));
+    EXPECT_EQ(ValueNames(a), (Names{L"", L"hex", L"escapes"}));
+    EXPECT_EQ(TextOf(a, L"escapes"), L"\\a\r\n\"");
     EXPECT_EQ(SubKeyNames(a), Names{});
     EXPECT_EQ(SeeValue(a, L"hex")->data, (std::vector<BYTE>{0x0A, 0x0B}));
     EXPECT_EQ(SeeValue(c, L"number")->data, (std::vector<BYTE>{0xFF, 0, 0, 0}));
