@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -108,11 +109,19 @@ std::string ShownData(const Value& value)
     }
 }
 
+// True until the last item; throws when the registry cannot be read.
+bool More(LSTATUS result)
+{
+    if (result != ERROR_SUCCESS && result != ERROR_NO_MORE_ITEMS)
+        throw std::runtime_error("the registry cannot be read, error " + std::to_string(result));
+    return result == ERROR_SUCCESS;
+}
+
 std::vector<Value> ValuesOf(HKEY key)
 {
     DWORD longestData = 0;
-    RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-        &longestData, nullptr, nullptr);
+    More(RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+        nullptr, &longestData, nullptr, nullptr));
     std::vector<Value> values;
     for (DWORD index = 0;; ++index)
     {
@@ -121,8 +130,8 @@ std::vector<Value> ValuesOf(HKEY key)
         DWORD size = longestData;
         Value value;
         value.data.resize(longestData);
-        if (RegEnumValueW(key, index, name.data(), &nameLength, nullptr, &value.type,
-                value.data.data(), &size) != ERROR_SUCCESS)
+        if (!More(RegEnumValueW(key, index, name.data(), &nameLength, nullptr, &value.type,
+                value.data.data(), &size)))
             return values;
         value.data.resize(size);
         value.name = nameLength ? Utf8({name.data(), nameLength}) : "(Default)";
@@ -137,8 +146,8 @@ std::vector<std::wstring> SubKeysOf(HKEY key)
     {
         std::vector<wchar_t> name(longestName);
         DWORD length = longestName;
-        if (RegEnumKeyExW(key, index, name.data(), &length, nullptr, nullptr, nullptr, nullptr) !=
-            ERROR_SUCCESS)
+        if (!More(RegEnumKeyExW(
+                key, index, name.data(), &length, nullptr, nullptr, nullptr, nullptr)))
             return names;
         names.emplace_back(name.data(), length);
     }
@@ -154,19 +163,26 @@ void PrintBlock(const std::string& path, const std::vector<Value>& values)
 }
 
 // A key that only leads to others has no block of its own.
-LSTATUS PrintKey(HKEY parent, const std::wstring& name, const std::string& path)
+void PrintKey(HKEY parent, const std::wstring& name, const std::string& path)
 {
     HKEY key = nullptr;
-    const LSTATUS error = RegOpenKeyExW(parent, name.c_str(), 0, KEY_READ, &key);
-    if (error != ERROR_SUCCESS)
-        return error;
+    More(RegOpenKeyExW(parent, name.c_str(), 0, KEY_READ, &key));
     const std::vector<Value> values = ValuesOf(key);
     const std::vector<std::wstring> subKeys = SubKeysOf(key);
     if (!values.empty() || subKeys.empty())
         PrintBlock(path, values);
     for (const std::wstring& subKey : subKeys)
         PrintKey(key, subKey, path + '\\' + Utf8(subKey));
-    return RegCloseKey(key);
+    RegCloseKey(key);
+}
+
+void PrintMachine()
+{
+    const std::filesystem::path root = Pal::MachineRoot();
+    if (!std::filesystem::is_directory(root))
+        throw std::runtime_error("there is no machine in " + root.string());
+    PrintKey(HKEY_CURRENT_USER, L"", "HKEY_CURRENT_USER");
+    PrintKey(HKEY_LOCAL_MACHINE, L"", "HKEY_LOCAL_MACHINE");
 }
 
 } // namespace
@@ -180,12 +196,14 @@ int main(int argc, char** argv)
     }
     if (argc == 2)
         setenv("VORLAN_MACHINE", argv[1], 1);
-    if (!std::filesystem::is_directory(Pal::MachineRoot()))
+    try
     {
-        std::fprintf(stderr, "reg-show: there is no machine in %s\n", Pal::MachineRoot().c_str());
+        PrintMachine();
+        return 0;
+    }
+    catch (const std::exception& error)
+    {
+        std::fprintf(stderr, "reg-show: %s\n", error.what());
         return 1;
     }
-    const LSTATUS user = PrintKey(HKEY_CURRENT_USER, L"", "HKEY_CURRENT_USER");
-    const LSTATUS machine = PrintKey(HKEY_LOCAL_MACHINE, L"", "HKEY_LOCAL_MACHINE");
-    return user == ERROR_SUCCESS && machine == ERROR_SUCCESS ? 0 : 1;
 }

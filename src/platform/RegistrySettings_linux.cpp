@@ -185,15 +185,16 @@ public:
         path = "Software\\" + organisation + '\\' + name;
     }
 
-    explicit Implementation(QString keyPath) : root(HKEY_LOCAL_MACHINE)
+    explicit Implementation(QString keyPath) : root(nullptr)
     {
         if (keyPath.startsWith('\\'))
             keyPath.remove(0, 1);
         const QString rootName = keyPath.section('\\', 0, 0);
-        if (rootName == "HKEY_CURRENT_USER")
+        if (rootName == "HKEY_CURRENT_USER" || rootName == "HKCU")
             root = HKEY_CURRENT_USER;
-        const bool named = root == HKEY_CURRENT_USER || rootName == "HKEY_LOCAL_MACHINE";
-        path = named ? keyPath.mid(rootName.size() + 1) : keyPath;
+        else if (rootName == "HKEY_LOCAL_MACHINE" || rootName == "HKLM")
+            root = HKEY_LOCAL_MACHINE;
+        path = keyPath.mid(rootName.size() + 1);
     }
 
     ~Implementation()
@@ -328,7 +329,10 @@ void RegistrySettings::setValue(const QString& key, const QVariant& value)
     }
     const LSTATUS error = m_implementation->Write(m_implementation->FullKey(key), value);
     if (error == ERROR_SUCCESS)
+    {
+        m_implementation->deleteWhenDone = false;
         return;
+    }
     WarnOf("Registry value cannot be written", key, error);
     m_implementation->status = QSettings::AccessError;
 }

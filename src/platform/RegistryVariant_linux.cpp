@@ -5,6 +5,8 @@
 
 #include <QDataStream>
 #include <QIODevice>
+#include <QRect>
+#include <QVector>
 #include <QtDebug>
 
 namespace Vorlan
@@ -46,7 +48,17 @@ QString Streamed(const QVariant& value)
 
 QString EscapedText(const QString& text)
 {
+    if (text.contains(QChar::Null))
+        return "@String(" + text + ')';
     return text.startsWith('@') ? '@' + text : text;
+}
+
+QString TextOfNumbers(const char* name, std::initializer_list<int> numbers)
+{
+    QStringList texts;
+    for (const int number : numbers)
+        texts.append(QString::number(number));
+    return '@' + QLatin1String(name) + '(' + texts.join(' ') + ')';
 }
 
 QString TextOf(const QVariant& value)
@@ -65,6 +77,15 @@ QString TextOf(const QVariant& value)
     case QMetaType::ULongLong:
     case QMetaType::Double:
         return EscapedText(value.toString());
+    case QMetaType::QRect:
+    {
+        const QRect rect = value.toRect();
+        return TextOfNumbers("Rect", {rect.x(), rect.y(), rect.width(), rect.height()});
+    }
+    case QMetaType::QSize:
+        return TextOfNumbers("Size", {value.toSize().width(), value.toSize().height()});
+    case QMetaType::QPoint:
+        return TextOfNumbers("Point", {value.toPoint().x(), value.toPoint().y()});
     default:
         return Streamed(value);
     }
@@ -89,14 +110,25 @@ QByteArray NumberData(Number number)
     return QByteArray(reinterpret_cast<const char*>(&number), sizeof(number));
 }
 
-// The inside of "prefix...)", if the text has that form.
-bool TakeForm(const QString& text, const char* prefix, QByteArray& inside)
+// The inside of "@Name(...)", if the text has that form.
+bool TakeForm(const QString& text, const char* name, QString& inside)
 {
-    const QLatin1String start(prefix);
+    const QString start = '@' + QLatin1String(name) + '(';
     if (!text.startsWith(start) || !text.endsWith(')'))
         return false;
-    inside = text.mid(start.size(), text.size() - start.size() - 1).toLatin1();
+    inside = text.mid(start.size(), text.size() - start.size() - 1);
     return true;
+}
+
+bool TakeNumbers(const QString& text, const char* name, int count, QVector<int>& numbers)
+{
+    QString inside;
+    if (!TakeForm(text, name, inside))
+        return false;
+    numbers.clear();
+    for (const QString& number : inside.split(' '))
+        numbers.append(number.toInt());
+    return numbers.size() == count;
 }
 
 QVariant FromStream(const QByteArray& bytes, int version)
@@ -110,17 +142,26 @@ QVariant FromStream(const QByteArray& bytes, int version)
 
 QVariant FromText(const QString& text)
 {
-    QByteArray inside;
+    QString inside;
+    QVector<int> numbers;
     if (text.startsWith("@@"))
         return text.mid(1);
     if (text == "@Invalid()")
         return {};
-    if (TakeForm(text, "@ByteArray(", inside))
+    if (TakeForm(text, "String", inside))
         return inside;
-    if (TakeForm(text, "@Variant(", inside))
-        return FromStream(inside, QDataStream::Qt_4_0);
-    if (TakeForm(text, "@DateTime(", inside))
-        return FromStream(inside, QDataStream::Qt_5_6);
+    if (TakeForm(text, "ByteArray", inside))
+        return inside.toLatin1();
+    if (TakeForm(text, "Variant", inside))
+        return FromStream(inside.toLatin1(), QDataStream::Qt_4_0);
+    if (TakeForm(text, "DateTime", inside))
+        return FromStream(inside.toLatin1(), QDataStream::Qt_5_6);
+    if (TakeNumbers(text, "Rect", 4, numbers))
+        return QRect(numbers[0], numbers[1], numbers[2], numbers[3]);
+    if (TakeNumbers(text, "Size", 2, numbers))
+        return QSize(numbers[0], numbers[1]);
+    if (TakeNumbers(text, "Point", 2, numbers))
+        return QPoint(numbers[0], numbers[1]);
     return text;
 }
 

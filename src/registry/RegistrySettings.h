@@ -20,18 +20,17 @@ namespace Vorlan
 /// where it may not be created or written it is opened for reading.
 ///
 /// Stored types. bool: REG_SZ "true" or "false"; int, uint: REG_DWORD; qlonglong, qulonglong:
-/// REG_QWORD; QStringList and QVariantList: REG_MULTI_SZ, or as any other type when an element is
-/// empty or holds a NUL; QByteArray: "@ByteArray(...)"; an invalid value: "@Invalid()"; QDateTime:
-/// "@DateTime(...)" and other types "@Variant(...)", both with their QDataStream form. A double
-/// is stored as text. A text that begins with "@" gets another "@" before it. Text is REG_SZ, or
-/// REG_BINARY of its UTF-16 code units when it holds a NUL.
+/// REG_QWORD; QStringList and QVariantList: REG_MULTI_SZ of the elements' texts. All else is text:
+/// QString itself, with another "@" before one that begins with "@", and as "@String(...)" when it
+/// holds a NUL; a double in digits; QByteArray "@ByteArray(...)"; QRect "@Rect(x y width height)",
+/// QSize "@Size(width height)", QPoint "@Point(x y)"; an invalid value "@Invalid()"; QDateTime
+/// "@DateTime(...)" and other types "@Variant(...)", both with their QDataStream form, as is a list
+/// with an element that is empty or holds a NUL. Text is REG_SZ, or REG_BINARY of its UTF-16 code
+/// units when it holds a NUL.
 ///
 /// Read types. REG_SZ and REG_EXPAND_SZ (not expanded): the text up to its first NUL, decoded as
 /// above; REG_MULTI_SZ: QStringList; REG_DWORD: int; REG_QWORD: qlonglong; REG_BINARY and REG_NONE:
 /// the text that their UTF-16 code units make. Nothing else is read.
-///
-/// QRect, QSize and QPoint are the exception to the equal behaviour: QSettings has a text form of
-/// its own for them, and on Linux they are stored as other types are.
 ///
 /// An object belongs to one thread at a time; any number of objects and processes may use one key.
 class RegistrySettings
@@ -44,10 +43,12 @@ public:
         QSettings::Scope scope, const QString& organisation, const QString& application);
 
     /// A full path, such as "HKEY_CURRENT_USER\\Software\\Vorlan", with or without a backslash at
-    /// its end. A path that begins with no root lies below HKEY_LOCAL_MACHINE.
+    /// its end; "HKCU" and "HKLM" are short for the roots. A path that begins with neither root
+    /// names no key: nothing is read, and a write is an AccessError.
     explicit RegistrySettings(const QString& keyPath);
 
-    /// Deletes the key itself if remove("") was called outside all groups and it has no sub-keys.
+    /// Deletes the key itself if remove("") was called outside all groups and nothing was set
+    /// afterwards.
     ~RegistrySettings();
     RegistrySettings(const RegistrySettings&) = delete;
     RegistrySettings& operator=(const RegistrySettings&) = delete;

@@ -1,6 +1,8 @@
 #include "support/PalMachine.h"
 #include "support/RegistryCalls.h"
 
+#include <atomic>
+#include <functional>
 #include <thread>
 
 #include <Pal.h>
@@ -11,6 +13,21 @@ namespace
 
 using Strings = std::vector<std::string>;
 using Expect = Pal::ScopedFault::Expect;
+
+void FailTest(const std::string& text)
+{
+    ADD_FAILURE() << text;
+}
+
+// For every test of the program: a fault that was never used fails the test that set it.
+class UnusedFaultsFailTests : public ::testing::Environment
+{
+public:
+    void SetUp() override { Pal::SetUnusedFaultHandler(FailTest); }
+};
+
+const ::testing::Environment* const unusedFaults =
+    ::testing::AddGlobalTestEnvironment(new UnusedFaultsFailTests);
 
 class FaultsLinuxTest : public PalMachine
 {
@@ -176,7 +193,7 @@ TEST_F(FaultsLinuxTest, AFaultThatNeverFiredIsReportedUnlessItMayStayUnused)
         const Pal::ScopedFault used("RegSetValueExW", ERROR_DISK_FULL);
         SetText(Key(), L"value", L"text");
     }
-    Pal::SetUnusedFaultHandler(nullptr);
+    Pal::SetUnusedFaultHandler(FailTest);
     EXPECT_EQ(reports, Strings{"The injected fault for call 2 of WriteFile was never used: there "
                                "were 0 calls."});
 }

@@ -67,6 +67,17 @@ TEST_F(FilesLinuxTest, AFullDiskIsToldAsSuch)
     CloseHandle(full);
 }
 
+TEST_F(FilesLinuxTest, APositionThatNeedsAHighPartIsNotReachedWithoutOne)
+{
+    const HANDLE file = Create(PathOf(L"file"));
+    EXPECT_EQ(SetFilePointer(file, 0x7FFFFFFF, nullptr, FILE_BEGIN), 0x7FFFFFFFu);
+    EXPECT_EQ(SetFilePointer(file, 0x7FFFFFFF, nullptr, FILE_CURRENT), 0xFFFFFFFEu);
+    EXPECT_EQ(SetFilePointer(file, 2, nullptr, FILE_CURRENT), INVALID_SET_FILE_POINTER);
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_INVALID_PARAMETER});
+    EXPECT_EQ(SetFilePointer(file, 0, nullptr, FILE_CURRENT), 0xFFFFFFFEu);
+    CloseHandle(file);
+}
+
 TEST_F(FilesLinuxTest, ShareModesHoldForEveryNameOfAFile)
 {
     const HANDLE file = Create(PathOf(L"file"));

@@ -89,6 +89,17 @@ TEST_F(RegistryFileLinuxTest, ANormalEndLeavesASortedFileThatHoldsEverythingOnce
     EXPECT_EQ(SubKeyNames(Key()), (Names{L"Beta", L"zeta"}));
 }
 
+TEST_F(RegistryFileLinuxTest, ValuesAreListedInTheOrderTheyWereMade)
+{
+    for (const wchar_t* name : {L"c", L"a", L"b"})
+        SetText(Key(), name, name);
+    SetText(Key(), L"c", L"changed");
+    EXPECT_EQ(ValueNames(Key()), (Names{L"c", L"a", L"b"}));
+    EXPECT_EQ(RegDeleteValueW(Key(), L"A"), ERROR_SUCCESS);
+    SetText(Key(), L"a", L"again");
+    EXPECT_EQ(ValueNames(Key()), (Names{L"c", L"b", L"a"}));
+}
+
 TEST_F(RegistryFileLinuxTest, TheFileDoesNotGrowWithTheNumberOfChanges)
 {
     const std::wstring text(500, L'x');
@@ -105,6 +116,7 @@ TEST_F(RegistryFileLinuxTest, AFileEditedByHandIsRead)
                               "[HKEY_CURRENT_USER\\A]\n"
                               "@=\"default\"\n"
                               "\"hex\"=hex:0A,\\\n  0b\n"
+                              "\"escapes\"=\"\\\\a\\r\\n\\\"\"\n"
                               "\"gone\"=\"soon\"\n\n\n"
                               "[hkey_current_user\\a\\B]\n\n"
                               "[HKEY_CURRENT_USER\\A]\n"
@@ -114,7 +126,8 @@ TEST_F(RegistryFileLinuxTest, AFileEditedByHandIsRead)
                               "\"number\"=dword:000000fF\n\n"));
     const HKEY a = MakeKey(HKEY_CURRENT_USER, L"A");
     const HKEY c = MakeKey(HKEY_CURRENT_USER, L"C");
-    EXPECT_EQ(ValueNames(a), (Names{L"", L"hex"}));
+    EXPECT_EQ(ValueNames(a), (Names{L"", L"hex", L"escapes"}));
+    EXPECT_EQ(TextOf(a, L"escapes"), L"\\a\r\n\"");
     EXPECT_EQ(SubKeyNames(a), Names{});
     EXPECT_EQ(SeeValue(a, L"hex")->data, (std::vector<BYTE>{0x0A, 0x0B}));
     EXPECT_EQ(SeeValue(c, L"number")->data, (std::vector<BYTE>{0xFF, 0, 0, 0}));

