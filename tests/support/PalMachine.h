@@ -23,7 +23,7 @@ protected:
     {
         ASSERT_TRUE(m_folder.isValid());
         m_formerMachine = qgetenv("VORLAN_MACHINE");
-        qputenv("VORLAN_MACHINE", QDir(m_folder.path()).filePath("machine").toUtf8());
+        qputenv("VORLAN_MACHINE", MachineFolder().toUtf8());
         ASSERT_TRUE(QDir(m_folder.path()).mkdir("files"));
         RedirectRegistry();
         DeleteTree(HKEY_CURRENT_USER, keyPath);
@@ -35,6 +35,7 @@ protected:
     void TearDown() override
     {
         EXPECT_EQ(RegCloseKey(m_key), ERROR_SUCCESS);
+        qputenv("VORLAN_MACHINE", MachineFolder().toUtf8());
         DeleteTree(HKEY_CURRENT_USER, keyPath);
         RestoreRegistry();
         qputenv("VORLAN_MACHINE", m_formerMachine);
