@@ -2,6 +2,7 @@
 
 #include "archive/ArchiveExtractor.h"
 #include "autolaunch/StartupRegistration.h"
+#include "installer/InstalledUninstallers.h"
 #include "installer/ProductProfile.h"
 #include "installer/Shortcuts.h"
 #include "platform/Browser.h"
@@ -65,7 +66,8 @@ InstallerMediator::InstallerMediator(
     const InstallationSettings& initialSettings, const QString& applicationKey)
     : settingsManager(std::make_unique<SettingsManager>(
           applicationKey, ProductProfile::companyName, QSettings::UserScope)),
-      settings(initialSettings)
+      settings(initialSettings),
+      waitClock(std::make_unique<WaitClock>(SystemClock()))
 {
     CheckForPreferredBrowser();
 }

@@ -32,6 +32,10 @@ struct MediatorAccess
         mediator.HandleCopyFileError(name, reason);
     }
     void UpdateProgramData() { mediator.UpdateProgramData(); }
+    void AddRegistryInfo() { mediator.AddRegistryInfo(); }
+    void RemoveRegistryInfo() { mediator.RemoveRegistryInfo(); }
+    void CreateShortcuts() { mediator.CreateShortcuts(); }
+    void RemoveShortcuts() { mediator.RemoveShortcuts(); }
 
     void CopyInParallel(const std::vector<std::wstring>& names, int threads)
     {
