@@ -52,7 +52,8 @@ InstallerMediator::InstallerMediator(const Initializer& initializer)
       settingsManager(std::make_unique<SettingsManager>(
           ProductProfile::applicationKey, ProductProfile::companyName, initializer.scope)),
       parallelCopy(initializer.parallelCopy),
-      unattended(initializer.unattended)
+      unattended(initializer.unattended),
+      waitClock(std::make_unique<WaitClock>(SystemClock()))
 {
     productIniSettings->setIniCodec("UTF-8");
     profile = CreateProductProfile();

@@ -29,6 +29,7 @@ protected:
         settings.userInfo.webUid = "web-id";
         mediator.SetSettings(settings);
         access.OpenArchive(Payload("small.7z"));
+        access.SkipWaits();
     }
 
     void Install()
@@ -50,6 +51,7 @@ protected:
     {
         QMap<QString, QByteArray> files = ReadTree(installDir);
         EXPECT_EQ(files.remove("InstallerMessage.vbs"), 1);
+        EXPECT_EQ(files.remove("Vorlan Quillax.url"), 1);
         return files;
     }
 
@@ -86,6 +88,8 @@ TEST_F(InstallationPipelineTest, EachStageLeavesItsLines)
     access.Join();
     QStringList log = machine.Log();
     log = log.mid(log.indexOf("Request web config..."));
+    for (const QString& line : log.filter("Creating shortcut '"))
+        log.removeAll(line);
     const QStringList placement = log.mid(log.indexOf("Extracting files..."));
     EXPECT_EQ(log.mid(0, 11),
         QStringList({"Request web config...", "Web config requested with  2",
