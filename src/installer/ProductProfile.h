@@ -20,6 +20,7 @@ inline constexpr QLatin1String productFullName{"Vorlan Quillax"};
 inline constexpr QLatin1String archiveFileName{"InstallerData.7z"};
 inline constexpr QLatin1String uninstallerFileName{"uninst.exe"};
 inline constexpr QLatin1String mainExecutable{"quill.exe"};
+inline constexpr QLatin1String vendorDomain{"vorlan.example"};
 inline constexpr QLatin1String defaultLocale{"en_US"};
 
 // The languages that the product is translated into, in the order of preference.
