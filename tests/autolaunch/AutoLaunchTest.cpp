@@ -151,3 +151,12 @@ TEST_F(AutoLaunchTest, FailuresAreLinesInTheLog)
         "launcher appId: (current: vorlan_quillax_24.5.1_helper exist: "
         "vorlan_helper_24.5.1_helper )");
 }
+
+TEST_F(AutoLaunchTest, ForeignEntriesAreOnlyReadThrough)
+{
+    for (int i = 0; i < 10000; ++i)
+        run.setValue(QString("Foreign program of some name %1").arg(i), "\"C:\\f.exe\"");
+    Add(studio, "SnapGrab");
+    EXPECT_TRUE(IsIn(studio, "SnapGrab"));
+    EXPECT_TRUE(run.contains("vorlan_snapgrabstudio_24.5.1_SnapGrab"));
+}

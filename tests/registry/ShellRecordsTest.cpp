@@ -254,3 +254,19 @@ TEST_F(ShellRecordsTest, ProductIsFoundByItsExecutableInEveryList)
     EXPECT_EQ(find(), "Of User");
     EXPECT_EQ(SettingsManager::GetProductNameByExecutableName("other.exe"), "");
 }
+
+TEST_F(ShellRecordsTest, ValuesOfOtherTypesAreNotTakenForOurs)
+{
+    RegistrySettings run("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run");
+    run.setValue("Quill", 7);
+    SettingsManager::RemoveFromAutoRun("Quill", "C:\\Q\\quill.exe", user);
+    EXPECT_EQ(run.value("Quill").toInt(), 7);
+
+    RegistrySettings verbs("HKEY_CURRENT_USER\\Software\\Classes\\SystemFileAssociations");
+    verbs.setValue(".avi/Shell/Convert to/Command/Default", QStringList({"a", "b"}));
+    SettingsManager::RemoveContextMenu("Convert to", "C:\\Q\\quill.exe", {".avi"}, user);
+    EXPECT_TRUE(verbs.contains(".avi/Shell/Convert to/Command/Default"));
+    SettingsManager::AddToContextMenu("Convert to", "C:\\Q\\quill.exe", {".avi"}, user);
+    EXPECT_EQ(verbs.value(".avi/Shell/Convert to/Command/Default").toString(),
+        "\"C:\\Q\\quill.exe\" \"%1\"");
+}
