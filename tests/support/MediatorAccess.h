@@ -41,6 +41,9 @@ struct MediatorAccess
     void UpdateProgramData() { mediator.UpdateProgramData(); }
     void AddRegistryInfo() { mediator.AddRegistryInfo(); }
     void RemoveRegistryInfo() { mediator.RemoveRegistryInfo(); }
+    void TerminateApps() { mediator.TerminateApps(); }
+    void RemovePreviousVersion() { mediator.RemovePreviousVersion(); }
+    void RemoveAdditionalModules() { mediator.RemoveAdditionalModules(); }
     void CreateShortcuts() { mediator.CreateShortcuts(); }
     void RemoveShortcuts() { mediator.RemoveShortcuts(); }
 
