@@ -31,7 +31,7 @@ struct SetupLock::State
 
 SetupLock::SetupLock() : state(std::make_unique<State>())
 {
-    state->mutex = Platform::UniqueObject(CreateMutexW(nullptr, TRUE, lockName));
+    state->mutex = Platform::UniqueObject(CreateMutexW(nullptr, FALSE, lockName));
     state->isHeld = state->mutex && GetLastError() != ERROR_ALREADY_EXISTS;
 }
 

@@ -24,6 +24,10 @@ SetupRun::SetupRun()
     }
     AddProgram("installergui.exe");
     AddProgram(ENGINE_FILE_NAME);
+    for (const QString& program : QString(SYSTEM_PROGRAMS).split(' ', Qt::SkipEmptyParts))
+    {
+        AddProgram(program);
+    }
 }
 
 int SetupRun::ShownExitCode(int code)
