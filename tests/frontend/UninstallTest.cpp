@@ -16,6 +16,7 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 
 #include <thread>
 
@@ -25,6 +26,10 @@ namespace
 {
 
 constexpr int timeLimitMs = 60000;
+const QString translation = "resources/locales/en_US/InstallerGUI_en_US.qm";
+// Folders stay, with what is in them.
+const QStringList leftFiles = {"libs/", "libs/codec.dll", "resources/", "resources/locales/",
+    "resources/locales/en_US/", translation};
 
 class UninstallTest : public testing::Test
 {
@@ -40,6 +45,7 @@ protected:
             {"fonts.conf", "fonts"},
             {"libs/codec.dll", "codec of " + note.toUtf8()},
             {note + ".txt", "note"},
+            {translation, ReadFile(bin + '/' + translation)},
         });
     }
 
@@ -64,7 +70,8 @@ protected:
     QStringList Files() const
     {
         QStringList files = ListTree(product);
-        for (const char* common : {"libs/", ENGINE_FILE_NAME})
+        for (const QString& common :
+            files.filter(QRegularExpression("/$|^resources/|" ENGINE_FILE_NAME)))
             files.removeAll(common);
         return files;
     }
@@ -193,10 +200,31 @@ TEST_F(UninstallTest, FilesRecordsAndShortcutsGoAndTheChoicesStay)
     const auto result = Uninstall({});
     EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
     EXPECT_EQ(result.output + result.errors, "");
-    EXPECT_EQ(ListTree(product), QStringList({"libs/", "libs/codec.dll"}));
+    EXPECT_EQ(ListTree(product), leftFiles);
     EXPECT_EQ(Links(), QStringList());
     EXPECT_EQ(before, QStringList());
     EXPECT_EQ(Records(), keptRecords);
+}
+
+TEST_F(UninstallTest, OptionsOfTheInstallationTakeEffectAndGoAgain)
+{
+    setup.AddProgram(translation);
+    setup.AddArchiveContent(Product(FRONTEND_FOLDER, "new"));
+    const auto installed = setup.Start(
+        {"/S", "/ALLUSERS", "/AUTOLAUNCH", "/CONTEXTMENU", "/NOSHORTCUTS", "/WEBUID=1234-abcd"});
+    ASSERT_EQ(installed.exitCode, 0) << installed.errors.toStdString();
+    const QStringList records = RegistryTree("HKEY_LOCAL_MACHINE", "Software").filter(" = ");
+    EXPECT_EQ(records.filter("\\Shell\\Convert to").size(), 2 * 32);
+    EXPECT_EQ(records.filter("\\Shell\\Open with").size(), 2 * 32);
+    EXPECT_EQ(records.filter("\\CurrentVersion\\Run: vorlan_quillax_24.5.1_ = ").size(), 1);
+    EXPECT_TRUE(records.contains("Vorlan\\User: WEBUID = REG_SZ 1234-abcd"));
+    EXPECT_EQ(Links(), QStringList());
+
+    EXPECT_EQ(Uninstall({"/DELETESETTINGS"}).exitCode, 0);
+    EXPECT_EQ(Records(),
+        QStringList({"Microsoft\\Windows\\CurrentVersion\\Run: vorlan_quillax_24.5.1_ = REG_SZ \"" +
+                         QString(product).replace('/', '\\') + "\\\" ",
+            "Vorlan\\User: WEBUID = REG_SZ 1234-abcd"}));
 }
 
 TEST_F(UninstallTest, SettingsGoWhenThePersonWantsIt)
@@ -262,7 +290,7 @@ TEST_F(UninstallTest, FolderThatIsNotTheRegisteredOneIsLeftAlone)
     EXPECT_EQ(setup.StartFrom(copy, "uninst.exe", {"/S"}).exitCode, SetupRun::ShownExitCode(1603));
     EXPECT_EQ(ListTree(copy).filter("thesis.txt").size(), 1);
     EXPECT_EQ(Uninstall({}).exitCode, 0);
-    EXPECT_EQ(ListTree(product), QStringList({"libs/", "libs/codec.dll"}));
+    EXPECT_EQ(ListTree(product), leftFiles);
 }
 
 TEST_F(UninstallTest, RemovalThatWasCutOffCanBeRunAgain)
@@ -273,7 +301,7 @@ TEST_F(UninstallTest, RemovalThatWasCutOffCanBeRunAgain)
     QFile::remove(product + "/quill.exe");
     RegistrySettings(QSettings::UserScope, "Vorlan", "Quillax24").remove("Path");
     EXPECT_EQ(Uninstall({}).exitCode, 0);
-    EXPECT_EQ(ListTree(product), QStringList({"libs/", "libs/codec.dll"}));
+    EXPECT_EQ(ListTree(product), leftFiles);
     EXPECT_EQ(Records(), keptRecords);
 }
 

@@ -42,8 +42,11 @@ protected:
             for (const QString& line : RegistryTree(root, "Software"))
                 records += root + "\\Software\\" + line;
         }
-        for (const QString& line : Documented("shared"))
-            records.removeAll(line);
+        for (const char* root : {"HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE"})
+        {
+            for (const QString& line : Documented("shared", root))
+                records.removeAll(line);
+        }
         records.sort();
         return records;
     }
@@ -54,12 +57,12 @@ protected:
     }
 
     // A list of the page that documents the layout, with this installation's values.
-    QStringList Documented(const QString& list) const
+    QStringList Documented(const QString& list, const QString& root = Root()) const
     {
         const QDate today = QDate::currentDate();
         const QString page =
             QString::fromUtf8(ReadFile(DOCUMENTATION_FOLDER "/registry-layout.md"));
-        const QMap<QString, QString> values = {{"{root}", Root()}, {"{folder}", folder},
+        const QMap<QString, QString> values = {{"{root}", root}, {"{folder}", folder},
             {"{browser}", "chrome.exe"}, {"{installer}", name}, {"{language}", "fr_FR"},
             {"{webuid}", "web-id"}, {"{KiB}", "2"},
             {"{time}",
