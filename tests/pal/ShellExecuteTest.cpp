@@ -46,13 +46,4 @@ TEST_F(ShellExecuteTest, AProcessHandleComesOnlyWhereItIsAskedFor)
     EXPECT_EQ(information.hProcess, nullptr);
 }
 
-TEST_F(ShellExecuteTest, AMissingFileIsNotFound)
-{
-    const std::wstring missing = PathOf(L"none.exe");
-    SHELLEXECUTEINFOW information = Information(missing, L"");
-    EXPECT_FALSE(ShellExecuteExW(&information));
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_FILE_NOT_FOUND});
-    EXPECT_EQ(information.hProcess, nullptr);
-}
-
 } // namespace

@@ -17,8 +17,8 @@ enum class FirstWord
 };
 std::vector<std::wstring> SplitCommandLine(std::wstring_view commandLine, FirstWord firstWord);
 
-// What may name the program: the shortest text first, each with what follows it. An unquoted name may
-// hold blanks, so every blank is a possible end.
+// What may name the program: the shortest text first, each with what follows it. An unquoted name
+// may hold blanks, so every blank is a possible end.
 struct ProgramName
 {
     std::wstring_view name;
