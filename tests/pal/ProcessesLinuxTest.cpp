@@ -249,6 +249,21 @@ TEST_F(ProcessesLinuxTest, AnElevatedProgramIsOneLikeAnyOther)
     EXPECT_EQ(ExitCode(process), 1);
 }
 
+TEST_F(ProcessesLinuxTest, AProcessOfAnotherUserIsNotOpenedForMoreThanWaiting)
+{
+    const auto openFirstProcess = []
+    {
+        constexpr uid_t nobody = 65534;
+        if (getuid() == 0 && setresuid(nobody, nobody, nobody) != 0)
+            return 1;
+        int wrong = OpenProcess(SYNCHRONIZE, FALSE, 1) ? 0 : 2;
+        for (const DWORD access : {PROCESS_TERMINATE, PROCESS_VM_READ, PROCESS_QUERY_INFORMATION})
+            wrong += OpenProcess(access, FALSE, 1) || GetLastError() != ERROR_ACCESS_DENIED ? 4 : 0;
+        return wrong;
+    };
+    EXPECT_EQ(WaitForChild(StartChild(openFirstProcess)), 0);
+}
+
 TEST_F(ProcessesLinuxTest, EveryCallCanFail)
 {
     const StartResult child = StartWaiting();
