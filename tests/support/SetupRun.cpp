@@ -56,6 +56,12 @@ void SetupRun::AddArchiveContent(const QByteArray& content)
 
 SetupRun::Result SetupRun::Start(const QString& program, const QStringList& arguments)
 {
+    return StartFrom(SetupFolder(), program, arguments);
+}
+
+SetupRun::Result SetupRun::StartFrom(
+    const QString& folder, const QString& program, const QStringList& arguments)
+{
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("VORLAN_MACHINE", MachineFolder());
     for (const char* name : {"TMPDIR", "TMP", "TEMP"})
@@ -65,7 +71,7 @@ SetupRun::Result SetupRun::Start(const QString& program, const QStringList& argu
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(WorkFolder());
-    process.start(QDir(SetupFolder()).filePath(program), arguments);
+    process.start(QDir(folder).filePath(program), arguments);
     EXPECT_TRUE(process.waitForFinished(timeLimitMs)) << process.errorString().toStdString();
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
