@@ -4,6 +4,7 @@
 #include "Outcome.h"
 #include "ProgressReport.h"
 #include "SilentRun.h"
+#include "Terminal.h"
 
 #include <QApplication>
 #include <QDir>
@@ -13,8 +14,6 @@
 #include <iostream>
 #include <memory>
 #include <stdexcept>
-
-#include <unistd.h>
 
 using namespace Vorlan::FrontEnd;
 
@@ -43,8 +42,7 @@ EventSink MakeSink(const CommandLine& options)
     }
     if (options.progress)
     {
-        const bool isTerminal = isatty(STDOUT_FILENO) != 0;
-        const auto report = std::make_shared<ProgressReport>(std::cout, isTerminal);
+        const auto report = std::make_shared<ProgressReport>(std::cout, IsOutputTerminal());
         return [report](const RunEvent& event) { report->Show(event); };
     }
     return [](const RunEvent&) {};
