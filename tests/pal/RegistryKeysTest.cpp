@@ -62,6 +62,18 @@ TEST_F(RegistryKeysTest, AKeyNameOf255CharactersIsMadeAndALongOneIsNot)
         ERROR_INVALID_PARAMETER);
 }
 
+TEST_F(RegistryKeysTest, SeparatorsMayBeDoubledButNotLead)
+{
+    RegCloseKey(MakeKey(Key(), L"One\\Two"));
+    HKEY key = nullptr;
+    ASSERT_EQ(RegOpenKeyExW(Key(), L"One\\\\Two\\", 0, KEY_READ, &key), ERROR_SUCCESS);
+    RegCloseKey(key);
+    EXPECT_EQ(RegOpenKeyExW(Key(), L"\\One", 0, KEY_READ, &key), ERROR_BAD_PATHNAME);
+    EXPECT_EQ(RegCreateKeyExW(Key(), L"\\One", 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_READ,
+                  nullptr, &key, nullptr),
+        ERROR_BAD_PATHNAME);
+}
+
 TEST_F(RegistryKeysTest, SubKeysAreListedSortedAndKeepTheirCase)
 {
     for (const wchar_t* name : {L"beta", L"Alpha", L"GAMMA", L"alpha2"})

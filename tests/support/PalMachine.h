@@ -5,13 +5,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
 
 #include <windows.h>
 
-// On Linux the machine root is a fresh folder. On both systems the test gets an empty folder for
-// files and an empty key for values, and both are gone after it.
+// On Linux the machine root is a fresh folder. Windows has one registry for all tests that run at
+// the same time: there HKEY_CURRENT_USER is redirected to a key of this process. On both systems
+// the test gets an empty folder for files and an empty key for values, and both are gone after it.
 class PalMachine : public ::testing::Test
 {
 protected:
@@ -21,8 +23,9 @@ protected:
     {
         ASSERT_TRUE(m_folder.isValid());
         m_formerMachine = qgetenv("VORLAN_MACHINE");
-        qputenv("VORLAN_MACHINE", QDir(m_folder.path()).filePath("machine").toUtf8());
+        qputenv("VORLAN_MACHINE", MachineFolder().toUtf8());
         ASSERT_TRUE(QDir(m_folder.path()).mkdir("files"));
+        RedirectRegistry();
         DeleteTree(HKEY_CURRENT_USER, keyPath);
         ASSERT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, keyPath, 0, nullptr, REG_OPTION_NON_VOLATILE,
                       KEY_ALL_ACCESS, nullptr, &m_key, nullptr),
@@ -32,7 +35,9 @@ protected:
     void TearDown() override
     {
         EXPECT_EQ(RegCloseKey(m_key), ERROR_SUCCESS);
+        qputenv("VORLAN_MACHINE", MachineFolder().toUtf8());
         DeleteTree(HKEY_CURRENT_USER, keyPath);
+        RestoreRegistry();
         qputenv("VORLAN_MACHINE", m_formerMachine);
     }
 
@@ -64,6 +69,32 @@ protected:
     }
 
 private:
+#ifdef _WIN32
+    static std::wstring OwnRoot()
+    {
+        return L"Software\\VorlanPalTests-" + std::to_wstring(QCoreApplication::applicationPid());
+    }
+
+    static void RedirectRegistry()
+    {
+        HKEY root = nullptr;
+        ASSERT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, OwnRoot().c_str(), 0, nullptr,
+                      REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS, nullptr, &root, nullptr),
+            ERROR_SUCCESS);
+        EXPECT_EQ(RegOverridePredefKey(HKEY_CURRENT_USER, root), ERROR_SUCCESS);
+        RegCloseKey(root);
+    }
+
+    static void RestoreRegistry()
+    {
+        EXPECT_EQ(RegOverridePredefKey(HKEY_CURRENT_USER, nullptr), ERROR_SUCCESS);
+        DeleteTree(HKEY_CURRENT_USER, OwnRoot().c_str());
+    }
+#else
+    static void RedirectRegistry() {}
+    static void RestoreRegistry() {}
+#endif
+
     QTemporaryDir m_folder;
     QByteArray m_formerMachine;
     HKEY m_key = nullptr;
