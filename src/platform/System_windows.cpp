@@ -67,8 +67,8 @@ std::wstring VolumeDevice(const QString& path)
 
 bool HasNoSeekPenalty(const std::wstring& device)
 {
-    const UniqueSystemHandle disk(CreateFileW(device.c_str(), 0,
-        FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr));
+    const UniqueSystemHandle disk(CreateFileW(
+        device.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr));
     STORAGE_PROPERTY_QUERY query = {};
     query.PropertyId = StorageDeviceSeekPenaltyProperty;
     query.QueryType = PropertyStandardQuery;
