@@ -1,10 +1,12 @@
 #include "CommandLine.h"
 #include "JsonReport.h"
 #include "LogFile.h"
+#include "MachineAccess.h"
 #include "Outcome.h"
 #include "ProgressReport.h"
 #include "SilentRun.h"
 #include "Terminal.h"
+#include "UninstallRun.h"
 
 #include <QApplication>
 #include <QDir>
@@ -48,28 +50,30 @@ EventSink MakeSink(const CommandLine& options)
     return [](const RunEvent&) {};
 }
 
-Outcome RunSilently(const CommandLine& options, int argc, char** argv)
+Outcome RunSilently(Role role, const CommandLine& options, int argc, char** argv)
 {
     if (QSysInfo::kernelType() != "winnt")
     {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     const QApplication application(argc, argv);
-    return InstallSilently(options, MakeSink(options));
+    return role == Role::Uninstaller ? UninstallSilently(options, MakeSink(options))
+                                     : InstallSilently(options, MakeSink(options));
 }
 
 Outcome RunRole(Role role, const CommandLine& options, int argc, char** argv)
 {
-    if (role == Role::Uninstaller)
+    const SetupLock lock;
+    if (!lock.IsHeld() && !options.ignoreMutex)
     {
-        return {ExitCode::Failed, "This build cannot uninstall yet: delete the folder by hand."};
+        return {ExitCode::AnotherSetupRunning,
+            "Another setup is running: wait for its end, or give /IGNORE_MUTEX."};
     }
     if (!options.silent)
     {
-        return {
-            ExitCode::Failed, "This build has no window yet: give /S for a silent installation."};
+        return {ExitCode::Failed, "This build has no window yet: give /S for a silent run."};
     }
-    return RunSilently(options, argc, argv);
+    return RunSilently(role, options, argc, argv);
 }
 
 // Keeps a log meanwhile; a failure names it.

@@ -1,18 +1,15 @@
 #include "SilentRun.h"
 
-#include "MediatorEvents.h"
+#include "MediatorRun.h"
 
 #include "installer/InstallerMediator.h"
 #include "installer/ProductProfile.h"
 
 #include <QCoreApplication>
-#include <QDebug>
 #include <QDir>
-#include <QEventLoop>
 #include <QFileInfo>
 #include <QTranslator>
 
-#include <memory>
 #include <stdexcept>
 
 namespace Vorlan::FrontEnd
@@ -85,45 +82,6 @@ Outcome CheckFolder(const InstallationSettings& settings)
     return {};
 }
 
-std::unique_ptr<QTranslator> InstallTranslation(const QString& locale)
-{
-    auto translator = std::make_unique<QTranslator>();
-    const QString path = QString("resources/locales/%1/InstallerGUI_%1.qm").arg(locale);
-    if (translator->load(path))
-    {
-        QCoreApplication::installTranslator(translator.get());
-    }
-    else
-    {
-        qWarning() << "No translation in" << path << ": texts stay English";
-    }
-    return translator;
-}
-
-// Starts the run and waits for its last signal.
-Outcome RunToTheEnd(InstallerMediator& mediator, const EventSink& sink)
-{
-    QEventLoop loop;
-    Outcome outcome;
-    ConnectEvents(mediator, loop,
-        [&](const RunEvent& event)
-        {
-            sink(event);
-            if (event.signal == "InstallationError")
-            {
-                outcome = Failure(event.parameters["text"].toString());
-                loop.quit();
-            }
-            else if (event.signal == "InstallationFinished")
-            {
-                loop.quit();
-            }
-        });
-    mediator.StartInstallation();
-    loop.exec();
-    return outcome;
-}
-
 Outcome InstallWith(InstallerMediator& mediator, const CommandLine& options, const EventSink& sink)
 {
     const InstallationSettings settings = ApplyOptions(mediator.GetSettings(), options);
@@ -135,7 +93,7 @@ Outcome InstallWith(InstallerMediator& mediator, const CommandLine& options, con
     }
     mediator.SetSettings(settings);
     mediator.OnLocaleChanged(settings.locale);
-    return RunToTheEnd(mediator, sink);
+    return RunToTheEnd(mediator, &InstallerMediator::StartInstallation, sink);
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include <objbase.h>
 #include <windows.h>
 
 namespace Pal
@@ -21,7 +22,9 @@ std::filesystem::path MachineRoot();
 // its construction, over all threads. A Reg function returns the error; any other function sets it
 // as the last error and returns its failure value. The failing call changes nothing, except that
 // CloseHandle and RegCloseKey do close the handle before they report the error.
-// GetLastError and SetLastError never fail and are not counted.
+// COM functions and methods return the error as an HRESULT, and may be given one; a method is named
+// with the interface that declares it, as "IShellLinkW::SetPath". What cannot fail is not counted:
+// GetLastError, SetLastError, AddRef, Release, CoUninitialize, CoTaskMemFree.
 class ScopedFault
 {
 public:
@@ -51,6 +54,23 @@ private:
 // Called with a text that names the fault. Without a handler (nullptr) the text goes to the
 // standard error output and the program aborts.
 void SetUnusedFaultHandler(std::function<void(const std::string&)> handler);
+
+// Makes CoCreateInstance know a class while the object lives, or another object for a class that it
+// knows already; of several registrations the latest counts.
+class ScopedClass
+{
+public:
+    // factory: makes an object with one reference, which becomes CoCreateInstance's.
+    ScopedClass(REFCLSID classId, std::function<IUnknown*()> factory);
+    ~ScopedClass();
+    ScopedClass(const ScopedClass&) = delete;
+    ScopedClass& operator=(const ScopedClass&) = delete;
+
+    struct State; // known to the layer's sources only
+
+private:
+    const std::unique_ptr<State> m_state;
+};
 
 // What is open in this process: the path of each open file and key, sorted.
 std::vector<std::string> OpenHandles();

@@ -21,6 +21,7 @@ typedef long long LONGLONG;
 typedef unsigned long long ULONGLONG;
 typedef intptr_t LONG_PTR;
 typedef uintptr_t ULONG_PTR;
+typedef size_t SIZE_T;
 typedef int32_t HRESULT;
 
 typedef char CHAR;
@@ -39,7 +40,8 @@ typedef LONG* PLONG;
 
 typedef void* HANDLE;
 typedef struct HWND__* HWND;
-typedef struct HINSTANCE__* HMODULE;
+typedef struct HINSTANCE__* HINSTANCE;
+typedef HINSTANCE HMODULE;
 typedef struct HKEY__* HKEY;
 typedef HKEY* PHKEY;
 
@@ -63,6 +65,7 @@ typedef struct _OVERLAPPED OVERLAPPED, *LPOVERLAPPED;
 #define MAX_PATH 260
 #define WINAPI
 #define CALLBACK
+#define STDMETHODCALLTYPE
 #define INVALID_HANDLE_VALUE ((HANDLE)(LONG_PTR)(-1))
 
 #endif

@@ -4,6 +4,8 @@
 #define PAL_WINDOWS_H
 
 #include <fileapi.h>
+#include <processthreadsapi.h>
+#include <synchapi.h>
 #include <windef.h>
 #include <winerror.h>
 #include <winreg.h>

@@ -30,6 +30,7 @@
 #define ERROR_BAD_PATHNAME 161
 #define ERROR_BUSY 170
 #define ERROR_ALREADY_EXISTS 183
+#define ERROR_BAD_EXE_FORMAT 193
 #define ERROR_FILENAME_EXCED_RANGE 206
 #define ERROR_FILE_TOO_LARGE 223
 #define ERROR_MORE_DATA 234
@@ -37,6 +38,7 @@
 #define ERROR_DIRECTORY 267
 #define ERROR_BADDB 1009
 #define ERROR_KEY_DELETED 1018
+#define ERROR_NO_ASSOCIATION 1155
 #define ERROR_CANCELLED 1223
 #define ERROR_CANT_RESOLVE_FILENAME 1921
 
@@ -49,12 +51,16 @@ typedef LONG LSTATUS;
 #define E_POINTER ((HRESULT)0x80004003)
 #define E_FAIL ((HRESULT)0x80004005)
 #define E_UNEXPECTED ((HRESULT)0x8000FFFF)
+#define CLASS_E_NOAGGREGATION ((HRESULT)0x80040110)
+#define REGDB_E_CLASSNOTREG ((HRESULT)0x80040154)
+#define CO_E_NOTINITIALIZED ((HRESULT)0x800401F0)
 #define E_ACCESSDENIED ((HRESULT)0x80070005)
 #define E_OUTOFMEMORY ((HRESULT)0x8007000E)
 #define E_INVALIDARG ((HRESULT)0x80070057)
 
 #define SUCCEEDED(result) (((HRESULT)(result)) >= 0)
 #define FAILED(result) (((HRESULT)(result)) < 0)
+#define HRESULT_CODE(result) ((result)&0xFFFF)
 #define HRESULT_FROM_WIN32(error)                                                                  \
     ((HRESULT)(error) <= 0 ? (HRESULT)(error)                                                      \
                            : (HRESULT)(((DWORD)(error)&0x0000FFFFu) | 0x80070000u))

@@ -3,11 +3,17 @@
 #include <cstdlib>
 #include <string>
 
+#include <QByteArray>
+#include <QList>
+
+#include <dlfcn.h>
 #include <pwd.h>
 #include <unistd.h>
 
 #include <Pal.h>
 #include <shlobj.h>
+
+#include "ErrorMapping.h"
 
 namespace Pal
 {
@@ -78,6 +84,47 @@ fs::path FolderPath(const fs::path& root, const FolderOfShell& folder)
     return *folder.path ? root / base / folder.path : root / base;
 }
 
+// The programs that every machine has in its system folder.
+constexpr const char* systemPrograms[] = {"taskkill", "schtasks", "cmd.exe"};
+
+fs::path SystemFolder(const fs::path& root)
+{
+    return root / "Windows/System32";
+}
+
+fs::path FolderOfThisLibrary()
+{
+    Dl_info info = {};
+    const bool known = dladdr(reinterpret_cast<const void*>(&FolderOfThisLibrary), &info) != 0;
+    return known && info.dli_fname ? fs::path(info.dli_fname).parent_path() : fs::path();
+}
+
+// The system's programs lie beside the running program, or beside the library that holds this
+// layer.
+fs::path FindSystemProgram(const char* name)
+{
+    std::error_code error;
+    const fs::path folders[] = {
+        fs::read_symlink("/proc/self/exe", error).parent_path(), FolderOfThisLibrary()};
+    for (const fs::path& folder : folders)
+    {
+        if (fs::exists(folder / name, error))
+            return fs::absolute(folder / name, error);
+    }
+    return {};
+}
+
+// A link that leads nowhere, because the programs have moved, is made anew.
+std::error_code LinkSystemProgram(const fs::path& link, const fs::path& program)
+{
+    std::error_code error;
+    if (program.empty() || fs::exists(link, error))
+        return {};
+    fs::remove(link, error);
+    fs::create_symlink(program, link, error);
+    return error == std::errc::file_exists ? std::error_code() : error;
+}
+
 } // namespace
 
 fs::path MachineRoot()
@@ -99,12 +146,53 @@ std::error_code CreateMachine(const fs::path& root)
         if (!error)
             fs::create_directories(FolderPath(root, folder), error);
     }
+    for (const fs::path& folder : {MutexFolder(root), TaskFolder(root)})
+    {
+        if (!error)
+            fs::create_directories(folder, error);
+    }
+    for (const char* program : systemPrograms)
+    {
+        if (!error)
+            error = LinkSystemProgram(SystemFolder(root) / program, FindSystemProgram(program));
+    }
+    PutSystemFolderOnPath(root);
     return error;
+}
+
+DWORD EnterMachine()
+{
+    const std::error_code error = CreateMachine(MachineRoot());
+    return error ? ErrorFromErrno(error.value()) : ERROR_SUCCESS;
+}
+
+void PutSystemFolderOnPath(const fs::path& root)
+{
+    const QByteArray ownFolder = QByteArray::fromStdString(SystemFolder(root));
+    const QByteArray former = qEnvironmentVariableIsSet("PATH") ? qgetenv("PATH") : "/usr/bin:/bin";
+    QByteArray path = ownFolder;
+    for (const QByteArray& folder : former.split(':'))
+    {
+        if (!folder.endsWith("/Windows/System32"))
+            path += ':' + folder;
+    }
+    if (path != former)
+        qputenv("PATH", path);
 }
 
 fs::path RegistryFolder(const fs::path& root)
 {
     return root / "registry";
+}
+
+fs::path MutexFolder(const fs::path& root)
+{
+    return root / "mutexes";
+}
+
+fs::path TaskFolder(const fs::path& root)
+{
+    return root / "tasks";
 }
 
 std::optional<fs::path> ShellFolder(const fs::path& root, int csidl)

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "autolaunch/IAutoLauncherLogic.h"
+#include "autolaunch/PriorityAutoLauncherLogic.h"
+
 #include <QSettings>
 
+#include <memory>
 #include <string>
 
 namespace Vorlan
@@ -21,13 +25,29 @@ struct AutoLaunchProduct
     std::string company;
     std::string productId;
     std::string versionMajor;
-    std::string versionMinor;
+    std::string versionMinor; // minor and patch number: "5.1"
 };
 
-// Start at logon, between products of the maker that share a program. Nothing here throws: failures
-// are logged.
+// The priority rule for one program of a product, over the Run key. Built for one call.
+class StartupRegistration
+{
+public:
+    // Throws std::runtime_error when the version cannot be read.
+    StartupRegistration(
+        QSettings::Scope scope, const AutoLaunchApp& app, const AutoLaunchProduct& product);
+
+    IAutoLauncherLogic& Logic() { return *logic; }
+
+private:
+    std::string appId;
+    PriorityAutoLauncherLogic::Priorities priorities;
+    std::unique_ptr<IAutoLauncherLogic> logic;
+};
+
+// The guarded entry points: nothing here throws, failures are logged.
 void AddAppToStartup(
     QSettings::Scope scope, const AutoLaunchApp& app, const AutoLaunchProduct& product);
+// False after a failure.
 bool IsAppInStartup(
     QSettings::Scope scope, const AutoLaunchApp& app, const AutoLaunchProduct& product);
 void RemoveAppFromStartup(

@@ -8,7 +8,9 @@
 #include "platform/Timer.h"
 #include "registry/SettingsManager.h"
 
+#include <QCoreApplication>
 #include <QDebug>
+#include <QDir>
 #include <QProcess>
 
 #include <stdexcept>
@@ -152,7 +154,9 @@ void InstallerMediator::StopRunningPrograms()
     if (!profile.stopProcesses)
         return;
     settingsManager->SetKilledByInstaller(true);
-    KillAllProcessesInFolder(settings.installDir);
+    // From a setup that runs out of the destination itself this process would be among them.
+    if (QDir(settings.installDir) != QDir(QCoreApplication::applicationDirPath()))
+        KillAllProcessesInFolder(settings.installDir);
 }
 
 void InstallerMediator::PlaceFiles(const QStringList& reservedNames, double weight)

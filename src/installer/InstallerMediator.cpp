@@ -2,6 +2,7 @@
 
 #include "archive/ArchiveExtractor.h"
 #include "autolaunch/StartupRegistration.h"
+#include "installer/InstalledUninstallers.h"
 #include "installer/ProductProfile.h"
 #include "installer/Shortcuts.h"
 #include "platform/Browser.h"
@@ -51,7 +52,8 @@ InstallerMediator::InstallerMediator(const Initializer& initializer)
       settingsManager(std::make_unique<SettingsManager>(
           ProductProfile::applicationKey, ProductProfile::companyName, initializer.scope)),
       parallelCopy(initializer.parallelCopy),
-      unattended(initializer.unattended)
+      unattended(initializer.unattended),
+      waitClock(std::make_unique<WaitClock>(SystemClock()))
 {
     productIniSettings->setIniCodec("UTF-8");
     profile = CreateProductProfile();
@@ -65,7 +67,8 @@ InstallerMediator::InstallerMediator(
     const InstallationSettings& initialSettings, const QString& applicationKey)
     : settingsManager(std::make_unique<SettingsManager>(
           applicationKey, ProductProfile::companyName, QSettings::UserScope)),
-      settings(initialSettings)
+      settings(initialSettings),
+      waitClock(std::make_unique<WaitClock>(SystemClock()))
 {
     CheckForPreferredBrowser();
 }

@@ -24,6 +24,7 @@ namespace Vorlan
 
 class ArchiveExtractor;
 class SettingsManager;
+struct WaitClock;
 
 namespace App
 {
@@ -209,8 +210,10 @@ private:
     void HandleCopyFileError(const QString& fileName, const QString& reason);
     void UpdateProgramData();
 
-    // Uninstallation (UninstallationPipeline.cpp)
+    // Uninstallation (UninstallationPipeline.cpp): Uninstall guards RunUninstallation
     void Uninstall();
+    void RunUninstallation();
+    bool RefuseForDependentApplications();
     QFileInfoList GetFilesList(unsigned long long& totalSize) const;
     void RemoveFiles(const QFileInfoList& files, unsigned long long totalSize);
     void RemoveLogs();
@@ -223,6 +226,7 @@ private:
 
     // Registration with the system (registry/RegistrationStep.cpp)
     void AddRegistryInfo();
+    void AddContextMenu(int choice, const char* label) const;
     void RemoveRegistryInfo();
     void SetDefaultApps();
 
@@ -249,6 +253,7 @@ private:
     bool deleteUserSettings = false;
     int copyErrorCount = 0;
     std::atomic<InstallationState> state{InstallationState::NotStarted};
+    std::unique_ptr<WaitClock> waitClock; // passes the time while an old uninstaller works
 };
 
 } // namespace Vorlan

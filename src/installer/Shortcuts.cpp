@@ -1,7 +1,17 @@
 #include "installer/Shortcuts.h"
 
 #include "installer/InstallerMediator.h"
+#include "installer/ProductProfile.h"
+#include "platform/Com.h"
+#include "platform/Path.h"
 #include "platform/System.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
 
 #include <shlobj.h>
 
@@ -35,6 +45,58 @@ int ShellFolderId(StandardLocation location)
     return CSIDL_DESKTOP;
 }
 
+// A shell link of the system, COM being initialised where it is not yet.
+Platform::ComPointer<IShellLinkW> CreateShellLink(Platform::ComApartment& apartment)
+{
+    Platform::ComPointer<IShellLinkW> link;
+    const auto create = [&link]
+    {
+        return CoCreateInstance(
+            CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW, link.Put());
+    };
+    if (create() == CO_E_NOTINITIALIZED && apartment.Initialise())
+        create();
+    return link;
+}
+
+std::wstring WithBackslashes(QString text)
+{
+    return Platform::WideFromText(text.replace('/', '\\'));
+}
+
+bool Save(IShellLinkW& link, const QString& fileName)
+{
+    Platform::ComPointer<IPersistFile> file;
+    return SUCCEEDED(link.QueryInterface(IID_IPersistFile, file.Put())) &&
+           SUCCEEDED(file->Save(Platform::WideFromText(fileName).c_str(), TRUE));
+}
+
+QString ForScope(QSettings::Scope scope, StandardLocation ofUser, StandardLocation ofAllUsers)
+{
+    return GetStandardLocation(scope == QSettings::SystemScope ? ofAllUsers : ofUser) +
+           QDir::separator();
+}
+
+QString StartMenuRoot(QSettings::Scope scope)
+{
+    return ForScope(scope, StandardLocation::Programs, StandardLocation::CommonPrograms);
+}
+
+QString DesktopRoot(QSettings::Scope scope)
+{
+    return ForScope(scope, StandardLocation::Desktop, StandardLocation::CommonDesktop);
+}
+
+QStringList FilesBelow(const QString& folder)
+{
+    QStringList files;
+    QDirIterator file(
+        folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+    while (file.hasNext())
+        files += file.next();
+    return files;
+}
+
 } // namespace
 
 QString GetStandardLocation(StandardLocation location)
@@ -42,18 +104,107 @@ QString GetStandardLocation(StandardLocation location)
     return Platform::ShellFolder(ShellFolderId(location));
 }
 
-bool CreateShortCut(const QString&, const QString&, const QStringList&)
+bool CreateShortCut(const QString& link, const QString& target, const QStringList& arguments)
 {
+    qDebug() << "Creating shortcut '" << link << "' -> '" << target << "'";
+    Platform::ComApartment apartment; // outlives every reference below
+    const Platform::ComPointer<IShellLinkW> shellLink = CreateShellLink(apartment);
+    if (!shellLink)
+        return false;
+
+    const std::wstring path = WithBackslashes(target);
+    const std::wstring folder = WithBackslashes(QFileInfo(target).absolutePath());
+    if (FAILED(shellLink->SetPath(path.c_str())) ||
+        FAILED(shellLink->SetWorkingDirectory(folder.c_str())))
+        return false;
+    if (!arguments.isEmpty() && FAILED(shellLink->SetArguments(
+                                    WithBackslashes('"' + arguments.join("\" \"") + '"').c_str())))
+        return false;
+
+    if (Save(*shellLink.Get(), link + ".lnk"))
+        return true;
+    qInfo() << "Creating shortcut '" << link << "' failed with code=" << GetLastError();
     return false;
 }
 
-bool CreateUrlLink(const QString&, const std::string&)
+bool CreateUrlLink(const QString& file, const std::string& url)
 {
-    return false;
+    QFile urlFile(file);
+    if (!urlFile.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return false;
+    urlFile.write("[InternetShortcut]\r\nURL=" + QByteArray::fromStdString(url));
+    return true;
 }
 
-void InstallerMediator::CreateShortcuts() const {}
+QString InstallerMediator::CreateMenuBasePath(QString root) const
+{
+    root += settings.productFolderName + QDir::separator();
+    QDir().mkpath(root);
+    return root;
+}
 
-void InstallerMediator::RemoveShortcuts() {}
+QString InstallerMediator::CreateMenuAppPath(QString base) const
+{
+    if (profile.appPaths.size() > 1)
+        base += tr("Programs") + QDir::separator();
+    if (!profile.appPaths.isEmpty())
+        QDir().mkpath(base);
+    return base;
+}
+
+QString InstallerMediator::CreateShortcutName(const QString& name) const
+{
+    return QCoreApplication::translate("Installer", name.toUtf8());
+}
+
+QStringList InstallerMediator::AppendExtraParams(const QString& parameters) const
+{
+    return parameters.isEmpty() ? QStringList() : QStringList(parameters);
+}
+
+QString InstallerMediator::CreateUrlFilename() const
+{
+    return settings.installDir + settings.productFolderName + ".url";
+}
+
+void InstallerMediator::CreateShortcuts() const
+{
+    const QString& name = settings.productFolderName;
+    const QString& folder = settings.installDir;
+    const QString menuBase = CreateMenuBasePath(StartMenuRoot(settings.scope));
+    const QString menuPrograms = CreateMenuAppPath(menuBase);
+
+    for (const ExecutableInfo& info : profile.appPaths)
+    {
+        if (info.fileName != profile.mainExecutable)
+            CreateShortCut(menuPrograms + CreateShortcutName(info.description),
+                folder + info.fileName, AppendExtraParams(info.arguments));
+    }
+    CreateShortCut(menuBase + name, folder + profile.mainExecutable, {});
+    CreateShortCut(DesktopRoot(settings.scope) + name, folder + profile.mainExecutable, {});
+    CreateShortCut(menuBase + tr("Uninstall %1", "Delete app from start menu").arg(name),
+        folder + ProductProfile::uninstallerFileName, {});
+    CreateUrlLink(CreateUrlFilename(), GetUrl(URL::StartPage).toStdString());
+    if (!productIniSettings->value("HIDE_HOMEPAGE_SHORTCUT", false).toBool())
+        CreateShortCut(
+            menuBase + tr("Site %1", "Site link in menu").arg(name), CreateUrlFilename(), {});
+}
+
+void InstallerMediator::RemoveShortcuts()
+{
+    const QString menuBase = CreateMenuBasePath(StartMenuRoot(settings.scope));
+    qInfo() << "Removing " << menuBase;
+    for (const QString& link : FilesBelow(menuBase))
+        qDebug() << "existing link=" << link;
+    if (!QDir(menuBase).removeRecursively())
+        qInfo() << "Failed to remove " << menuBase << ", error=" << GetLastError();
+    for (const QString& link : FilesBelow(menuBase))
+        qInfo() << "Error! remaining link=" << link;
+
+    const QString desktopLink = DesktopRoot(settings.scope) + settings.previousFolderName + ".lnk";
+    qInfo() << "Removing " << desktopLink << "(" << QFile::exists(desktopLink) << ")";
+    if (!QFile::remove(desktopLink))
+        qInfo() << "Failed to remove desktop shortcut.";
+}
 
 } // namespace Vorlan

@@ -56,4 +56,14 @@ struct RegistryKeyTraits
 
 using UniqueKey = UniqueHandle<RegistryKeyTraits>;
 
+struct ObjectTraits
+{
+    using Type = HANDLE;
+    static bool IsValid(HANDLE handle) { return handle != nullptr; }
+    static void Close(HANDLE handle) { CloseHandle(handle); }
+};
+
+using UniqueObject = UniqueHandle<ObjectTraits>;
+using UniqueProcess = UniqueObject;
+
 } // namespace Vorlan::Platform

@@ -60,6 +60,10 @@ namespace Platform
 // or it is longer than 259 characters.
 QString ShellFolder(int csidl);
 
+// What tells this machine from others: "/etc/machine-id" on Linux, the registry's "MachineGuid" on
+// Windows; empty when there is none. Leaves the machine only as part of a hash.
+std::string MachineId();
+
 // The product's log folder, without a separator at its end; it need not exist.
 QString LogFolder();
 

@@ -89,3 +89,14 @@ bool IsPathOnSSD(const std::string& path)
 }
 
 } // namespace Vorlan::Core
+
+namespace Vorlan::Platform
+{
+
+std::string MachineId()
+{
+    QFile file("/etc/machine-id");
+    return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toStdString() : std::string();
+}
+
+} // namespace Vorlan::Platform

@@ -1,6 +1,7 @@
 #include "platform/System.h"
 
 #include "platform/Handle.h"
+#include "platform/Registry.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -127,3 +128,15 @@ bool IsPathOnSSD(const std::string& path)
 }
 
 } // namespace Vorlan::Core
+
+namespace Vorlan::Platform
+{
+
+std::string MachineId()
+{
+    const Util::RegistryHelper cryptography(
+        {"SOFTWARE\\Microsoft\\Cryptography"}, Util::RegistryHelper::LocalMachine64);
+    return cryptography.GetValue("MachineGuid").toStdString();
+}
+
+} // namespace Vorlan::Platform

@@ -25,6 +25,7 @@ protected:
         settings.installDir = machine.Path("Vorlan Quillax/");
         mediator.SetSettings(settings);
         access.OpenArchive(Payload("small.7z"));
+        access.SkipWaits();
     }
 
     void Install()

@@ -33,6 +33,8 @@ TEST_F(RegShowLinuxTest, EveryKeyWithValuesAndEveryEmptyOneIsABlockAndKeysAreSor
     QProcess process;
     EXPECT_EQ(Run(process, {MachineFolder()}).exitCode(), 0);
     EXPECT_EQ(process.readAllStandardOutput().toStdString(),
+        "[HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run]\n"
+        "\n"
         "[HKEY_CURRENT_USER\\Software\\VorlanPalTests]\n"
         "  path  REG_SZ  C:\\x\n"
         "  (Default)  REG_SZ  a\\x9b\n"
@@ -45,7 +47,7 @@ TEST_F(RegShowLinuxTest, EveryKeyWithValuesAndEveryEmptyOneIsABlockAndKeysAreSor
         "\n"
         "[HKEY_CURRENT_USER\\Software\\VorlanPalTests\\z]\n"
         "\n"
-        "[HKEY_LOCAL_MACHINE]\n"
+        "[HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\Run]\n"
         "\n");
 }
 

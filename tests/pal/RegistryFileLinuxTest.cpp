@@ -12,8 +12,15 @@ using Names = std::vector<std::wstring>;
 using namespace std::string_literals;
 
 const std::string header = "Windows Registry Editor Version 5.00\n\n";
-const std::string journalStart = header + "[HKEY_CURRENT_USER]\n\n"
-                                          "[HKEY_CURRENT_USER\\Software\\VorlanPalTests]\n\n";
+// What a new file holds: the root and the keys that every Windows has.
+const std::string freshRoot =
+    header + "[HKEY_CURRENT_USER]\n\n"
+             "[HKEY_CURRENT_USER\\Software]\n\n"
+             "[HKEY_CURRENT_USER\\Software\\Microsoft]\n\n"
+             "[HKEY_CURRENT_USER\\Software\\Microsoft\\Windows]\n\n"
+             "[HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion]\n\n"
+             "[HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Run]\n\n";
+const std::string journalStart = freshRoot + "[HKEY_CURRENT_USER\\Software\\VorlanPalTests]\n\n";
 
 class RegistryFileLinuxTest : public RegistryFiles
 {
@@ -79,14 +86,27 @@ TEST_F(RegistryFileLinuxTest, ANormalEndLeavesASortedFileThatHoldsEverythingOnce
         return RegCloseKey(key);
     };
     ASSERT_EQ(WaitForChild(StartChild(change, Ending::Normal)), 0);
-    EXPECT_EQ(Text(), header + "[HKEY_CURRENT_USER]\n\n"
-                               "[HKEY_CURRENT_USER\\Software]\n\n"
-                               "[HKEY_CURRENT_USER\\Software\\VorlanPalTests]\n"
-                               "\"b\"=\"text\"\n"
-                               "\"a\"=\"text\"\n\n"
-                               "[HKEY_CURRENT_USER\\Software\\VorlanPalTests\\Beta]\n\n"
-                               "[HKEY_CURRENT_USER\\Software\\VorlanPalTests\\zeta]\n\n");
+    EXPECT_EQ(Text(), freshRoot + "[HKEY_CURRENT_USER\\Software\\VorlanPalTests]\n"
+                                  "\"b\"=\"text\"\n"
+                                  "\"a\"=\"text\"\n\n"
+                                  "[HKEY_CURRENT_USER\\Software\\VorlanPalTests\\Beta]\n\n"
+                                  "[HKEY_CURRENT_USER\\Software\\VorlanPalTests\\zeta]\n\n");
     EXPECT_EQ(SubKeyNames(Key()), (Names{L"Beta", L"zeta"}));
+}
+
+TEST_F(RegistryFileLinuxTest, TheRunKeyIsThereInBothRootsUntilSomebodyDeletesIt)
+{
+    constexpr wchar_t path[] = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run\\";
+    for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE})
+    {
+        HKEY key = nullptr;
+        ASSERT_EQ(RegOpenKeyExW(root, path, 0, KEY_ALL_ACCESS, &key), ERROR_SUCCESS);
+        EXPECT_EQ(SetText(key, L"Quill", L"quill.exe"), ERROR_SUCCESS);
+        RegCloseKey(key);
+        EXPECT_EQ(RegDeleteKeyW(root, path), ERROR_SUCCESS);
+        ReadAnew();
+        EXPECT_EQ(RegOpenKeyExW(root, path, 0, KEY_READ, &key), ERROR_FILE_NOT_FOUND);
+    }
 }
 
 TEST_F(RegistryFileLinuxTest, ValuesAreListedInTheOrderTheyWereMade)
@@ -180,14 +200,14 @@ TEST_F(RegistryFileLinuxTest, ADamagedFileIsReportedAndSetAsideNeverOverwritten)
         const WarningLog log;
         const HKEY root = MakeKey(HKEY_CURRENT_USER, L"");
         ASSERT_NE(root, nullptr);
-        EXPECT_EQ(SubKeyNames(root), Names{});
+        EXPECT_EQ(SubKeyNames(root), Names{L"Software"});
         const QString aside = FilePath() + ".damaged-" + QString::number(++number);
         EXPECT_EQ(WarningLog::Lines(),
             QStringList{"Registry file is damaged and was set aside: " + aside});
         EXPECT_EQ(Bytes(aside), content) << number;
         EXPECT_EQ(SetText(root, L"value", L"goes on"), ERROR_SUCCESS);
-        EXPECT_EQ(Text(), header + "[HKEY_CURRENT_USER]\n\n[HKEY_CURRENT_USER]\n"
-                                   "\"value\"=\"goes on\"\n\n");
+        EXPECT_EQ(Text(), freshRoot + "[HKEY_CURRENT_USER]\n"
+                                      "\"value\"=\"goes on\"\n\n");
         RegCloseKey(root);
     }
     EXPECT_EQ(number, 14);

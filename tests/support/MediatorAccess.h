@@ -1,6 +1,7 @@
 #pragma once
 
 #include "archive/ArchiveExtractor.h"
+#include "installer/InstalledUninstallers.h"
 #include "installer/InstallerMediator.h"
 #include "platform/Path.h"
 #include "registry/SettingsManager.h"
@@ -18,6 +19,12 @@ struct MediatorAccess
     {
         mediator.extractor = std::make_unique<ArchiveExtractor>(Platform::WideFromText(path));
     }
+    // Lets every wait for an old uninstaller's folder be over at once.
+    void SkipWaits()
+    {
+        auto time = std::make_shared<std::chrono::steady_clock::time_point>();
+        *mediator.waitClock = {[time] { return *time += std::chrono::seconds(61); }, [] {}};
+    }
     // Waits for the whole run, what follows its end signal included.
     void Join() { mediator.worker.join(); }
 
@@ -32,6 +39,13 @@ struct MediatorAccess
         mediator.HandleCopyFileError(name, reason);
     }
     void UpdateProgramData() { mediator.UpdateProgramData(); }
+    void AddRegistryInfo() { mediator.AddRegistryInfo(); }
+    void RemoveRegistryInfo() { mediator.RemoveRegistryInfo(); }
+    void TerminateApps() { mediator.TerminateApps(); }
+    void RemovePreviousVersion() { mediator.RemovePreviousVersion(); }
+    void RemoveAdditionalModules() { mediator.RemoveAdditionalModules(); }
+    void CreateShortcuts() { mediator.CreateShortcuts(); }
+    void RemoveShortcuts() { mediator.RemoveShortcuts(); }
 
     void CopyInParallel(const std::vector<std::wstring>& names, int threads)
     {

@@ -32,10 +32,13 @@ SetupRun::SetupRun()
     {
         environment.insert(name, QDir::toNativeSeparators(TemporaryFolder()));
     }
+    // A program that a test installs has no plugin beside it.
+    environment.insert("QT_QPA_PLATFORM_PLUGIN_PATH", FRONTEND_FOLDER "/platforms");
     AddProgram("installergui.exe");
-    for (const QString& fileName : QString(ENGINE_FILES).split('|'))
+    AddProgram(ENGINE_FILE_NAME);
+    for (const QString& program : QString(BESIDE_SETUP).split(' ', Qt::SkipEmptyParts))
     {
-        AddProgram(fileName);
+        AddProgram(program);
     }
 }
 
@@ -65,10 +68,16 @@ void SetupRun::AddArchiveContent(const QByteArray& content)
 
 SetupRun::Result SetupRun::Start(const QString& program, const QStringList& arguments)
 {
+    return StartFrom(SetupFolder(), program, arguments);
+}
+
+SetupRun::Result SetupRun::StartFrom(
+    const QString& folder, const QString& program, const QStringList& arguments)
+{
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(WorkFolder());
-    process.start(QDir(SetupFolder()).filePath(program), arguments);
+    process.start(QDir(folder).filePath(program), arguments);
     EXPECT_TRUE(process.waitForFinished(timeLimitMs)) << process.errorString().toStdString();
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     return {process.exitCode(), TextOf(process.readAllStandardOutput()),

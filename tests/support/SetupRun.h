@@ -30,6 +30,8 @@ public:
 
     // Starts a program of the setup folder, in the work folder, and waits for its end.
     Result Start(const QString& program, const QStringList& arguments);
+    // Starts a program of another folder.
+    Result StartFrom(const QString& folder, const QString& program, const QStringList& arguments);
     Result Start(const QStringList& arguments) { return Start("installergui.exe", arguments); }
 
     // Copies a file of the build's program folder into the setup folder, under the same path.

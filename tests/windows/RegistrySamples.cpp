@@ -1,5 +1,5 @@
-// Writes the samples into the registry of the machine root: the runner of the tests under Wine makes
-// with it the file that they import.
+// Writes the samples into the registry of the machine root: the runner of the tests under Wine
+// makes with it the file that they import.
 #include "support/RegistrySamples.h"
 
 #include <iostream>

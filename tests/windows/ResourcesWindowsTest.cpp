@@ -32,8 +32,8 @@ protected:
         if (!place)
             return QByteArray();
         const void* const bytes = LockResource(LoadResource(module, place));
-        return QByteArray(static_cast<const char*>(bytes),
-            static_cast<int>(SizeofResource(module, place)));
+        return QByteArray(
+            static_cast<const char*>(bytes), static_cast<int>(SizeofResource(module, place)));
     }
 
     HMODULE module = nullptr;

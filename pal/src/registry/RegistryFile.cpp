@@ -22,6 +22,14 @@ namespace fs = std::filesystem;
 
 constexpr off_t tolerableJournal = 64 * 1024;
 
+// What every Windows has and nobody makes.
+const KeyPath& RunKey()
+{
+    static const auto& path =
+        *new KeyPath{u"Software", u"Microsoft", u"Windows", u"CurrentVersion", u"Run"};
+    return path;
+}
+
 Descriptor OpenFileAt(const fs::path& path, int flags)
 {
     return Descriptor(open(path.c_str(), flags | O_CLOEXEC, 0666));
@@ -69,12 +77,13 @@ off_t DiskSize(size_t characters)
 RegistryFile::RegistryFile(fs::path path, std::u16string rootName)
     : m_path(std::move(path)), m_rootName(std::move(rootName)), m_compactAbove(tolerableJournal)
 {
-    StartEmpty();
+    StartFresh();
 }
 
-void RegistryFile::StartEmpty()
+void RegistryFile::StartFresh()
 {
     m_root = std::make_shared<KeyNode>(m_rootName);
+    MakeKey(m_root, RunKey());
     ++m_generation;
     m_file = Descriptor();
     m_seenSize = 0;
@@ -89,7 +98,7 @@ DWORD RegistryFile::Refresh()
         if (errno != ENOENT)
             return ErrorFromErrno(errno);
         if (m_file.IsOpen())
-            StartEmpty();
+            StartFresh();
         return ERROR_SUCCESS;
     }
     if (!IsOwnFile(status) || status.st_size < m_completeSize)
@@ -156,7 +165,7 @@ DWORD RegistryFile::SetAside()
         if (error)
             return ErrorFromErrno(error.value());
         m_reports.push_back("Registry file is damaged and was set aside: " + aside.string());
-        StartEmpty();
+        StartFresh();
         return ERROR_SUCCESS;
     }
 }

@@ -31,7 +31,7 @@ public:
     // Brings the tree up to date. ERROR_BADDB: the file is damaged, see SetAside.
     DWORD Refresh();
 
-    // Renames a damaged file to a name that is free and goes on with an empty root.
+    // Renames a damaged file to a name that is free and goes on with a fresh root.
     DWORD SetAside();
 
     // Writes one record; the caller then makes the same change in the tree.
@@ -55,7 +55,8 @@ public:
     std::vector<std::string> TakeReports();
 
 private:
-    void StartEmpty();
+    // A root as every Windows has it, which the first change puts on disk.
+    void StartFresh();
     DWORD ReadWhole();
     DWORD ReadAppended();
     bool IsOwnFile(const struct stat& status) const;

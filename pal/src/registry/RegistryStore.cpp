@@ -102,6 +102,7 @@ std::shared_ptr<RegistryStore> CurrentStore()
 {
     static auto& current = *new std::shared_ptr<RegistryStore>; // used until the process ends
     const fs::path root = MachineRoot();
+    PutSystemFolderOnPath(root);
     if (!current || current->MachineRoot() != root)
         current = std::make_shared<RegistryStore>(root);
     return current;

@@ -1,0 +1,68 @@
+#include "MediatorRun.h"
+
+#include "MediatorEvents.h"
+
+#include "installer/InstallerMediator.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QEventLoop>
+#include <QTranslator>
+
+namespace Vorlan::FrontEnd
+{
+namespace
+{
+
+// The engine has one text for every failure; an uninstallation that other programs forbid has
+// another, which names them.
+ExitCode CodeOf(const QString& errorText)
+{
+    const QString failure = QCoreApplication::translate("Vorlan::InstallerMediator",
+        "Installation failed. Try to select another location and run install again.");
+    return errorText == failure ? ExitCode::Failed : ExitCode::DependentProgramsExist;
+}
+
+} // namespace
+
+std::unique_ptr<QTranslator> InstallTranslation(const QString& locale)
+{
+    auto translator = std::make_unique<QTranslator>();
+    const QString path = QString("resources/locales/%1/InstallerGUI_%1.qm").arg(locale);
+    if (translator->load(path))
+    {
+        QCoreApplication::installTranslator(translator.get());
+    }
+    else
+    {
+        qWarning() << "No translation in" << path << ": texts stay English";
+    }
+    return translator;
+}
+
+Outcome RunToTheEnd(
+    InstallerMediator& mediator, void (InstallerMediator::*start)(), const EventSink& sink)
+{
+    QEventLoop loop;
+    Outcome outcome;
+    ConnectEvents(mediator, loop,
+        [&](const RunEvent& event)
+        {
+            sink(event);
+            if (event.signal == "InstallationError")
+            {
+                const QString text = event.parameters["text"].toString();
+                outcome = {CodeOf(text), text};
+                loop.quit();
+            }
+            else if (event.signal == "InstallationFinished")
+            {
+                loop.quit();
+            }
+        });
+    (mediator.*start)();
+    loop.exec();
+    return outcome;
+}
+
+} // namespace Vorlan::FrontEnd

@@ -1,0 +1,56 @@
+#include "UninstallRun.h"
+
+#include "MachineAccess.h"
+#include "MediatorRun.h"
+#include "OwnFolder.h"
+
+#include "installer/InstallerMediator.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QTranslator>
+
+namespace Vorlan::FrontEnd
+{
+namespace
+{
+
+Outcome UninstallFrom(const QString& folder, QSettings::Scope scope, const CommandLine& options,
+    const EventSink& sink)
+{
+    const QString programName = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
+    InstallerMediator mediator({programName, false, true, scope, false});
+    InstallationSettings settings = mediator.GetSettings();
+    settings.removeAllOnUninstall = options.removeAll;
+    settings.locale = options.language.isEmpty() ? settings.locale : options.language;
+    mediator.SetSettings(settings);
+    mediator.OnDeleteUserSettings(options.deleteSettings);
+    const auto translator = InstallTranslation(settings.locale);
+
+    const RemovalMark mark(folder);
+    const Outcome outcome = RunToTheEnd(mediator, &InstallerMediator::StartUninstall, sink);
+    if (outcome.code != ExitCode::Failed)
+    {
+        mark.Finish();
+    }
+    return outcome;
+}
+
+} // namespace
+
+Outcome UninstallSilently(const CommandLine& options, const EventSink& sink)
+{
+    const QString folder = QCoreApplication::applicationDirPath();
+    const OwnFolder own = ExamineOwnFolder(folder, options.Scope());
+    if (!own.refusal.isEmpty())
+    {
+        return {ExitCode::Failed, own.refusal};
+    }
+    if (own.scope == QSettings::SystemScope && !CanChangeMachine())
+    {
+        return {ExitCode::Failed, MachineRightsMissing()};
+    }
+    return UninstallFrom(folder, own.scope, options, sink);
+}
+
+} // namespace Vorlan::FrontEnd

@@ -1,0 +1,137 @@
+// Named mutexes, as signs for other processes that something is going on.
+//
+// A name is a file of the machine, and whoever has a handle holds a shared lock on that file. So a
+// mutex goes with the process that holds it, however that ends. A second lock makes looking for
+// holders and becoming one a single step.
+#include <windows.h>
+
+#include <cerrno>
+#include <string_view>
+
+#include <QUrl>
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+#include <Pal.h>
+
+#include "Descriptor.h"
+#include "ErrorMapping.h"
+#include "Faults.h"
+#include "HandleTable.h"
+#include "LastError.h"
+#include "Machine.h"
+#include "WideText.h"
+
+namespace Pal
+{
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+class Mutex : public OpenObject
+{
+public:
+    Mutex(std::string name, Descriptor file) : m_name(std::move(name)), m_file(std::move(file)) {}
+
+    std::string Name() const override { return "mutex " + m_name; }
+
+private:
+    const std::string m_name;
+    const Descriptor m_file;
+};
+
+DWORD LockFile(const Descriptor& file, int operation)
+{
+    int result = 0;
+    do
+        result = flock(file.Get(), operation);
+    while (result != 0 && errno == EINTR);
+    return result == 0 ? ERROR_SUCCESS : ErrorFromErrno(errno);
+}
+
+Descriptor OpenLockFile(const fs::path& path)
+{
+    return Descriptor(open(path.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, 0666));
+}
+
+DWORD FileNameOf(LPCWSTR name, std::string& fileName)
+{
+    constexpr std::wstring_view local = L"Local\\";
+    std::wstring_view text = name ? name : L"";
+    if (text.substr(0, local.size()) == local)
+        text.remove_prefix(local.size());
+    if (text.empty())
+        return ERROR_NOT_SUPPORTED;
+    const QString shown = QString::fromStdU16String(Utf16FromWide(text));
+    fileName = QUrl::toPercentEncoding(shown, QByteArray(), ".").toStdString();
+    return ERROR_SUCCESS;
+}
+
+// Tells whether anybody has the mutex, and takes part in it if so or if it may be made.
+DWORD TakePart(const std::string& fileName, bool mayMake, Descriptor& file, bool& existed)
+{
+    const fs::path folder = MutexFolder(MachineRoot());
+    const Descriptor guard = OpenLockFile(folder / "lock");
+    DWORD error = guard.IsOpen() ? LockFile(guard, LOCK_EX) : ErrorFromErrno(errno);
+    if (error != ERROR_SUCCESS)
+        return error;
+    file = OpenLockFile(folder / ("named " + fileName));
+    if (!file.IsOpen())
+        return ErrorFromErrno(errno);
+    existed = flock(file.Get(), LOCK_EX | LOCK_NB) != 0;
+    if (!existed && !mayMake)
+        return ERROR_FILE_NOT_FOUND;
+    return LockFile(file, LOCK_SH);
+}
+
+HANDLE OpenMutex(LPCWSTR name, bool mayMake)
+{
+    std::string fileName;
+    Descriptor file;
+    bool existed = false;
+    DWORD error = FileNameOf(name, fileName);
+    if (error == ERROR_SUCCESS)
+        error = EnterMachine();
+    if (error == ERROR_SUCCESS)
+        error = TakePart(fileName, mayMake, file, existed);
+    if (error == ERROR_SUCCESS && mayMake)
+        SetLastError(existed ? ERROR_ALREADY_EXISTS : ERROR_SUCCESS);
+    if (error == ERROR_SUCCESS)
+        return HandleTable::Instance().Add(std::make_shared<Mutex>(fileName, std::move(file)));
+    SetLastError(error);
+    return nullptr;
+}
+
+} // namespace
+
+} // namespace Pal
+
+// Keeps:   the mutex is there as long as any process of this machine has a handle for it, and goes
+//          with the last one however that process ends; success sets the last error to zero, or to
+//          ERROR_ALREADY_EXISTS where it was there. "Local\" in front of a name changes nothing.
+// Differs: names may hold any character and have some 250 bytes.
+// Refuses: being its owner, waiting for it, security attributes, a mutex without a name.
+HANDLE CreateMutexW(LPSECURITY_ATTRIBUTES mutexAttributes, BOOL initialOwner, LPCWSTR name)
+{
+    if (Pal::FaultHits(__func__))
+        return nullptr;
+    if (!mutexAttributes && !initialOwner)
+        return Pal::OpenMutex(name, true);
+    SetLastError(ERROR_NOT_SUPPORTED);
+    return nullptr;
+}
+
+// Keeps:   ERROR_FILE_NOT_FOUND when nobody has the mutex.
+// Refuses: access other than SYNCHRONIZE, inheriting.
+HANDLE OpenMutexW(DWORD desiredAccess, BOOL inheritHandle, LPCWSTR name)
+{
+    if (Pal::FaultHits(__func__))
+        return nullptr;
+    if (desiredAccess == SYNCHRONIZE && !inheritHandle)
+        return Pal::OpenMutex(name, false);
+    SetLastError(ERROR_NOT_SUPPORTED);
+    return nullptr;
+}

@@ -1,0 +1,76 @@
+#include "Classes.h"
+
+#include <algorithm>
+#include <cstring>
+#include <mutex>
+#include <vector>
+
+#include <Pal.h>
+#include <shlobj.h>
+
+#include "ShellLink.h"
+
+namespace Pal
+{
+
+struct ScopedClass::State
+{
+    const CLSID classId;
+    const ClassFactory factory;
+};
+
+namespace
+{
+
+struct ClassList
+{
+    std::mutex mutex;
+    std::vector<ScopedClass::State*> registered;
+};
+
+ClassList& Classes()
+{
+    static ClassList& classes = *new ClassList; // outlives every static object that makes calls
+    return classes;
+}
+
+} // namespace
+
+ScopedClass::ScopedClass(REFCLSID classId, std::function<IUnknown*()> factory)
+    : m_state(new State{classId, std::move(factory)})
+{
+    const std::lock_guard lock(Classes().mutex);
+    Classes().registered.push_back(m_state.get());
+}
+
+ScopedClass::~ScopedClass()
+{
+    const std::lock_guard lock(Classes().mutex);
+    auto& registered = Classes().registered;
+    registered.erase(std::find(registered.begin(), registered.end(), m_state.get()));
+}
+
+std::optional<ClassFactory> FindClass(REFCLSID classId)
+{
+    const std::lock_guard lock(Classes().mutex);
+    const auto& registered = Classes().registered;
+    const auto found = std::find_if(registered.rbegin(), registered.rend(),
+        [&classId](const ScopedClass::State* state) { return state->classId == classId; });
+    if (found != registered.rend())
+        return (*found)->factory;
+    if (classId == CLSID_ShellLink)
+        return ClassFactory(MakeShellLink);
+    return std::nullopt;
+}
+
+} // namespace Pal
+
+bool operator==(REFGUID first, REFGUID second)
+{
+    return std::memcmp(&first, &second, sizeof(GUID)) == 0;
+}
+
+bool operator!=(REFGUID first, REFGUID second)
+{
+    return !(first == second);
+}

@@ -1,0 +1,64 @@
+// The object behind CLSID_ShellLink.
+#pragma once
+
+#include <atomic>
+
+#include <shlobj.h>
+
+#include "LinkFile.h"
+
+namespace Pal
+{
+
+// A link with one reference.
+IUnknown* MakeShellLink();
+
+class ShellLink final : public IShellLinkW, public IPersistFile
+{
+public:
+    HRESULT QueryInterface(REFIID iid, void** object) override;
+    ULONG AddRef() override;
+    ULONG Release() override;
+
+    HRESULT GetPath(LPWSTR path, int size, WIN32_FIND_DATAW* data, DWORD flags) override;
+    HRESULT SetPath(LPCWSTR path) override;
+    HRESULT GetWorkingDirectory(LPWSTR folder, int size) override;
+    HRESULT SetWorkingDirectory(LPCWSTR folder) override;
+    HRESULT GetArguments(LPWSTR arguments, int size) override;
+    HRESULT SetArguments(LPCWSTR arguments) override;
+
+    HRESULT GetClassID(CLSID* classId) override;
+    HRESULT IsDirty() override;
+    HRESULT Load(LPCWSTR fileName, DWORD mode) override;
+    HRESULT Save(LPCWSTR fileName, BOOL remember) override;
+    HRESULT GetCurFile(LPWSTR* fileName) override;
+
+    // Refuses: all of these, which nobody calls.
+    HRESULT GetIDList(ITEMIDLIST**) override { return E_NOTIMPL; }
+    HRESULT SetIDList(const ITEMIDLIST*) override { return E_NOTIMPL; }
+    HRESULT GetDescription(LPWSTR, int) override { return E_NOTIMPL; }
+    HRESULT SetDescription(LPCWSTR) override { return E_NOTIMPL; }
+    HRESULT GetHotkey(WORD*) override { return E_NOTIMPL; }
+    HRESULT SetHotkey(WORD) override { return E_NOTIMPL; }
+    HRESULT GetShowCmd(int*) override { return E_NOTIMPL; }
+    HRESULT SetShowCmd(int) override { return E_NOTIMPL; }
+    HRESULT GetIconLocation(LPWSTR, int, int*) override { return E_NOTIMPL; }
+    HRESULT SetIconLocation(LPCWSTR, int) override { return E_NOTIMPL; }
+    HRESULT SetRelativePath(LPCWSTR, DWORD) override { return E_NOTIMPL; }
+    HRESULT Resolve(HWND, DWORD) override { return E_NOTIMPL; }
+    HRESULT SaveCompleted(LPCWSTR) override { return E_NOTIMPL; }
+
+private:
+    ~ShellLink() = default;
+
+    HRESULT SetText(std::u16string& field, LPCWSTR text);
+    HRESULT WriteTo(LPCWSTR fileName) const;
+    HRESULT ReadFrom(LPCWSTR fileName);
+
+    std::atomic<ULONG> m_references = 1;
+    LinkContent m_content;
+    std::wstring m_fileName;
+    bool m_changed = false;
+};
+
+} // namespace Pal

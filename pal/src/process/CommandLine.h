@@ -1,0 +1,29 @@
+// Command lines by the rules of Windows.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Pal
+{
+
+// The words that a program is given, by the rules of CommandLineToArgvW. In the first one, which
+// names the program, only quotes count.
+enum class FirstWord
+{
+    NamesProgram,
+    IsArgument
+};
+std::vector<std::wstring> SplitCommandLine(std::wstring_view commandLine, FirstWord firstWord);
+
+// What may name the program: the shortest text first, each with what follows it. An unquoted name
+// may hold blanks, so every blank is a possible end.
+struct ProgramName
+{
+    std::wstring_view name;
+    std::wstring_view rest;
+};
+std::vector<ProgramName> PossiblePrograms(std::wstring_view commandLine);
+
+} // namespace Pal

@@ -1,0 +1,160 @@
+#include <windows.h>
+
+#include <Pal.h>
+
+#include "../ErrorMapping.h"
+#include "../Faults.h"
+#include "../LastError.h"
+#include "../Machine.h"
+#include "../WideText.h"
+#include "CommandLine.h"
+#include "ProcessStart.h"
+#include "ProgramSearch.h"
+
+namespace Pal
+{
+
+namespace
+{
+
+// A handle from GetStdHandle is a number of its own that no object ever gets.
+HANDLE StandardHandle(DWORD stream)
+{
+    return reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(static_cast<LONG>(stream)));
+}
+
+DWORD StreamOf(HANDLE handle, int& stream)
+{
+    const DWORD streams[] = {STD_INPUT_HANDLE, STD_OUTPUT_HANDLE, STD_ERROR_HANDLE};
+    for (int number = 0; number < 3; ++number)
+    {
+        if (handle == StandardHandle(streams[number]))
+            stream = number;
+    }
+    return !handle || stream >= 0 ? ERROR_SUCCESS : ERROR_INVALID_HANDLE;
+}
+
+DWORD ChooseStreams(const STARTUPINFOW& info, DWORD creationFlags, std::array<int, 3>& streams)
+{
+    if (!(info.dwFlags & STARTF_USESTDHANDLES))
+    {
+        if (!(creationFlags & CREATE_NO_WINDOW))
+            streams = {0, 1, 2};
+        return ERROR_SUCCESS;
+    }
+    DWORD error = StreamOf(info.hStdInput, streams[0]);
+    if (error == ERROR_SUCCESS)
+        error = StreamOf(info.hStdOutput, streams[1]);
+    return error == ERROR_SUCCESS ? StreamOf(info.hStdError, streams[2]) : error;
+}
+
+DWORD CheckStart(const STARTUPINFOW* info, DWORD creationFlags, BOOL inheritHandles, bool hasExtras)
+{
+    if (!info || info->cb != sizeof(STARTUPINFOW))
+        return ERROR_INVALID_PARAMETER;
+    if (hasExtras || (creationFlags & ~DWORD{CREATE_NO_WINDOW}) ||
+        (info->dwFlags & ~DWORD{STARTF_USESTDHANDLES}))
+        return ERROR_NOT_SUPPORTED;
+    const bool givesStreams = info->dwFlags & STARTF_USESTDHANDLES;
+    return givesStreams && !inheritHandles ? ERROR_NOT_SUPPORTED : ERROR_SUCCESS;
+}
+
+// Finds the file and says how it is started: a given name is the file's path, else the command line
+// begins with it.
+DWORD Plan(LPCWSTR applicationName, std::wstring_view commandLine, ProcessStart& start)
+{
+    std::string program;
+    std::wstring_view rest;
+    DWORD error = ERROR_SUCCESS;
+    if (applicationName)
+    {
+        const std::wstring_view name = applicationName;
+        error = NativePath(applicationName, program);
+        rest = commandLine.substr(0, name.size()) == name ? commandLine.substr(name.size())
+                                                          : PossiblePrograms(commandLine)[0].rest;
+    }
+    else
+    {
+        error = FindProgramOf(commandLine, program, rest);
+    }
+    if (error == ERROR_SUCCESS)
+        start = PlanStart(program, SplitCommandLine(commandLine, FirstWord::NamesProgram), rest);
+    return error;
+}
+
+DWORD AddFolder(LPCWSTR folder, ProcessStart& start)
+{
+    if (!folder)
+        return ERROR_SUCCESS;
+    return NativePath(folder, start.folder) == ERROR_SUCCESS ? ERROR_SUCCESS : ERROR_DIRECTORY;
+}
+
+PROCESS_INFORMATION HandOut(const std::shared_ptr<Process>& process)
+{
+    HandleTable& table = HandleTable::Instance();
+    const auto id = static_cast<DWORD>(process->Id());
+    return {table.Add(std::make_shared<ProcessHandle>(process, allProcessAccess)),
+        table.Add(std::make_shared<ThreadHandle>(process->Id())), id, id};
+}
+
+} // namespace
+
+} // namespace Pal
+
+// Starts a program of this system, or a ".bat" with /bin/sh.
+// Keeps:   without an application name the command line begins with the program: quoted, or
+//          unquoted and then every blank may end it, the first name that exists counts. The
+//          child's arguments are cut from the command line by the Windows rules; cmd.exe gets the
+//          text behind its name uncut. Errors of the start are the caller's: a missing file, one
+//          that may not be started (ERROR_ACCESS_DENIED) or is no program (ERROR_BAD_EXE_FORMAT), a
+//          missing folder to start in (ERROR_DIRECTORY).
+// Differs: a name without an extension is looked for as it is before ".exe" is added. With
+//          CREATE_NO_WINDOW the child has no standard streams unless it is given some, without it
+//          those of this process; it never gets other handles, and a null handle is no stream. A
+//          ".bat" gets the words of the command line without their quotes. The thread handle can
+//          only be closed.
+// Refuses: every other creation flag, start-up flag and attribute, an environment block, streams
+//          without inheritHandles, streams that are not from GetStdHandle.
+BOOL CreateProcessW(LPCWSTR applicationName, LPWSTR commandLine,
+    LPSECURITY_ATTRIBUTES processAttributes, LPSECURITY_ATTRIBUTES threadAttributes,
+    BOOL inheritHandles, DWORD creationFlags, LPVOID environment, LPCWSTR currentDirectory,
+    LPSTARTUPINFOW startupInfo, LPPROCESS_INFORMATION processInformation)
+{
+    if (Pal::FaultHits(__func__))
+        return FALSE;
+    DWORD error = Pal::CheckStart(startupInfo, creationFlags, inheritHandles,
+        processAttributes || threadAttributes || environment);
+    const std::wstring_view line = commandLine       ? commandLine
+                                   : applicationName ? applicationName
+                                                     : L"";
+    if (error == ERROR_SUCCESS && (line.empty() || !processInformation))
+        error = ERROR_INVALID_PARAMETER;
+    if (error == ERROR_SUCCESS)
+        error = Pal::EnterMachine();
+    Pal::ProcessStart start;
+    if (error == ERROR_SUCCESS)
+        error = Pal::Plan(applicationName, line, start);
+    if (error == ERROR_SUCCESS)
+        error = Pal::AddFolder(currentDirectory, start);
+    if (error == ERROR_SUCCESS)
+        error = Pal::ChooseStreams(*startupInfo, creationFlags, start.streams);
+    std::shared_ptr<Pal::Process> process;
+    if (error == ERROR_SUCCESS)
+        error = Pal::StartProcess(start, process);
+    if (error != ERROR_SUCCESS)
+        return Pal::Failed(error);
+    *processInformation = Pal::HandOut(process);
+    return TRUE;
+}
+
+// Keeps:   INVALID_HANDLE_VALUE and ERROR_INVALID_HANDLE for any other number.
+// Differs: the handle only serves to be given to CreateProcessW, also where the stream is closed.
+HANDLE GetStdHandle(DWORD stream)
+{
+    if (Pal::FaultHits(__func__))
+        return INVALID_HANDLE_VALUE;
+    if (stream == STD_INPUT_HANDLE || stream == STD_OUTPUT_HANDLE || stream == STD_ERROR_HANDLE)
+        return Pal::StandardHandle(stream);
+    SetLastError(ERROR_INVALID_HANDLE);
+    return INVALID_HANDLE_VALUE;
+}

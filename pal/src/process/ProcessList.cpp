@@ -1,0 +1,116 @@
+#include "ProcessList.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <string_view>
+#include <vector>
+
+#include <QString>
+
+#include <psapi.h>
+
+#include "../ErrorMapping.h"
+#include "../Faults.h"
+#include "../LastError.h"
+#include "Process.h"
+
+namespace Pal
+{
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+DWORD ProcessIds(std::vector<DWORD>& ids)
+{
+    std::error_code error;
+    fs::directory_iterator entry("/proc", error);
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error))
+    {
+        bool isNumber = false;
+        const uint id = QString::fromStdString(entry->path().filename()).toUInt(&isNumber);
+        if (isNumber)
+            ids.push_back(id);
+    }
+    return error ? ErrorFromErrno(error.value()) : ERROR_SUCCESS;
+}
+
+// The system marks a file that has gone, unless the mark is part of its name.
+std::string WithoutDeletionMark(const std::string& path)
+{
+    constexpr std::string_view mark = " (deleted)";
+    std::error_code error;
+    const bool marked = path.size() > mark.size() &&
+                        path.compare(path.size() - mark.size(), mark.size(), mark) == 0;
+    return marked && !fs::exists(path, error) ? path.substr(0, path.size() - mark.size()) : path;
+}
+
+DWORD CopyCut(const std::wstring& text, LPWSTR buffer, DWORD size)
+{
+    const auto fitting = static_cast<DWORD>(std::min<size_t>(text.size(), size - 1));
+    std::copy_n(text.begin(), fitting, buffer);
+    buffer[fitting] = L'\0';
+    if (fitting == text.size())
+        return fitting;
+    SetLastError(ERROR_INSUFFICIENT_BUFFER);
+    return size;
+}
+
+} // namespace
+
+DWORD ReadExecutable(pid_t id, std::string& path)
+{
+    std::error_code error;
+    const fs::path target = fs::read_symlink("/proc/" + std::to_string(id) + "/exe", error);
+    path = WithoutDeletionMark(target);
+    return error ? ErrorFromErrno(error.value()) : ERROR_SUCCESS;
+}
+
+} // namespace Pal
+
+// Keeps:   fills in the numbers that fit and tells how many bytes they take; the rest is not told.
+// Differs: number 0 is no process. Threads of the kernel are listed, and processes that have ended
+//          until their parent collects them; neither has an executable.
+BOOL K32EnumProcesses(LPDWORD processIds, DWORD size, LPDWORD bytesReturned)
+{
+    if (Pal::FaultHits(__func__))
+        return FALSE;
+    if (!processIds || !bytesReturned)
+        return Pal::Failed(ERROR_INVALID_PARAMETER);
+    std::vector<DWORD> ids;
+    const DWORD error = Pal::ProcessIds(ids);
+    if (error != ERROR_SUCCESS)
+        return Pal::Failed(error);
+    const size_t count = std::min(ids.size(), size / sizeof(DWORD));
+    std::copy_n(ids.begin(), count, processIds);
+    *bytesReturned = static_cast<DWORD>(count * sizeof(DWORD));
+    return TRUE;
+}
+
+// Keeps:   a path that does not fit is cut and the result is the buffer's size; 0 on failure, such
+//          as for a process that has ended or a handle without the rights to query and read.
+// Differs: "/" separates; a cut text always ends with a zero; a script shows the program that reads
+//          it; a file that has gone or moved keeps its former path where the system knows it.
+// Refuses: every module but the executable.
+DWORD K32GetModuleFileNameExW(HANDLE process, HMODULE module, LPWSTR fileName, DWORD size)
+{
+    if (Pal::FaultHits(__func__))
+        return 0;
+    const auto handle =
+        Pal::FindProcessHandle(process, PROCESS_QUERY_INFORMATION | PROCESS_VM_READ);
+    if (!handle)
+        return 0;
+    std::string path;
+    DWORD error = ERROR_NOT_SUPPORTED;
+    if (!module)
+        error = fileName && size > 0 ? Pal::ReadExecutable(handle->Target().Id(), path)
+                                     : DWORD{ERROR_INSUFFICIENT_BUFFER};
+    // Only now is it sure that the number still meant this process.
+    if (error == ERROR_SUCCESS && handle->Target().HasEnded())
+        error = ERROR_INVALID_HANDLE;
+    if (error == ERROR_SUCCESS)
+        return Pal::CopyCut(QString::fromStdString(path).toStdWString(), fileName, size);
+    SetLastError(error);
+    return 0;
+}

@@ -1,0 +1,143 @@
+#include "ProcessStart.h"
+
+#include <cerrno>
+#include <csignal>
+#include <filesystem>
+
+#include <QString>
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <unistd.h>
+
+#include "../ErrorMapping.h"
+#include "../WideText.h"
+
+namespace Pal
+{
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+std::string Utf8(std::wstring_view text)
+{
+    return QString::fromStdU16String(Utf16FromWide(text)).toStdString();
+}
+
+// Of the file that a link leads to: the machine's cmd.exe is one.
+bool IsNamed(const fs::path& program, const char* name)
+{
+    return QString::fromStdString(program.filename()).compare(name, Qt::CaseInsensitive) == 0;
+}
+
+bool IsBatch(const fs::path& program)
+{
+    return QString::fromStdString(program.extension()).compare(".bat", Qt::CaseInsensitive) == 0;
+}
+
+// What a new process is given besides its arguments.
+class SpawnSettings
+{
+public:
+    explicit SpawnSettings(const ProcessStart& start)
+    {
+        posix_spawn_file_actions_init(&m_actions);
+        posix_spawnattr_init(&m_attributes);
+        for (size_t stream = 0; stream < m_streams.size(); ++stream)
+        {
+            m_streams[stream] = OpenStream(start.streams[stream]);
+            posix_spawn_file_actions_adddup2(
+                &m_actions, m_streams[stream].Get(), static_cast<int>(stream));
+        }
+        posix_spawn_file_actions_addclosefrom_np(&m_actions, 3);
+        if (!start.folder.empty())
+            posix_spawn_file_actions_addchdir_np(&m_actions, start.folder.c_str());
+        ResetSignals(start.ownSession);
+    }
+    ~SpawnSettings()
+    {
+        posix_spawnattr_destroy(&m_attributes);
+        posix_spawn_file_actions_destroy(&m_actions);
+    }
+    SpawnSettings(const SpawnSettings&) = delete;
+    SpawnSettings& operator=(const SpawnSettings&) = delete;
+
+    const posix_spawn_file_actions_t* Actions() const { return &m_actions; }
+    const posix_spawnattr_t* Attributes() const { return &m_attributes; }
+
+private:
+    // Above the standard numbers, so that no stream overwrites the source of another. A stream that
+    // this process has closed is nothing as well.
+    static Descriptor OpenStream(int source)
+    {
+        Descriptor copy(source < 0 ? -1 : fcntl(source, F_DUPFD_CLOEXEC, 3));
+        if (copy.IsOpen())
+            return copy;
+        const Descriptor nothing(open("/dev/null", O_RDWR | O_CLOEXEC));
+        return Descriptor(fcntl(nothing.Get(), F_DUPFD_CLOEXEC, 3));
+    }
+
+    // Nothing that this process blocks or ignores is blocked or ignored in the new one.
+    void ResetSignals(bool ownSession)
+    {
+        sigset_t none;
+        sigset_t all;
+        sigemptyset(&none);
+        sigfillset(&all);
+        posix_spawnattr_setsigmask(&m_attributes, &none);
+        posix_spawnattr_setsigdefault(&m_attributes, &all);
+        int flags = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
+        if (ownSession)
+            flags |= POSIX_SPAWN_SETSID;
+        posix_spawnattr_setflags(&m_attributes, static_cast<short>(flags));
+    }
+
+    posix_spawn_file_actions_t m_actions = {};
+    posix_spawnattr_t m_attributes = {};
+    std::array<Descriptor, 3> m_streams;
+};
+
+std::vector<char*> Pointers(const std::vector<std::string>& texts)
+{
+    std::vector<char*> pointers;
+    for (const std::string& text : texts)
+        pointers.push_back(const_cast<char*>(text.c_str()));
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+} // namespace
+
+ProcessStart PlanStart(
+    const std::string& program, std::vector<std::wstring> words, std::wstring_view rest)
+{
+    if (IsNamed(program, "cmd.exe"))
+        words = {words.front(), std::wstring(rest)};
+    ProcessStart start;
+    start.program = program;
+    for (const std::wstring& word : words)
+        start.arguments.push_back(Utf8(word));
+    if (IsBatch(program))
+    {
+        start.program = "/bin/sh";
+        start.arguments.front() = program;
+        start.arguments.insert(start.arguments.begin(), start.program);
+    }
+    return start;
+}
+
+DWORD StartProcess(const ProcessStart& start, std::shared_ptr<Process>& process)
+{
+    std::error_code error;
+    if (!start.folder.empty() && !fs::is_directory(start.folder, error))
+        return ERROR_DIRECTORY;
+    const SpawnSettings settings(start);
+    pid_t id = 0;
+    const int result = posix_spawn(&id, start.program.c_str(), settings.Actions(),
+        settings.Attributes(), Pointers(start.arguments).data(), environ);
+    return result == 0 ? AdoptChild(id, process) : ErrorForPath(result, start.program);
+}
+
+} // namespace Pal

@@ -1,0 +1,17 @@
+#include "autolaunch/CreateAutoLauncher.h"
+
+#include "autolaunch/RunKeyLauncher.h"
+#include "autolaunch/TaskSchedulerLauncher.h"
+
+namespace Vorlan
+{
+
+std::shared_ptr<IAutoLauncher> CreateAutoLauncher(QSettings::Scope scope, int kind)
+{
+    constexpr int taskScheduler = 1;
+    if (kind == taskScheduler)
+        return std::make_shared<AutoLauncherTaskSchedulerImpl>();
+    return std::make_shared<AutoLauncherImpl>(scope);
+}
+
+} // namespace Vorlan

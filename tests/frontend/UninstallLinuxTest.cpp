@@ -1,0 +1,319 @@
+#include "MachineAccess.h"
+#include "installer/Shortcuts.h"
+#include "platform/System.h"
+#include "registry/RegistrySettings.h"
+#include "support/ArchiveWriter.h"
+#include "support/ChildProgram.h"
+#include "support/Machine.h"
+#include "support/MediatorAccess.h"
+#include "support/RegistryTree.h"
+#include "support/SetupRun.h"
+#include "support/SignalLog.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <thread>
+
+using namespace Vorlan;
+
+namespace
+{
+
+constexpr int timeLimitMs = 60000;
+const QString translation = "resources/locales/en_US/InstallerGUI_en_US.qm";
+// Folders stay, with what is in them.
+const QStringList leftFiles = {"libs/", "libs/codec.dll", "resources/", "resources/locales/",
+    "resources/locales/en_US/", translation};
+
+class UninstallTest : public testing::Test
+{
+protected:
+    // The product as a setup would bring it, with the engine of that folder.
+    QByteArray Product(const QString& engineFolder, const QString& note) const
+    {
+        const QString bin = FRONTEND_FOLDER;
+        return CreateArchive({
+            {"installergui.exe", ReadFile(bin + "/installergui.exe")},
+            {ENGINE_FILE_NAME, ReadFile(engineFolder + '/' + ENGINE_FILE_NAME)},
+            {"quill.exe", ReadFile(bin + "/test-program.exe")},
+            {"fonts.conf", "fonts"},
+            {"libs/codec.dll", "codec of " + note.toUtf8()},
+            {note + ".txt", "note"},
+            {translation, ReadFile(bin + '/' + translation)},
+        });
+    }
+
+    void Install(const QString& engineFolder, const QString& note)
+    {
+        QFile::remove(setup.SetupFolder() + '/' + ENGINE_FILE_NAME);
+        ASSERT_TRUE(QFile::copy(
+            engineFolder + '/' + ENGINE_FILE_NAME, setup.SetupFolder() + '/' + ENGINE_FILE_NAME));
+        setup.AddArchiveContent(Product(engineFolder, note));
+        const auto result = setup.Start({"/S"});
+        ASSERT_EQ(result.exitCode, 0) << result.errors.toStdString();
+        ASSERT_TRUE(QDir(product).exists());
+    }
+    void InstallCurrent() { Install(FRONTEND_FOLDER, "new"); }
+
+    SetupRun::Result Uninstall(const QStringList& options)
+    {
+        return setup.StartFrom(product, "uninst.exe", QStringList("/S") + options);
+    }
+
+    // The files of the installed product without what is the same in every version.
+    QStringList Files() const
+    {
+        QStringList files = ListTree(product);
+        for (const QString& common :
+            files.filter(QRegularExpression("/$|^resources/|" ENGINE_FILE_NAME)))
+            files.removeAll(common);
+        return files;
+    }
+
+    static QStringList Entry()
+    {
+        return RegistryTree(
+            "HKEY_CURRENT_USER", "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall")
+            .filter("DisplayVersion");
+    }
+
+    // The values below this user's and all users' own keys of the software, less the time and path.
+    QStringList Records() const
+    {
+        QStringList records;
+        for (const char* root : {"HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE"})
+            records += RegistryTree(root, "Software").filter(" = ");
+        records.replaceInStrings(product + "/quill.exe", QString());
+        return records;
+    }
+
+    static QStringList Links()
+    {
+        return ListTree(GetStandardLocation(StandardLocation::Programs)) +
+               ListTree(GetStandardLocation(StandardLocation::Desktop));
+    }
+
+    bool ProductFolderGoes() const
+    {
+        const QDeadlineTimer deadline(timeLimitMs);
+        while (QDir(product).exists() && !deadline.hasExpired())
+            std::this_thread::yield();
+        return !QDir(product).exists();
+    }
+
+    Machine machine;
+    SetupRun setup;
+    const QString product = ProductFolder();
+
+private:
+    // From here on this process looks at the machine that the started programs work on.
+    QString ProductFolder() const
+    {
+        qputenv("VORLAN_MACHINE", QFile::encodeName(setup.MachineFolder()));
+        return QDir::fromNativeSeparators(GetStandardLocation(StandardLocation::AppData)) +
+               "/Vorlan Quillax";
+    }
+};
+
+const QStringList installedFiles = {"InstallerMessage.vbs", "Vorlan Quillax.url", "libs/codec.dll",
+    "new.txt", "quill.exe", "uninst.exe"};
+const QStringList allLinks = {"Vorlan Quillax/", "Vorlan Quillax/Site Vorlan Quillax.lnk",
+    "Vorlan Quillax/Uninstall Vorlan Quillax.lnk", "Vorlan Quillax/Vorlan Quillax.lnk",
+    "Vorlan Quillax.lnk"};
+// What an uninstallation leaves in the registry, next to the program's own values.
+const QStringList keptRecords = {
+    "Vorlan\\Quillax24: BrokenCodecs = REG_SZ ",
+    "Vorlan\\Quillax24: BrokenPlugins = REG_SZ ",
+    "Vorlan\\Quillax24: ExePath = REG_SZ ",
+    "Vorlan\\Quillax24: KilledDuringUpdateByInstaller = REG_SZ true",
+    "Vorlan\\Quillax24: MainAppIpcId = REG_SZ quill",
+    "Vorlan\\Quillax24: ParentProductId = REG_SZ ",
+    "Vorlan\\Quillax24: PartnerName.OVERRIDE = REG_SZ ",
+    "Vorlan\\Quillax24: ProductId = REG_SZ quillax",
+    "Vorlan\\Quillax24: VersionByInstaller = REG_SZ 24-5-1",
+    "Vorlan\\Quillax24: autoUpdate = REG_SZ true",
+    "Vorlan\\Quillax24: locale = REG_SZ en_US",
+};
+
+} // namespace
+
+TEST_F(UninstallTest, NewVersionTakesTheOldOnesPlace)
+{
+    // An older version is installed and used.
+    Install(QString(FRONTEND_FOLDER) + "/24.4.0", "old");
+    EXPECT_EQ(Files(), QStringList({"InstallerMessage.vbs", "Vorlan Quillax.url", "libs/codec.dll",
+                           "old.txt", "quill.exe", "uninst.exe"}));
+    EXPECT_EQ(Entry(), QStringList("Vorlan Quillax: DisplayVersion = REG_SZ 24.4.0"));
+    RegistrySettings key(QSettings::UserScope, "Vorlan", "Quillax24");
+    key.setValue("Version", "24-4-0");
+    key.setValue("PreferredBrowser", "of-the-person");
+    WriteFile(product + "/opengl32.dll", "graphics");
+    WriteFile(product + "/libs/plug-in.dll", "of the person");
+    WriteFile(product + "/quill.exe.does", "wait");
+    QProcess quill;
+    quill.start(product + "/quill.exe", QStringList());
+    ASSERT_TRUE(quill.waitForStarted());
+
+    // The new one is installed by this process, so that the wait for the old folder can be cut
+    // short.
+    const QString setupName = "setup.exe";
+    InstallerMediator mediator({setupName, false, true, QSettings::UserScope, false});
+    EXPECT_TRUE(mediator.GetSettings().isNewerVersion);
+    MediatorAccess access{mediator};
+    access.SkipWaits();
+    WriteFile(machine.Path("new.7z"), Product(FRONTEND_FOLDER, "new"));
+    access.OpenArchive(machine.Path("new.7z"));
+    QDir::setCurrent(QCoreApplication::applicationDirPath()); // where OpenGL libraries are reserved
+    SignalLog calls(mediator);
+    mediator.StartInstallation();
+    calls.WaitForEnd();
+    access.Join();
+    QFile::remove("opengl32.dll");
+
+    EXPECT_EQ(calls.Calls().last(), "InstallationFinished");
+    EXPECT_TRUE(quill.waitForFinished(timeLimitMs));
+    EXPECT_TRUE(
+        machine.Log().contains("EXECUTE \"" + product + "/uninst.exe\" /S /IGNORE_MUTEX -> 1"));
+    EXPECT_EQ(
+        Files(), QStringList({"InstallerMessage.vbs", "Vorlan Quillax.url", "libs/codec.dll",
+                     "libs/plug-in.dll", "new.txt", "opengl32.dll", "quill.exe", "uninst.exe"}));
+    EXPECT_EQ(ReadFile(product + "/libs/codec.dll"), "codec of new");
+    EXPECT_EQ(ReadFile(product + "/opengl32.dll"), "graphics");
+    EXPECT_EQ(Entry(), QStringList("Vorlan Quillax: DisplayVersion = REG_SZ 24.5.1"));
+    EXPECT_EQ(key.value("PreferredBrowser").toString(), "of-the-person");
+    EXPECT_EQ(Links(), allLinks);
+}
+
+TEST_F(UninstallTest, FilesRecordsAndShortcutsGoAndTheChoicesStay)
+{
+    const QStringList before = Records();
+    InstallCurrent();
+    EXPECT_EQ(Files(), installedFiles);
+    EXPECT_EQ(Links(), allLinks);
+
+    const auto result = Uninstall({});
+    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
+    EXPECT_EQ(result.output + result.errors, "");
+    EXPECT_EQ(ListTree(product), leftFiles);
+    EXPECT_EQ(Links(), QStringList());
+    EXPECT_EQ(before, QStringList());
+    EXPECT_EQ(Records(), keptRecords);
+}
+
+TEST_F(UninstallTest, OptionsOfTheInstallationTakeEffectAndGoAgain)
+{
+    setup.AddProgram(translation);
+    setup.AddArchiveContent(Product(FRONTEND_FOLDER, "new"));
+    const auto installed = setup.Start(
+        {"/S", "/ALLUSERS", "/AUTOLAUNCH", "/CONTEXTMENU", "/NOSHORTCUTS", "/WEBUID=1234-abcd"});
+    ASSERT_EQ(installed.exitCode, 0) << installed.errors.toStdString();
+    const QStringList records = RegistryTree("HKEY_LOCAL_MACHINE", "Software").filter(" = ");
+    EXPECT_EQ(records.filter("\\Shell\\Convert to").size(), 2 * 32);
+    EXPECT_EQ(records.filter("\\Shell\\Open with").size(), 2 * 32);
+    EXPECT_EQ(records.filter("\\CurrentVersion\\Run: vorlan_quillax_24.5.1_ = ").size(), 1);
+    EXPECT_TRUE(records.contains("Vorlan\\User: WEBUID = REG_SZ 1234-abcd"));
+    EXPECT_EQ(Links(), QStringList());
+
+    EXPECT_EQ(Uninstall({"/DELETESETTINGS"}).exitCode, 0);
+    EXPECT_EQ(Records(),
+        QStringList({"Microsoft\\Windows\\CurrentVersion\\Run: vorlan_quillax_24.5.1_ = REG_SZ \"" +
+                         QString(product).replace('/', '\\') + "\\\" ",
+            "Vorlan\\User: WEBUID = REG_SZ 1234-abcd"}));
+}
+
+TEST_F(UninstallTest, SettingsGoWhenThePersonWantsIt)
+{
+    InstallCurrent();
+    WriteFile(Platform::LogFolder() + "/old.log", "log");
+    EXPECT_EQ(Uninstall({"/DELETESETTINGS"}).exitCode, 0);
+    EXPECT_EQ(Records(), QStringList());
+    EXPECT_FALSE(QDir(Platform::LogFolder()).exists());
+    EXPECT_TRUE(QDir(product).exists());
+}
+
+TEST_F(UninstallTest, FullRemovalTakesTheFolderAndNothingBehindItsLinks)
+{
+    InstallCurrent();
+    WriteFile(machine.Path("outside/marker.txt"), "stays");
+    ASSERT_TRUE(QFile::link(machine.Path("outside"), product + "/link to outside"));
+    ASSERT_TRUE(QFile::link(machine.Path("outside"), product + "/libs/link to outside"));
+    WriteFile(QFileInfo(product).path() + "/neighbour.txt", "stays");
+    EXPECT_EQ(Uninstall({"/REMOVEALL"}).exitCode, 0);
+    EXPECT_TRUE(ProductFolderGoes());
+    EXPECT_EQ(Records(), QStringList());
+    EXPECT_EQ(ReadFile(machine.Path("outside/marker.txt")), "stays");
+    EXPECT_EQ(ReadFile(QFileInfo(product).path() + "/neighbour.txt"), "stays");
+}
+
+TEST_F(UninstallTest, DependentProgramsForbidIt)
+{
+    InstallCurrent();
+    RegistrySettings plain(QSettings::UserScope, "Vorlan", "Foo1");
+    plain.setValue("ParentProductId", "quillax");
+    plain.setValue("ExePath", "C:\\Foo\\Foo.exe");
+    RegistrySettings named(QSettings::SystemScope, "Vorlan", "Bar1");
+    named.setValue("ParentProductId", "quillax");
+    named.setValue("DisplayName_en_US", "The Bar");
+    RegistrySettings(QSettings::UserScope, "Vorlan", "Other").setValue("ParentProductId", "baz");
+
+    const auto result = Uninstall({});
+    EXPECT_EQ(result.exitCode, SetupRun::ShownExitCode(1051));
+    EXPECT_TRUE(result.errors.startsWith(
+        "To uninstall Vorlan Quillax, first uninstall these programs:\n\n\tThe Bar\n\tFoo"))
+        << result.errors.toStdString();
+    EXPECT_EQ(Files(), installedFiles);
+    EXPECT_EQ(Links(), allLinks);
+}
+
+TEST_F(UninstallTest, FolderThatIsNotTheRegisteredOneIsLeftAlone)
+{
+    InstallCurrent();
+    const QString copy = machine.Path("copy");
+    for (const char* file : {"uninst.exe", ENGINE_FILE_NAME})
+    {
+        QDir().mkpath(copy);
+        ASSERT_TRUE(QFile::copy(product + '/' + file, copy + '/' + file));
+    }
+    WriteFile(copy + "/thesis.txt", "years of work");
+    const auto elsewhere = setup.StartFrom(copy, "uninst.exe", {"/S"});
+    EXPECT_EQ(elsewhere.exitCode, SetupRun::ShownExitCode(1603));
+    EXPECT_TRUE(elsewhere.errors.contains("nothing was deleted")) << elsewhere.errors.toStdString();
+
+    // Without any registration only what looks like the product is taken for it.
+    RegistrySettings(QSettings::UserScope, "Vorlan", "Quillax24").remove("Path");
+    EXPECT_EQ(setup.StartFrom(copy, "uninst.exe", {"/S"}).exitCode, SetupRun::ShownExitCode(1603));
+    EXPECT_EQ(ListTree(copy).filter("thesis.txt").size(), 1);
+    EXPECT_EQ(Uninstall({}).exitCode, 0);
+    EXPECT_EQ(ListTree(product), leftFiles);
+}
+
+TEST_F(UninstallTest, RemovalThatWasCutOffCanBeRunAgain)
+{
+    InstallCurrent();
+    // As a process that is killed leaves it: the mark, some files gone, the records gone.
+    QDir().mkpath(product + "/uninst.unfinished");
+    QFile::remove(product + "/quill.exe");
+    RegistrySettings(QSettings::UserScope, "Vorlan", "Quillax24").remove("Path");
+    EXPECT_EQ(Uninstall({}).exitCode, 0);
+    EXPECT_EQ(ListTree(product), leftFiles);
+    EXPECT_EQ(Records(), keptRecords);
+}
+
+TEST_F(UninstallTest, SecondSetupWaitsForNobody)
+{
+    InstallCurrent();
+    const FrontEnd::SetupLock running;
+    ASSERT_TRUE(running.IsHeld());
+    const auto refused = Uninstall({});
+    EXPECT_EQ(refused.exitCode, SetupRun::ShownExitCode(1618));
+    EXPECT_TRUE(refused.errors.contains("Another setup is running"))
+        << refused.errors.toStdString();
+    EXPECT_EQ(Files(), installedFiles);
+    EXPECT_EQ(Uninstall({"/IGNORE_MUTEX"}).exitCode, 0);
+}

@@ -1,0 +1,351 @@
+#include "support/ChildProcesses.h"
+#include "support/LinuxProcesses.h"
+
+#include <chrono>
+#include <csignal>
+#include <functional>
+#include <thread>
+
+#include <QProcess>
+
+#include <psapi.h>
+#include <shellapi.h>
+
+#include <Pal.h>
+
+namespace
+{
+
+using Strings = std::vector<std::string>;
+
+class ProcessesLinuxTest : public ChildProcesses
+{
+protected:
+    static StartResult StartWaiting(const std::wstring& program = ChildProgram())
+    {
+        return Start(L"\"" + program + L"\" wait");
+    }
+
+    static bool IsInProcessTable(DWORD id) { return kill(static_cast<pid_t>(id), 0) == 0; }
+
+    // Waits, but not for ever.
+    static bool Becomes(const std::function<bool()>& state)
+    {
+        const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(longEnough);
+        while (!state() && std::chrono::steady_clock::now() < end)
+            std::this_thread::yield();
+        return state();
+    }
+
+    std::wstring WriteProgram(
+        const std::wstring& name, const QByteArray& text, QFile::Permissions permissions) const
+    {
+        QFile file(QString::fromStdWString(PathOf(name)));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        EXPECT_TRUE(file.setPermissions(permissions));
+        return PathOf(name);
+    }
+};
+
+TEST_F(ProcessesLinuxTest, AChildWhoseHandleIsClosedIsCollectedWhenItEnds)
+{
+    StartResult running = StartWaiting();
+    running.process.Close();
+    EXPECT_TRUE(IsInProcessTable(running.id));
+    EXPECT_EQ(kill(static_cast<pid_t>(running.id), SIGKILL), 0);
+    EXPECT_TRUE(Becomes([&] { return !IsInProcessTable(running.id); }));
+
+    StartResult ended = Start(L"\"" + ChildProgram() + L"\" exit 0");
+    EXPECT_EQ(WaitForSingleObject(ended.process.Get(), longEnough), DWORD{WAIT_OBJECT_0});
+    EXPECT_TRUE(IsInProcessTable(ended.id));
+    ended.process.Close();
+    EXPECT_FALSE(IsInProcessTable(ended.id));
+}
+
+TEST_F(ProcessesLinuxTest, ChildrenOfOthersAreLeftToThem)
+{
+    QProcess theirs;
+    theirs.start(QString::fromStdWString(ChildProgram()), {"wait"});
+    ASSERT_TRUE(theirs.waitForStarted());
+    const auto id = static_cast<DWORD>(theirs.processId());
+    const TestHandle opened(
+        OpenProcess(PROCESS_TERMINATE | PROCESS_QUERY_INFORMATION | SYNCHRONIZE, FALSE, id));
+    ASSERT_TRUE(opened.Get());
+    EXPECT_EQ(ExitCode(Start(L"\"" + ChildProgram() + L"\" exit 2").process), 2);
+    EXPECT_TRUE(TerminateProcess(opened.Get(), 5));
+    EXPECT_EQ(WaitForSingleObject(opened.Get(), longEnough), DWORD{WAIT_OBJECT_0});
+    DWORD code = 77;
+    EXPECT_FALSE(GetExitCodeProcess(opened.Get(), &code));
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_NOT_SUPPORTED});
+    EXPECT_EQ(code, 77u);
+    ASSERT_TRUE(theirs.waitForFinished());
+    EXPECT_EQ(theirs.exitStatus(), QProcess::CrashExit);
+    EXPECT_EQ(theirs.exitCode(), SIGKILL);
+}
+
+TEST_F(ProcessesLinuxTest, ManyThreadsMayWaitForOneChild)
+{
+    const StartResult child = StartWaiting();
+    std::atomic<int> right = 0;
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 8; ++i)
+        threads.emplace_back([&] { right += ExitCode(child.process) == 9; });
+    EXPECT_TRUE(TerminateProcess(child.process.Get(), 9));
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(right, 8);
+}
+
+TEST_F(ProcessesLinuxTest, AnEndBySomebodyElsesSignalIsNoExitCodeOfTheProgram)
+{
+    const StartResult child = StartWaiting();
+    kill(static_cast<pid_t>(child.id), SIGTERM);
+    EXPECT_EQ(ExitCode(child.process), 128 + SIGTERM);
+}
+
+TEST_F(ProcessesLinuxTest, ABatchFileIsReadByTheShellAndNeedsNoPermissionToRun)
+{
+    const std::wstring batch = WriteProgram(L"two words.BAT",
+        "printf '%s\\n' \"$PWD\" \"$@\" >report; exit 3", QFile::ReadOwner | QFile::WriteOwner);
+    const std::string folder = QString::fromStdWString(PathOf(L"")).chopped(1).toStdString();
+    const StartResult unquoted = Start(batch + L" \"a b\" c\\d", PathOf(L"").c_str());
+    EXPECT_EQ(ExitCode(unquoted.process), 3);
+    EXPECT_EQ(Report(), (Strings{folder, "words.BAT", "a b", "c\\d"}));
+    const StartResult quoted = Start(L"\"" + batch + L"\" \"a b\"", PathOf(L"").c_str());
+    EXPECT_EQ(ExitCode(quoted.process), 3);
+    EXPECT_EQ(Report().back(), "a b");
+}
+
+TEST_F(ProcessesLinuxTest, AFileThatMayNotRunIsDeniedAndAFolderIsNoProgram)
+{
+    const std::wstring program = WriteProgram(L"a.exe", "#!/bin/sh\n", QFile::ReadOwner);
+    EXPECT_EQ(Start(program).error, DWORD{ERROR_ACCESS_DENIED});
+    EXPECT_EQ(Start(PathOf(L"")).error, DWORD{ERROR_FILE_NOT_FOUND});
+    EXPECT_EQ(Start(L"x", nullptr, PathOf(L"").c_str()).error, DWORD{ERROR_ACCESS_DENIED});
+    EXPECT_EQ(Start(PathOf(L"none/a.exe")).error, DWORD{ERROR_PATH_NOT_FOUND});
+}
+
+TEST_F(ProcessesLinuxTest, TheMachinesProgramsComeFirst)
+{
+    EXPECT_EQ(ExitCode(Start(L"sh -c \"exit 4\"").process), 4);
+    ASSERT_TRUE(QFile::copy(
+        QString::fromStdWString(ChildProgram()), MachineFolder() + "/Windows/System32/sh"));
+    EXPECT_EQ(ExitCode(Start(L"sh exit 5").process), 5);
+    EXPECT_EQ(QProcess::execute("sh", {"exit", "6"}), 6);
+    EXPECT_EQ(ExitCode(Start(L"/bin/sh -c \"sh exit 7\"").process), 7);
+}
+
+TEST_F(ProcessesLinuxTest, AChildGetsOnlyTheStreamsItIsGiven)
+{
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof(startup);
+    startup.dwFlags = STARTF_USESTDHANDLES;
+    startup.hStdOutput = GetStdHandle(STD_OUTPUT_HANDLE);
+    PROCESS_INFORMATION information = {};
+    std::wstring line = L"/bin/sh -c \"echo seen; echo lost >&2; ls -l /proc/self/fd | wc -l\"";
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    ASSERT_TRUE(CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW,
+        nullptr, nullptr, &startup, &information));
+    CloseHandle(information.hThread);
+    EXPECT_EQ(ExitCode(TestHandle(information.hProcess)), 0);
+    // ls counts its three streams, the folder that it reads and a line for the sum.
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "seen\n5\n");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(ProcessesLinuxTest, WithoutAWindowAChildHasNoStreamsAndElseThoseOfItsParent)
+{
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    const std::wstring line = L"\"" + ChildProgram() + L"\" print word";
+    EXPECT_EQ(ExitCode(Start(line).process), 0);
+    EXPECT_EQ(ExitCode(Start(line, nullptr, nullptr, 0).process), 0);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "word");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "word");
+}
+
+TEST_F(ProcessesLinuxTest, WhatIsNotHonouredIsRefused)
+{
+    std::wstring line = L"\"" + ChildProgram() + L"\" exit 0";
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION information = {};
+    wchar_t environment[] = L"a=b\0";
+    const auto start = [&](DWORD flags, void* block)
+    {
+        const BOOL started = CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, flags,
+            block, nullptr, &startup, &information);
+        return started ? DWORD{ERROR_SUCCESS} : GetLastError();
+    };
+    EXPECT_EQ(start(1, nullptr), DWORD{ERROR_NOT_SUPPORTED});
+    EXPECT_EQ(start(0, environment), DWORD{ERROR_NOT_SUPPORTED});
+    startup.dwFlags = 1;
+    EXPECT_EQ(start(0, nullptr), DWORD{ERROR_NOT_SUPPORTED});
+    startup.dwFlags = STARTF_USESTDHANDLES;
+    EXPECT_EQ(start(0, nullptr), DWORD{ERROR_NOT_SUPPORTED});
+    startup.dwFlags = 0;
+    startup.cb = 4;
+    EXPECT_EQ(start(0, nullptr), DWORD{ERROR_INVALID_PARAMETER});
+    SHELLEXECUTEINFOW execution = {};
+    execution.cbSize = sizeof(execution);
+    execution.lpFile = L"sh";
+    execution.lpVerb = L"print";
+    EXPECT_FALSE(ShellExecuteExW(&execution));
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_NOT_SUPPORTED});
+    EXPECT_FALSE(OpenProcess(PROCESS_TERMINATE | 0x2, FALSE, GetCurrentProcessId()));
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_NOT_SUPPORTED});
+}
+
+TEST_F(ProcessesLinuxTest, AnExecutableThatHasGoneKeepsItsPath)
+{
+    const std::wstring program = CopyChild(L"gone.exe");
+    const StartResult child = StartWaiting(program);
+    ASSERT_TRUE(QFile::remove(QString::fromStdWString(program)));
+    wchar_t path[MAX_PATH] = L"";
+    K32GetModuleFileNameExW(child.process.Get(), nullptr, path, MAX_PATH);
+    EXPECT_EQ(path, program);
+    TerminateProcess(child.process.Get(), 1);
+    EXPECT_EQ(ExitCode(child.process), 1);
+    EXPECT_EQ(K32GetModuleFileNameExW(child.process.Get(), nullptr, path, MAX_PATH), 0u);
+}
+
+TEST_F(ProcessesLinuxTest, AnElevatedProgramIsOneLikeAnyOther)
+{
+    const std::wstring program = ChildProgram();
+    SHELLEXECUTEINFOW information = {};
+    information.cbSize = sizeof(information);
+    information.fMask = SEE_MASK_NOCLOSEPROCESS;
+    information.lpVerb = L"runas";
+    information.lpFile = program.c_str();
+    information.lpParameters = L"wait";
+    {
+        const Pal::ScopedFault refused("ShellExecuteExW", ERROR_CANCELLED);
+        EXPECT_FALSE(ShellExecuteExW(&information));
+        EXPECT_EQ(GetLastError(), DWORD{ERROR_CANCELLED});
+    }
+    ASSERT_TRUE(ShellExecuteExW(&information));
+    const TestHandle process(information.hProcess);
+    const auto sessionOf = [](const std::string& name)
+    { return getsid(std::stoi(name.substr(name.find(' ')))); };
+    EXPECT_NE(sessionOf(Pal::OpenHandles().back()), getsid(0));
+    EXPECT_TRUE(TerminateProcess(process.Get(), 1));
+    EXPECT_EQ(ExitCode(process), 1);
+}
+
+TEST_F(ProcessesLinuxTest, EveryCallCanFail)
+{
+    const StartResult child = StartWaiting();
+    DWORD number = 0;
+    wchar_t path[8];
+    SHELLEXECUTEINFOW execution = {};
+    const std::vector<std::pair<const char*, std::function<bool()>>> calls = {
+        {"CreateProcessW", [&] { return StartWaiting().error == ERROR_GEN_FAILURE; }},
+        {"GetStdHandle", [&] { return GetStdHandle(STD_OUTPUT_HANDLE) == INVALID_HANDLE_VALUE; }},
+        {"OpenProcess", [&] { return !OpenProcess(SYNCHRONIZE, FALSE, child.id); }},
+        {"TerminateProcess", [&] { return !TerminateProcess(child.process.Get(), 1); }},
+        {"GetExitCodeProcess", [&] { return !GetExitCodeProcess(child.process.Get(), &number); }},
+        {"WaitForSingleObject",
+            [&] { return WaitForSingleObject(child.process.Get(), INFINITE) == WAIT_FAILED; }},
+        {"K32EnumProcesses", [&] { return !K32EnumProcesses(&number, 4, &number); }},
+        {"K32GetModuleFileNameExW",
+            [&] { return !K32GetModuleFileNameExW(child.process.Get(), nullptr, path, 8); }},
+        {"ShellExecuteExW", [&] { return !ShellExecuteExW(&execution); }},
+        {"CreateMutexW", [] { return !CreateMutexW(nullptr, FALSE, L"a"); }},
+        {"OpenMutexW", [] { return !OpenMutexW(SYNCHRONIZE, FALSE, L"a"); }},
+    };
+    for (const auto& [function, call] : calls)
+    {
+        const Pal::ScopedFault fault(function, ERROR_GEN_FAILURE);
+        SetLastError(ERROR_SUCCESS);
+        EXPECT_TRUE(call()) << function;
+        EXPECT_EQ(GetLastError(), DWORD{ERROR_GEN_FAILURE}) << function;
+    }
+    EXPECT_TRUE(TerminateProcess(child.process.Get(), 1));
+}
+
+TEST_F(ProcessesLinuxTest, OpenHandlesNamesProcessesAndThreadsAndMutexes)
+{
+    const Strings before = Pal::OpenHandles();
+    {
+        const StartResult child = StartWaiting();
+        const TestHandle mutex(CreateMutexW(nullptr, FALSE, L"setup"));
+        Strings expected = before;
+        expected.push_back("mutex setup");
+        expected.push_back("process " + std::to_string(child.id));
+        std::sort(expected.begin(), expected.end());
+        EXPECT_EQ(Pal::OpenHandles(), expected);
+        TerminateProcess(child.process.Get(), 1);
+    }
+    EXPECT_EQ(Pal::OpenHandles(), before);
+}
+
+TEST_F(ProcessesLinuxTest, AMutexGoesWithTheProcessThatHasIt)
+{
+    int ready[2];
+    ASSERT_EQ(pipe(ready), 0);
+    const pid_t holder = StartChild(
+        [&ready]
+        {
+            CreateMutexW(nullptr, FALSE, L"setup");
+            const bool told = write(ready[1], "x", 1) == 1;
+            pause();
+            return told ? 0 : 1;
+        });
+    char byte = 0;
+    ASSERT_EQ(read(ready[0], &byte, 1), 1);
+    close(ready[0]);
+    close(ready[1]);
+    const auto create = []
+    {
+        const TestHandle mutex(CreateMutexW(nullptr, FALSE, L"setup"));
+        return GetLastError();
+    };
+    EXPECT_EQ(create(), DWORD{ERROR_ALREADY_EXISTS});
+    qputenv("VORLAN_MACHINE", (MachineFolder() + "-other").toUtf8());
+    EXPECT_EQ(create(), DWORD{ERROR_SUCCESS});
+    qputenv("VORLAN_MACHINE", MachineFolder().toUtf8());
+    kill(holder, SIGKILL);
+    EXPECT_EQ(WaitForChild(holder), -1);
+    EXPECT_EQ(create(), DWORD{ERROR_SUCCESS});
+}
+
+TEST_F(ProcessesLinuxTest, OfManyProcessesAtOnceOneMakesTheMutex)
+{
+    int gate[2];
+    ASSERT_EQ(pipe(gate), 0);
+    std::vector<pid_t> children;
+    int result[2];
+    ASSERT_EQ(pipe(result), 0);
+    for (int i = 0; i < 8; ++i)
+    {
+        children.push_back(StartChild(
+            [&gate, &result]
+            {
+                char byte = 0;
+                close(gate[1]);
+                const bool opened = read(gate[0], &byte, 1) == 0;
+                const HANDLE mutex = CreateMutexW(nullptr, FALSE, L"race");
+                byte = GetLastError() == ERROR_ALREADY_EXISTS ? 'n' : 'y';
+                const bool told = write(result[1], &byte, 1) == 1;
+                pause();
+                return opened && told && mutex ? 0 : 1;
+            }));
+    }
+    close(gate[0]);
+    close(gate[1]);
+    std::string answers;
+    for (char byte = 0; answers.size() < 8 && read(result[0], &byte, 1) == 1;)
+        answers += byte;
+    EXPECT_EQ(std::count(answers.begin(), answers.end(), 'y'), 1) << answers;
+    for (const pid_t child : children)
+    {
+        kill(child, SIGKILL);
+        EXPECT_EQ(WaitForChild(child), -1);
+    }
+    close(result[0]);
+    close(result[1]);
+}
+
+} // namespace

@@ -1,0 +1,238 @@
+#include "support/ChildProcesses.h"
+
+#include <thread>
+
+#include <QDeadlineTimer>
+
+#include <algorithm>
+
+#include <psapi.h>
+
+namespace
+{
+
+using Strings = std::vector<std::string>;
+
+class ProcessesTest : public ChildProcesses
+{
+protected:
+    static StartResult StartWaiting() { return Start(L"\"" + ChildProgram() + L"\" wait"); }
+
+    static void End(const StartResult& child)
+    {
+        EXPECT_TRUE(TerminateProcess(child.process.Get(), 1));
+        EXPECT_EQ(WaitForSingleObject(child.process.Get(), longEnough), DWORD{WAIT_OBJECT_0});
+    }
+
+    static std::wstring ExecutableOf(const TestHandle& process)
+    {
+        wchar_t path[MAX_PATH] = L"";
+        const DWORD length = K32GetModuleFileNameExW(process.Get(), nullptr, path, MAX_PATH);
+        return std::wstring(path, length);
+    }
+
+    static std::vector<DWORD> AllProcesses()
+    {
+        std::vector<DWORD> ids(100000);
+        DWORD bytes = 0;
+        EXPECT_TRUE(
+            K32EnumProcesses(ids.data(), static_cast<DWORD>(ids.size() * sizeof(DWORD)), &bytes));
+        ids.resize(bytes / sizeof(DWORD));
+        return ids;
+    }
+};
+
+TEST_F(ProcessesTest, AChildEndsWithItsExitCode)
+{
+    for (const int code : {0, 1, 42, 200})
+    {
+        const StartResult child =
+            Start(L"\"" + ChildProgram() + L"\" exit " + std::to_wstring(code));
+        ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
+        EXPECT_EQ(ExitCode(child.process), code);
+    }
+}
+
+TEST_F(ProcessesTest, AChildIsActiveUntilItIsTerminatedWithACode)
+{
+    const StartResult child = StartWaiting();
+    DWORD code = 0;
+    EXPECT_EQ(WaitForSingleObject(child.process.Get(), 0), DWORD{WAIT_TIMEOUT});
+    EXPECT_TRUE(GetExitCodeProcess(child.process.Get(), &code));
+    EXPECT_EQ(code, DWORD{STILL_ACTIVE});
+    EXPECT_TRUE(TerminateProcess(child.process.Get(), 7));
+    EXPECT_EQ(WaitForSingleObject(child.process.Get(), INFINITE), DWORD{WAIT_OBJECT_0});
+    EXPECT_EQ(WaitForSingleObject(child.process.Get(), 0), DWORD{WAIT_OBJECT_0});
+    EXPECT_TRUE(GetExitCodeProcess(child.process.Get(), &code));
+    EXPECT_EQ(code, 7u);
+}
+
+TEST_F(ProcessesTest, ArgumentsAreCutByTheRulesOfQuotesAndBackslashes)
+{
+    const struct
+    {
+        const wchar_t* text;
+        Strings seen;
+    } cases[] = {
+        {L"", {}},
+        {L"a  b\tc", {"a", "b", "c"}},
+        {L"\"a b\" \"\" c", {"a b", "", "c"}},
+        {L"a\\b\\\\c \\\\server\\x", {"a\\b\\\\c", "\\\\server\\x"}},
+        {L"\"C:\\two words\\\\\" end", {"C:\\two words\\", "end"}},
+        {L"say\\\"hi\\\" \\\\\"x y\\\\\"", {"say\"hi\"", "\\x y\\"}},
+        {L"\"a\"\"b\" c", {"a\"b", "c"}},
+        {L"\"open to the end", {"open to the end"}},
+        {L"half\" quoted\"word", {"half quotedword"}},
+        {L"/S /D=\"x y\"", {"/S", "/D=x y"}},
+    };
+    for (const auto& [text, seen] : cases)
+        EXPECT_EQ(ArgumentsSeen(text), seen) << QString::fromWCharArray(text).toStdString();
+}
+
+TEST_F(ProcessesTest, AnUnquotedProgramMayHoldBlanks)
+{
+    const std::wstring program = CopyChild(L"two words/the child.exe");
+    const StartResult child = Start(program + L" exit 5");
+    ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
+    EXPECT_NE(ExitCode(child.process), -1);
+}
+
+TEST_F(ProcessesTest, OfAnUnquotedNameTheShortestThatIsThereCounts)
+{
+    CopyChild(L"two words.exe");
+    const std::wstring shorter = CopyChild(L"two.exe");
+    const std::wstring line = shorter.substr(0, shorter.size() - 4) + L" words.exe";
+    const StartResult child = Start(line + L" wait");
+    ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
+    EXPECT_EQ(ExitCode(child.process), 99); // its first argument is "words.exe"
+    EXPECT_EQ(Start(L"\"" + line + L"\" exit 3").error, DWORD{ERROR_SUCCESS});
+}
+
+TEST_F(ProcessesTest, AnApplicationNamePicksTheFileWhateverTheCommandLineSays)
+{
+    const std::wstring program = CopyChild(L"two words/child.exe");
+    const StartResult child = Start(L"anything exit 6", nullptr, program.c_str());
+    ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
+    EXPECT_EQ(ExitCode(child.process), 6);
+}
+
+TEST_F(ProcessesTest, TheExtensionMayBeLeftOut)
+{
+    const std::wstring program = CopyChild(L"child.exe");
+    const StartResult child = Start(program.substr(0, program.size() - 4) + L" exit 4");
+    ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
+    EXPECT_EQ(ExitCode(child.process), 4);
+}
+
+TEST_F(ProcessesTest, AChildStartsInTheFolderItIsGiven)
+{
+    ASSERT_TRUE(CreateDirectoryW(PathOf(L"work").c_str(), nullptr));
+    const StartResult child =
+        Start(L"\"" + ChildProgram() + L"\" report \"" + PathOf(L"report") + L"\"",
+            PathOf(L"work").c_str());
+    EXPECT_EQ(ExitCode(child.process), 0);
+    ASSERT_EQ(Report().size(), 1u);
+    EXPECT_EQ(QFileInfo(QString::fromStdString(Report()[0])).canonicalFilePath(),
+        QFileInfo(QString::fromStdWString(PathOf(L"work"))).canonicalFilePath());
+}
+
+TEST_F(ProcessesTest, WhatCannotBeStartedSaysWhy)
+{
+    EXPECT_EQ(Start(PathOf(L"none.exe")).error, DWORD{ERROR_FILE_NOT_FOUND});
+    EXPECT_EQ(Start(L"no-such-program-anywhere.exe /S").error, DWORD{ERROR_FILE_NOT_FOUND});
+    QFile text(QString::fromStdWString(PathOf(L"text.exe")));
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+    text.write("This is no program.\n");
+    text.setPermissions(text.permissions() | QFile::ExeOwner);
+    text.close();
+    EXPECT_EQ(Start(PathOf(L"text.exe")).error, DWORD{ERROR_BAD_EXE_FORMAT});
+    EXPECT_EQ(Start(L"\"" + ChildProgram() + L"\" exit 0", PathOf(L"no folder").c_str()).error,
+        DWORD{ERROR_DIRECTORY});
+}
+
+TEST_F(ProcessesTest, OpenedByItsNumberAProcessIsTheSame)
+{
+    const StartResult child = StartWaiting();
+    const TestHandle opened(
+        OpenProcess(PROCESS_TERMINATE | PROCESS_QUERY_INFORMATION | SYNCHRONIZE, FALSE, child.id));
+    ASSERT_TRUE(opened.Get());
+    EXPECT_TRUE(TerminateProcess(opened.Get(), 3));
+    EXPECT_EQ(ExitCode(opened), 3);
+    EXPECT_EQ(ExitCode(child.process), 3);
+}
+
+TEST_F(ProcessesTest, NumbersOfNoProcessAreNotOpened)
+{
+    EXPECT_FALSE(OpenProcess(SYNCHRONIZE, FALSE, 0));
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_INVALID_PARAMETER});
+    EXPECT_FALSE(OpenProcess(SYNCHRONIZE, FALSE, 0x7FFFFFF0));
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_INVALID_PARAMETER});
+}
+
+TEST_F(ProcessesTest, AHandleAllowsOnlyWhatItWasOpenedFor)
+{
+    const StartResult child = StartWaiting();
+    wchar_t path[MAX_PATH];
+    DWORD code = 0;
+    {
+        const TestHandle waiting(OpenProcess(SYNCHRONIZE, FALSE, child.id));
+        EXPECT_FALSE(TerminateProcess(waiting.Get(), 1));
+        EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
+        EXPECT_FALSE(GetExitCodeProcess(waiting.Get(), &code));
+        EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
+        EXPECT_EQ(K32GetModuleFileNameExW(waiting.Get(), nullptr, path, MAX_PATH), 0u);
+        const TestHandle terminating(OpenProcess(PROCESS_TERMINATE, FALSE, child.id));
+        EXPECT_EQ(WaitForSingleObject(terminating.Get(), 0), DWORD{WAIT_FAILED});
+        EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
+    }
+    End(child);
+}
+
+TEST_F(ProcessesTest, ProcessesAreListedWhileTheyRun)
+{
+    const StartResult child = StartWaiting();
+    const std::vector<DWORD> ids = AllProcesses();
+    EXPECT_EQ(std::count(ids.begin(), ids.end(), child.id), 1);
+    EXPECT_EQ(std::count(ids.begin(), ids.end(), GetCurrentProcessId()), 1);
+    End(child);
+}
+
+TEST_F(ProcessesTest, AListIsCutToTheRoomItHas)
+{
+    DWORD ids[2] = {77, 78};
+    DWORD bytes = 99;
+    ASSERT_TRUE(K32EnumProcesses(ids, sizeof(DWORD) + 1, &bytes));
+    EXPECT_EQ(bytes, sizeof(DWORD));
+    EXPECT_EQ(ids[1], 78u);
+}
+
+TEST_F(ProcessesTest, AProcessTellsItsExecutable)
+{
+    const std::wstring program = CopyChild(L"\u00fcbung.exe");
+    const StartResult child = Start(L"\"" + program + L"\" wait");
+    const TestHandle opened(
+        OpenProcess(PROCESS_QUERY_INFORMATION | PROCESS_VM_READ, FALSE, child.id));
+    // A process of Windows knows its modules only when it has begun to run.
+    const QDeadlineTimer deadline(longEnough);
+    while (ExecutableOf(opened).empty() && !deadline.hasExpired())
+        std::this_thread::yield();
+    const QFileInfo told(QString::fromStdWString(ExecutableOf(opened)));
+    EXPECT_EQ(
+        told.canonicalFilePath(), QFileInfo(QString::fromStdWString(program)).canonicalFilePath());
+    wchar_t cut[6] = L"";
+    EXPECT_EQ(K32GetModuleFileNameExW(opened.Get(), nullptr, cut, 5), 5u);
+    EXPECT_EQ(std::wstring(cut, 4), ExecutableOf(opened).substr(0, 4));
+    End(child);
+}
+
+TEST_F(ProcessesTest, AClosedHandleAndOneOfAnotherKindAreNone)
+{
+    const HANDLE file = CreateFileW(PathOf(L"file").c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+        FILE_ATTRIBUTE_NORMAL, nullptr);
+    EXPECT_FALSE(TerminateProcess(file, 1));
+    CloseHandle(file);
+    EXPECT_EQ(WaitForSingleObject(file, 0), DWORD{WAIT_FAILED});
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_INVALID_HANDLE});
+}
+
+} // namespace

@@ -1,0 +1,229 @@
+#include "support/PalMachine.h"
+#include "support/ShellLinks.h"
+
+#include <functional>
+
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <Pal.h>
+
+namespace
+{
+
+class ShellLinksLinuxTest : public PalMachine
+{
+protected:
+    QString FilePath(const char* name) const { return QString::fromStdWString(PathOf(L"")) + name; }
+
+    QByteArray SavedLink()
+    {
+        TestLink link;
+        link.Link().SetPath(L"\\opt\\\u00fcbung\\quill.exe");
+        link.Link().SetWorkingDirectory(L"\\opt\\\u00fcbung");
+        link.Link().SetArguments(L"\"a b\" c");
+        EXPECT_EQ(link.Save(PathOf(L"a.lnk")), S_OK);
+        QFile file(FilePath("a.lnk"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+
+    // What a link says that has these bytes: its texts, or "(refused)".
+    std::wstring TextsOf(const QByteArray& bytes)
+    {
+        QFile file(FilePath("b.lnk"));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        EXPECT_EQ(file.write(bytes), bytes.size());
+        file.close();
+        TestLink link;
+        const HRESULT result = link.Load(PathOf(L"b.lnk"));
+        EXPECT_TRUE(result == S_OK || result == E_FAIL) << result;
+        return result == S_OK
+                   ? link.Path() + L"|" + link.WorkingDirectory() + L"|" + link.Arguments()
+                   : L"(refused)";
+    }
+
+    const ComThread m_com;
+};
+
+constexpr wchar_t savedTexts[] = L"\\opt\\\u00fcbung\\quill.exe|\\opt\\\u00fcbung|\"a b\" c";
+
+TEST_F(ShellLinksLinuxTest, AnotherProgramReadsTheSameTexts)
+{
+    const QString program = QStandardPaths::findExecutable("lnkinfo");
+    if (program.isEmpty())
+        GTEST_SKIP() << "lnkinfo is not installed: tools/setup installs liblnk-utils";
+    SavedLink();
+    QProcess process;
+    process.start(program, {FilePath("a.lnk")});
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 0);
+    QStringList lines;
+    for (const QString& line : QString::fromUtf8(process.readAllStandardOutput()).split('\n'))
+        lines += line.simplified();
+    for (const char* expected :
+        {"Local path : \\opt\\\u00fcbung\\quill.exe", "Working directory : \\opt\\\u00fcbung",
+            "Command line arguments : \"a b\" c", "Drive type : Fixed (3)"})
+        EXPECT_TRUE(lines.contains(expected)) << expected << "\n" << lines.join("\n").toStdString();
+}
+
+TEST_F(ShellLinksLinuxTest, ALinkThatIsCutOffIsRefusedWhereverItEnds)
+{
+    const QByteArray whole = SavedLink();
+    EXPECT_EQ(TextsOf(whole), savedTexts);
+    const int withoutExtraData = whole.size() - 4;
+    for (int size = 0; size < withoutExtraData; ++size)
+        ASSERT_EQ(TextsOf(whole.left(size)), L"(refused)") << size;
+}
+
+TEST_F(ShellLinksLinuxTest, AnyByteMayBeWrongWithoutHarm)
+{
+    const QByteArray whole = SavedLink();
+    int refused = 0;
+    for (int position = 0; position < whole.size(); ++position)
+    {
+        QByteArray wrong = whole;
+        wrong[position] = static_cast<char>(0xFF);
+        refused += TextsOf(wrong) == L"(refused)";
+    }
+    EXPECT_GE(refused, 20); // the header's size and class alone
+}
+
+TEST_F(ShellLinksLinuxTest, ItemListsOtherTextsAnd8BitTextsOfOtherWritersAreUnderstood)
+{
+    QByteArray link = SavedLink().left(0x4C);
+    link[20] = static_cast<char>(0x01 | 0x02 | 0x04 | 0x10 | 0x20);
+    link += QByteArray("\x06\0"
+                       "\x04\0"
+                       "xx\0\0",
+        8);
+    link += QByteArray("\x36\0\0\0"
+                       "\x1C\0\0\0"
+                       "\x01\0\0\0"
+                       "\x1C\0\0\0"
+                       "\x2D\0\0\0",
+        20);
+    link += QByteArray("\0\0\0\0"
+                       "\x31\0\0\0",
+        8);
+    link += QByteArray("\x11\0\0\0\x03\0\0\0\0\0\0\0\x10\0\0\0\0", 17);
+    link += QByteArray("C:\\\0"
+                       "a\\b\0\0",
+        9);
+    link += QByteArray("\x04\0name"
+                       "\x02\0C:"
+                       "\x02\0/S",
+        14);
+    EXPECT_EQ(TextsOf(link), L"C:\\a\\b|C:|/S");
+}
+
+TEST_F(ShellLinksLinuxTest, ATextThatDoesNotFitTheFormatIsNotSaved)
+{
+    TestLink link;
+    link.Link().SetArguments(std::wstring(65535, L'x').c_str());
+    EXPECT_EQ(link.Save(PathOf(L"a.lnk")), S_OK);
+    link.Link().SetArguments(std::wstring(65536, L'x').c_str());
+    EXPECT_EQ(link.Save(PathOf(L"a.lnk")), HRESULT_FROM_WIN32(ERROR_FILENAME_EXCED_RANGE));
+    TestLink loaded;
+    EXPECT_EQ(loaded.Load(PathOf(L"a.lnk")), S_OK);
+    EXPECT_EQ(loaded.Arguments().size(), 2047u);
+}
+
+TEST_F(ShellLinksLinuxTest, AFailedSaveTellsTheLastErrorAndLeavesNothingBehind)
+{
+    TestLink link;
+    ASSERT_TRUE(QDir().mkpath(FilePath("folder.lnk/full")));
+    SetLastError(ERROR_SUCCESS);
+    EXPECT_TRUE(FAILED(link.Save(PathOf(L"folder.lnk"))));
+    EXPECT_NE(GetLastError(), DWORD{ERROR_SUCCESS});
+    EXPECT_EQ(QDir(FilePath("")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+        QStringList("folder.lnk"));
+}
+
+TEST_F(ShellLinksLinuxTest, EveryCallCanFail)
+{
+    TestLink link;
+    wchar_t text[8] = L"";
+    LPWSTR file = nullptr;
+    CLSID classId = {};
+    void* object = nullptr;
+    IShellLinkW& shellLink = link.Link();
+    const std::vector<std::pair<const char*, std::function<HRESULT()>>> calls = {
+        {"CoInitialize", [] { return CoInitialize(nullptr); }},
+        {"CoCreateInstance",
+            [&] {
+                return CoCreateInstance(
+                    CLSID_ShellLink, nullptr, CLSCTX_ALL, IID_IUnknown, &object);
+            }},
+        {"IUnknown::QueryInterface",
+            [&] { return shellLink.QueryInterface(IID_IUnknown, &object); }},
+        {"IShellLinkW::GetPath", [&] { return shellLink.GetPath(text, 8, nullptr, 0); }},
+        {"IShellLinkW::SetPath", [&] { return shellLink.SetPath(L"a"); }},
+        {"IShellLinkW::GetWorkingDirectory",
+            [&] { return shellLink.GetWorkingDirectory(text, 8); }},
+        {"IShellLinkW::SetWorkingDirectory", [&] { return shellLink.SetWorkingDirectory(L"a"); }},
+        {"IShellLinkW::GetArguments", [&] { return shellLink.GetArguments(text, 8); }},
+        {"IShellLinkW::SetArguments", [&] { return shellLink.SetArguments(L"a"); }},
+        {"IPersist::GetClassID", [&] { return link.File().GetClassID(&classId); }},
+        {"IPersistFile::IsDirty", [&] { return link.File().IsDirty(); }},
+        {"IPersistFile::Load", [&] { return link.Load(PathOf(L"a.lnk")); }},
+        {"IPersistFile::Save", [&] { return link.Save(PathOf(L"a.lnk")); }},
+        {"IPersistFile::GetCurFile", [&] { return link.File().GetCurFile(&file); }},
+    };
+    for (const auto& [function, call] : calls)
+    {
+        const Pal::ScopedFault error(function, ERROR_DISK_FULL);
+        EXPECT_EQ(call(), HRESULT_FROM_WIN32(ERROR_DISK_FULL)) << function;
+        EXPECT_EQ(GetLastError(), DWORD{ERROR_DISK_FULL}) << function;
+        const Pal::ScopedFault result(function, static_cast<DWORD>(E_UNEXPECTED));
+        EXPECT_EQ(call(), E_UNEXPECTED) << function;
+    }
+    EXPECT_FALSE(QFile::exists(FilePath("a.lnk")));
+    EXPECT_EQ(link.File().IsDirty(), S_FALSE);
+    EXPECT_EQ(object, nullptr);
+}
+
+// An object that does nothing but go with its last reference.
+class Counted final : public IUnknown
+{
+public:
+    HRESULT QueryInterface(REFIID iid, void** object) override
+    {
+        if (iid != IID_IUnknown)
+            return E_NOINTERFACE;
+        *object = this;
+        AddRef();
+        return S_OK;
+    }
+    ULONG AddRef() override { return ++m_references; }
+    ULONG Release() override
+    {
+        const ULONG left = --m_references;
+        if (left == 0)
+            delete this;
+        return left;
+    }
+
+private:
+    ~Counted() = default;
+
+    ULONG m_references = 1;
+};
+
+TEST_F(ShellLinksLinuxTest, ARegisteredClassIsMadeWhileItsRegistrationLives)
+{
+    const auto create = [](REFIID iid, void** object)
+    { return CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_ALL, iid, object); };
+    void* object = nullptr;
+    {
+        const Pal::ScopedClass registration(CLSID_ShellLink, [] { return new Counted; });
+        EXPECT_EQ(create(IID_IShellLinkW, &object), E_NOINTERFACE);
+        ASSERT_EQ(create(IID_IUnknown, &object), S_OK);
+        EXPECT_EQ(static_cast<IUnknown*>(object)->Release(), 0u);
+    }
+    ASSERT_EQ(create(IID_IShellLinkW, &object), S_OK);
+    EXPECT_EQ(static_cast<IShellLinkW*>(object)->Release(), 0u);
+}
+
+} // namespace

@@ -1,0 +1,98 @@
+#include "support/ShellLinks.h"
+#include "support/PalMachine.h"
+
+namespace
+{
+
+class ShellLinksTest : public PalMachine
+{
+protected:
+    std::wstring Target(const std::wstring& name) const { return WithBackslashes(PathOf(name)); }
+
+    const ComThread m_com;
+};
+
+TEST_F(ShellLinksTest, WhatWasSavedIsLoadedByAFreshLink)
+{
+    const std::wstring longText = L"\"--list=" + std::wstring(900, L'x') + L"\" /S";
+    const struct
+    {
+        std::wstring name;
+        std::wstring arguments;
+    } cases[] = {
+        {L"quill.exe", L""},
+        {L"two words.exe", L"\"one\" \"two three\""},
+        {L"\u00e4\u0434\u6df1.exe", L"\u0434\u0430\u043d\u043d\u044b\u0435 \u6df1\u3044"},
+        {L"long.exe", longText},
+    };
+    for (const auto& [name, arguments] : cases)
+    {
+        TestLink saved;
+        // S_FALSE of Wine for a target that is not there.
+        EXPECT_TRUE(SUCCEEDED(saved.Link().SetPath(Target(name).c_str())));
+        EXPECT_EQ(saved.Link().SetWorkingDirectory(Target(L"work").c_str()), S_OK);
+        EXPECT_EQ(saved.Link().SetArguments(arguments.c_str()), S_OK);
+        ASSERT_EQ(saved.Save(PathOf(name + L".lnk")), S_OK);
+
+        TestLink loaded;
+        ASSERT_EQ(loaded.Load(PathOf(name + L".lnk")), S_OK);
+        EXPECT_EQ(loaded.Path(), Target(name));
+        EXPECT_EQ(loaded.WorkingDirectory(), Target(L"work"));
+        EXPECT_EQ(loaded.Arguments(), arguments);
+    }
+}
+
+TEST_F(ShellLinksTest, SavingReplacesTheFormerLink)
+{
+    TestLink link;
+    link.Link().SetPath(Target(L"first.exe").c_str());
+    link.Link().SetArguments(L"old");
+    ASSERT_EQ(link.Save(PathOf(L"a.lnk")), S_OK);
+    link.Link().SetPath(Target(L"second.exe").c_str());
+    link.Link().SetArguments(L"");
+    ASSERT_EQ(link.Save(PathOf(L"a.lnk")), S_OK);
+    TestLink loaded;
+    loaded.Link().SetArguments(L"gone after loading");
+    ASSERT_EQ(loaded.Load(PathOf(L"a.lnk")), S_OK);
+    EXPECT_EQ(loaded.Path(), Target(L"second.exe"));
+    EXPECT_EQ(loaded.Arguments(), L"");
+}
+
+TEST_F(ShellLinksTest, ALinkKnowsItsFileAndWhetherItChanged)
+{
+    TestLink link;
+    EXPECT_EQ(link.File().IsDirty(), S_FALSE);
+    link.Link().SetPath(Target(L"a.exe").c_str());
+    EXPECT_EQ(link.File().IsDirty(), S_OK);
+    ASSERT_EQ(link.Save(PathOf(L"a.lnk")), S_OK);
+    EXPECT_EQ(link.File().IsDirty(), S_FALSE);
+    LPWSTR file = nullptr;
+    ASSERT_EQ(link.File().GetCurFile(&file), S_OK);
+    EXPECT_EQ(WithBackslashes(file), Target(L"a.lnk"));
+    CoTaskMemFree(file);
+}
+
+TEST_F(ShellLinksTest, WithoutItsFolderALinkIsNotSaved)
+{
+    TestLink link;
+    link.Link().SetPath(Target(L"a.exe").c_str());
+    EXPECT_EQ(link.Save(PathOf(L"none/a.lnk")), HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND));
+    EXPECT_EQ(GetFileAttributesW(PathOf(L"none").c_str()), INVALID_FILE_ATTRIBUTES);
+}
+
+TEST_F(ShellLinksTest, AMissingFileIsNotLoaded)
+{
+    TestLink link;
+    EXPECT_EQ(link.Load(PathOf(L"none.lnk")), HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND));
+}
+
+TEST_F(ShellLinksTest, AShortBufferGetsTheBeginning)
+{
+    TestLink link;
+    link.Link().SetArguments(L"abcdef");
+    wchar_t text[4] = L"";
+    EXPECT_EQ(link.Link().GetArguments(text, 4), S_OK);
+    EXPECT_STREQ(text, L"abc");
+}
+
+} // namespace

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <filesystem>
+
+// The path of the running program.
+std::filesystem::path OwnPath();

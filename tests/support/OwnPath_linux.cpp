@@ -1,0 +1,6 @@
+#include "OwnPath.h"
+
+std::filesystem::path OwnPath()
+{
+    return std::filesystem::canonical("/proc/self/exe");
+}
