@@ -6,6 +6,7 @@
 #include "Outcome.h"
 #include "ProgressReport.h"
 #include "SilentRun.h"
+#include "Terminal.h"
 #include "UninstallRun.h"
 
 #include <QApplication>
@@ -16,8 +17,6 @@
 #include <iostream>
 #include <memory>
 #include <stdexcept>
-
-#include <unistd.h>
 
 using namespace Vorlan::FrontEnd;
 
@@ -46,8 +45,7 @@ EventSink MakeSink(const CommandLine& options)
     }
     if (options.progress)
     {
-        const bool isTerminal = isatty(STDOUT_FILENO) != 0;
-        const auto report = std::make_shared<ProgressReport>(std::cout, isTerminal);
+        const auto report = std::make_shared<ProgressReport>(std::cout, IsOutputTerminal());
         return [report](const RunEvent& event) { report->Show(event); };
     }
     return [](const RunEvent&) {};

@@ -134,13 +134,14 @@ TEST(CommandLineTest, AProgramPathOverALinkIsDroppedToo)
 
 TEST(CommandLineTest, RelativePathsAreTakenFromTheStartFolder)
 {
-    const QDir start("/start");
+    const QString root = QDir::rootPath();
+    const QDir start(root + "start");
     const CommandLine options =
         WithAbsolutePaths(Parsed({"/D=sub/../apps", "/LOG=run.log"}), start);
-    EXPECT_EQ(options.folder, "/start/apps");
-    EXPECT_EQ(options.logFile, "/start/run.log");
-    const CommandLine absolute = WithAbsolutePaths(Parsed({"/D=/opt/apps"}), start);
-    EXPECT_EQ(absolute.folder, "/opt/apps");
+    EXPECT_EQ(options.folder, root + "start/apps");
+    EXPECT_EQ(options.logFile, root + "start/run.log");
+    const CommandLine absolute = WithAbsolutePaths(Parsed({"/D=" + root + "opt/apps"}), start);
+    EXPECT_EQ(absolute.folder, root + "opt/apps");
     EXPECT_TRUE(absolute.logFile.isEmpty());
 }
 

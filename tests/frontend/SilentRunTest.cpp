@@ -101,7 +101,8 @@ TEST_F(SilentRunTest, AMissingArchiveIsOneLineAndTheLogIsNamed)
     EXPECT_EQ(result.exitCode, failed);
     ExpectOneLineWith(result, "InstallerData.7z is missing");
     EXPECT_TRUE(ReadFile(LogNamedIn(result.errors)).contains("InstallerData.7z is missing"));
-    EXPECT_TRUE(LogNamedIn(result.errors).startsWith(setup.TemporaryFolder()));
+    EXPECT_TRUE(
+        LogNamedIn(result.errors).startsWith(QDir::toNativeSeparators(setup.TemporaryFolder())));
 }
 
 TEST_F(SilentRunTest, AnArchiveThatIsNoneIsOneLine)

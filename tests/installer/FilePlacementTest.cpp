@@ -84,7 +84,7 @@ TEST_F(FilePlacementTest, FilesBesideTheInstallerAreCopiedAndTheRestUnpacked)
                     .filter(" ms  excluded: 2")
                     .size() == 1)
         << log.join('\n').toStdString();
-    EXPECT_TRUE(log.contains("Extracting file is started to: \"" + installDir + '"'));
+    EXPECT_TRUE(log.contains("Extracting file is started to: " + Quoted(installDir)));
     EXPECT_EQ(log.last(), "Files are extracted");
 }
 
@@ -237,9 +237,9 @@ TEST_F(FilePlacementTest, ProgramDataMovesToTheAllUsersFolder)
     access.UpdateProgramData();
     EXPECT_EQ(ReadFile(target), "fonts");
     EXPECT_FALSE(QFile::exists(installDir + "fonts.conf"));
-    EXPECT_EQ(machine.Log().last(), "Moved  \"" + installDir + "fonts.conf\"  to  \"" +
-                                        QDir::toNativeSeparators(target) +
-                                        "\"  successfully:  true");
+    EXPECT_EQ(machine.Log().last(), "Moved  " + Quoted(installDir + "fonts.conf") + "  to  " +
+                                        Quoted(QDir::toNativeSeparators(target)) +
+                                        "  successfully:  true");
     EXPECT_EQ(signalLog.Calls(), QStringList());
 }
 

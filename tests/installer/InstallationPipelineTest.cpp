@@ -226,7 +226,7 @@ TEST_F(InstallationPipelineTest, StartingTheMainProgramNamesItsMethod)
     EXPECT_EQ(
         signalLog.Calls(), QStringList({"ApplicationStarted(Manual)", "ApplicationStarted(Auto)"}));
     EXPECT_TRUE(machine.Log().contains(
-        "Starting  \"quill.exe\"  in  \"" + installDir + "\"  with args:  \"a  b\""));
+        "Starting  \"quill.exe\"  in  " + Quoted(installDir) + "  with args:  \"a  b\""));
 }
 
 TEST_F(InstallationPipelineTest, RunMayNotStartFromItsOwnThread)

@@ -1,5 +1,9 @@
 #include "support/ChildProcesses.h"
 
+#include <thread>
+
+#include <QDeadlineTimer>
+
 #include <algorithm>
 
 #include <psapi.h>

@@ -46,7 +46,8 @@ TEST(Path, EachReasonAgainstAFolderHasItsState)
     EXPECT_EQ(Util::IsThisPathValid(machine.Path("new/deep/folder/")), PathValidationState::Valid);
     EXPECT_EQ(Util::IsThisPathValid(machine.Path("")), PathValidationState::Valid);
     EXPECT_EQ(Util::IsThisPathValid("folder/below"), PathValidationState::NotAbsolute);
-    EXPECT_EQ(Util::IsThisPathValid(machine.Path("a:b")), PathValidationState::ForbiddenName);
+    EXPECT_EQ(
+        Util::IsThisPathValid(machine.Path("folder") + "/a:b"), PathValidationState::ForbiddenName);
     EXPECT_EQ(Util::IsThisPathValid(machine.Path("file/x")), PathValidationState::NotAFolder);
 }
 

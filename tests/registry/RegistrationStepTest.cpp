@@ -40,7 +40,12 @@ protected:
         for (const QString& root : {QString("HKEY_CURRENT_USER"), QString("HKEY_LOCAL_MACHINE")})
         {
             for (const QString& line : RegistryTree(root, "Software"))
-                records += root + "\\Software\\" + line;
+            {
+                const bool belongsToSystem = line.contains("\\Explorer\\Shell Folders:") ||
+                                             line.contains("\\Explorer\\User Shell Folders:");
+                if (!belongsToSystem)
+                    records += root + "\\Software\\" + line;
+            }
         }
         for (const char* root : {"HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE"})
         {

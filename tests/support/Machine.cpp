@@ -1,5 +1,6 @@
 #include "support/Machine.h"
 
+#include <QDebug>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -12,15 +13,13 @@
 namespace
 {
 
-constexpr char rootVariable[] = "VORLAN_MACHINE";
 Machine* current = nullptr;
 
 } // namespace
 
-Machine::Machine() : formerFolder(QDir::currentPath()), formerRoot(qgetenv(rootVariable))
+Machine::Machine() : formerFolder(QDir::currentPath())
 {
     current = this;
-    qputenv(rootVariable, QFile::encodeName(Path("machine")));
     QDir().mkpath(Path("current"));
     QDir::setCurrent(Path("current"));
     formerHandler = qInstallMessageHandler(Capture);
@@ -30,7 +29,6 @@ Machine::~Machine()
 {
     qInstallMessageHandler(formerHandler);
     QDir::setCurrent(formerFolder);
-    qputenv(rootVariable, formerRoot);
     current = nullptr;
 }
 
@@ -49,6 +47,13 @@ void Machine::Capture(QtMsgType, const QMessageLogContext&, const QString& line)
 {
     const QMutexLocker lock(&current->mutex);
     current->lines += line;
+}
+
+QString Quoted(const QString& text)
+{
+    QString quoted;
+    QDebug(&quoted).nospace() << text;
+    return quoted;
 }
 
 void WriteFile(const QString& path, const QByteArray& content)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/MachineRoot.h"
 #include "support/Printing.h"
 
 #include <QMap>
@@ -28,12 +29,15 @@ private:
     static void Capture(QtMsgType type, const QMessageLogContext& context, const QString& line);
 
     QTemporaryDir scratch;
+    MachineRoot root{Path("machine")};
     QString formerFolder;
-    QByteArray formerRoot;
     QtMessageHandler formerHandler;
     mutable QMutex mutex;
     QStringList lines;
 };
+
+// A text in quotes, as Qt's logger writes it: backslashes are doubled.
+QString Quoted(const QString& text);
 
 void WriteFile(const QString& path, const QByteArray& content);
 QByteArray ReadFile(const QString& path);

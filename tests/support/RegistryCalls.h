@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include <windows.h>
 
 inline HKEY MakeKey(HKEY parent, const std::wstring& path, REGSAM access = KEY_ALL_ACCESS)
@@ -95,4 +97,16 @@ inline std::vector<std::wstring> SubKeyNames(HKEY key)
         length = 256;
     }
     return names;
+}
+
+// Deletes a key with all below it; a key that is not there is fine.
+inline void DeleteTree(HKEY parent, const std::wstring& path)
+{
+    HKEY key = nullptr;
+    if (RegOpenKeyExW(parent, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS)
+        return;
+    for (const std::wstring& name : SubKeyNames(key))
+        DeleteTree(key, name);
+    RegCloseKey(key);
+    EXPECT_EQ(RegDeleteKeyW(parent, path.c_str()), ERROR_SUCCESS);
 }

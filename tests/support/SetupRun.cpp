@@ -13,6 +13,12 @@ namespace
 
 constexpr int timeLimitMs = 120000;
 
+// Windows ends a line of a program's output with two characters.
+QString TextOf(const QByteArray& output)
+{
+    return QString::fromUtf8(output).replace("\r\n", "\n");
+}
+
 } // namespace
 
 SetupRun::SetupRun()
@@ -22,9 +28,15 @@ SetupRun::SetupRun()
     {
         EXPECT_TRUE(QDir().mkpath(folder));
     }
+    for (const char* name : {"TMPDIR", "TMP", "TEMP"})
+    {
+        environment.insert(name, QDir::toNativeSeparators(TemporaryFolder()));
+    }
+    // A program that a test installs has no plugin beside it.
+    environment.insert("QT_QPA_PLATFORM_PLUGIN_PATH", FRONTEND_FOLDER "/platforms");
     AddProgram("installergui.exe");
     AddProgram(ENGINE_FILE_NAME);
-    for (const QString& program : QString(SYSTEM_PROGRAMS).split(' ', Qt::SkipEmptyParts))
+    for (const QString& program : QString(BESIDE_SETUP).split(' ', Qt::SkipEmptyParts))
     {
         AddProgram(program);
     }
@@ -62,20 +74,14 @@ SetupRun::Result SetupRun::Start(const QString& program, const QStringList& argu
 SetupRun::Result SetupRun::StartFrom(
     const QString& folder, const QString& program, const QStringList& arguments)
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("VORLAN_MACHINE", MachineFolder());
-    for (const char* name : {"TMPDIR", "TMP", "TEMP"})
-    {
-        environment.insert(name, QDir::toNativeSeparators(TemporaryFolder()));
-    }
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(WorkFolder());
     process.start(QDir(folder).filePath(program), arguments);
     EXPECT_TRUE(process.waitForFinished(timeLimitMs)) << process.errorString().toStdString();
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-        QString::fromUtf8(process.readAllStandardError())};
+    return {process.exitCode(), TextOf(process.readAllStandardOutput()),
+        TextOf(process.readAllStandardError())};
 }
 
 QString SetupRun::WorkFolder() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/MachineRoot.h"
+
 #include <QProcess>
 #include <QString>
 #include <QStringList>
@@ -46,4 +48,6 @@ private:
     QString MakeFolder(const QString& name) const;
 
     QTemporaryDir root;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    MachineOfChildren machine{MachineFolder(), environment};
 };

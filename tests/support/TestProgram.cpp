@@ -18,20 +18,26 @@ namespace fs = std::filesystem;
 namespace
 {
 
+fs::path WithSuffix(fs::path path, const char* suffix)
+{
+    return path += suffix;
+}
+
 void WriteArguments(const fs::path& file, int argc, char** argv)
 {
-    std::ofstream notes(file.string() + ".part");
+    const fs::path part = WithSuffix(file, ".part");
+    std::ofstream notes(part, std::ios::binary);
     for (int i = 1; i < argc; ++i)
         notes << argv[i] << '\n';
     notes.close();
-    fs::rename(file.string() + ".part", file);
+    fs::rename(part, file);
 }
 
 void DeleteFilesBeside(const fs::path& program)
 {
     for (const auto& entry : fs::directory_iterator(program.parent_path()))
     {
-        if (entry.is_regular_file() && entry.path().string().rfind(program.string(), 0) != 0)
+        if (entry.is_regular_file() && entry.path().native().rfind(program.native(), 0) != 0)
             fs::remove(entry.path());
     }
 }
@@ -41,8 +47,8 @@ void DeleteFilesBeside(const fs::path& program)
 int main(int argc, char** argv)
 {
     const fs::path program = OwnPath();
-    WriteArguments(program.string() + ".args", argc, argv);
-    std::ifstream orders(program.string() + ".does");
+    WriteArguments(WithSuffix(program, ".args"), argc, argv);
+    std::ifstream orders(WithSuffix(program, ".does"));
     std::string order;
     int exitCode = 0;
     orders >> order >> exitCode;

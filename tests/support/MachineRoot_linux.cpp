@@ -1,0 +1,27 @@
+#include "support/MachineRoot.h"
+
+#include <QFile>
+
+namespace
+{
+
+constexpr char rootVariable[] = "VORLAN_MACHINE";
+
+} // namespace
+
+MachineRoot::MachineRoot(const QString& folder) : formerRoot(qgetenv(rootVariable))
+{
+    qputenv(rootVariable, QFile::encodeName(folder));
+}
+
+MachineRoot::~MachineRoot()
+{
+    qputenv(rootVariable, formerRoot);
+}
+
+MachineOfChildren::MachineOfChildren(const QString& folder, QProcessEnvironment& environment)
+{
+    environment.insert(rootVariable, folder);
+}
+
+MachineOfChildren::~MachineOfChildren() = default;
