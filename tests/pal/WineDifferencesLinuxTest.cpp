@@ -19,15 +19,6 @@ TEST_F(WineDifferencesLinuxTest, AnEndedProcessCannotBeTerminated)
     EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
 }
 
-// Wine puts the program that it found into quotes, so that the child sees its own words.
-TEST_F(WineDifferencesLinuxTest, TheWordsOfAnUnquotedProgramAreCutAtItsBlanks)
-{
-    const std::wstring program = CopyChild(L"two words/the child.exe");
-    const StartResult child = Start(program + L" exit 5");
-    ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
-    EXPECT_EQ(ExitCode(child.process), 99);
-}
-
 // Windows and Wine tell it in a box that waits for a person.
 TEST_F(WineDifferencesLinuxTest, AMissingFileIsNotFoundWithoutAsking)
 {
