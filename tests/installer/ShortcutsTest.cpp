@@ -174,3 +174,13 @@ TEST_F(ShortcutsTest, RemovalTellsWhatItFindsAndTakesTheOldDesktopLink)
     EXPECT_EQ(machine.Log().mid(lines).filter("existing link="), QStringList());
     EXPECT_EQ(machine.Log().last(), "Failed to remove desktop shortcut.");
 }
+
+TEST_F(ShortcutsTest, NameThatNoFileCanBearLosesItsLinksAndNothingElse)
+{
+    access.Settings().productFolderName = "Vorlan/Quillax";
+    access.CreateShortcuts();
+    EXPECT_EQ(machine.Log().filter("' failed with code=").size(), 4);
+    EXPECT_EQ(Links(StandardLocation::Desktop), QStringList());
+    access.RemoveShortcuts();
+    EXPECT_EQ(Links(StandardLocation::Programs), QStringList("Vorlan/"));
+}
