@@ -59,6 +59,7 @@ LogFile::~LogFile()
 {
     qInstallMessageHandler(previousHandler);
     activeLog = nullptr;
+    WriteRepetitions();
 }
 
 QString LogFile::Path() const
@@ -79,7 +80,23 @@ void LogFile::WriteLine(QtMsgType type, const QString& text)
     const QString time = QDateTime::currentDateTime().toString("yyyy-MM-dd hh:mm:ss.zzz");
     const QString level = QString(LevelName(type)).leftJustified(8);
     const QMutexLocker lock(&mutex);
+    if (text == lastText)
+    {
+        ++repetitions;
+        return;
+    }
+    WriteRepetitions();
+    lastText = text;
     file.write((time + ' ' + level + ' ' + text + '\n').toUtf8());
+}
+
+void LogFile::WriteRepetitions()
+{
+    if (repetitions != 0)
+    {
+        file.write(QString("  (the same line %1 times more)\n").arg(repetitions).toUtf8());
+    }
+    repetitions = 0;
 }
 
 } // namespace Vorlan::FrontEnd

@@ -8,8 +8,9 @@
 namespace Vorlan::FrontEnd
 {
 
-// Writes every line of Qt's message logger to a file while it lives: time, level, text. At most one
-// at a time; lines may come from any thread.
+// Writes every line of Qt's message logger to a file while it lives: time, level, text. A line that
+// comes again and again is written once, and then how often it was repeated. At most one log at a
+// time; lines may come from any thread.
 class LogFile
 {
 public:
@@ -29,8 +30,11 @@ private:
     static void HandleMessage(
         QtMsgType type, const QMessageLogContext& context, const QString& text);
     void WriteLine(QtMsgType type, const QString& text);
+    void WriteRepetitions();
 
     QFile file;
+    QString lastText;
+    int repetitions = 0;
     QMutex mutex;
     QtMessageHandler previousHandler = nullptr;
 };

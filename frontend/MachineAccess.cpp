@@ -2,6 +2,11 @@
 
 #include "platform/Handle.h"
 
+#include <QCoreApplication>
+#include <QDir>
+
+#include <shellapi.h>
+
 namespace Vorlan::FrontEnd
 {
 namespace
@@ -21,6 +26,29 @@ QString MachineRightsMissing()
 {
     return QStringLiteral("The installation for all users needs the rights of an administrator: "
                           "start the program as one.");
+}
+
+bool RelaunchElevated()
+{
+    QStringList quoted = {
+        "/IGNORE_MUTEX"}; // this process still holds the lock when the other begins
+    for (const QString& argument : QCoreApplication::arguments().mid(1))
+    {
+        quoted += '"' + argument + '"';
+    }
+    const std::wstring program =
+        QDir::toNativeSeparators(QCoreApplication::applicationFilePath()).toStdWString();
+    const std::wstring parameters = quoted.join(' ').toStdWString();
+    SHELLEXECUTEINFOW info = {};
+    info.cbSize = sizeof info;
+    info.fMask = SEE_MASK_NOCLOSEPROCESS;
+    info.lpVerb = L"runas";
+    info.lpFile = program.c_str();
+    info.lpParameters = parameters.c_str();
+    info.nShow = SW_SHOW;
+    const BOOL isStarted = ShellExecuteExW(&info);
+    const Platform::UniqueProcess process(info.hProcess);
+    return isStarted;
 }
 
 struct SetupLock::State

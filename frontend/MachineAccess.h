@@ -13,6 +13,10 @@ bool CanChangeMachine();
 // What to tell a person who may not.
 QString MachineRightsMissing();
 
+// Starts this program again with the same arguments and the rights of an administrator, for which
+// the system asks the person; false when they refused.
+bool RelaunchElevated();
+
 // One setup at a time on a machine: held by the first process that asks, until the object goes or
 // the process ends.
 class SetupLock

@@ -1,4 +1,5 @@
 #include "CommandLine.h"
+#include "InteractiveUninstall.h"
 #include "JsonReport.h"
 #include "LogFile.h"
 #include "MachineAccess.h"
@@ -69,11 +70,17 @@ Outcome RunRole(Role role, const CommandLine& options, int argc, char** argv)
         return {ExitCode::AnotherSetupRunning,
             "Another setup is running: wait for its end, or give /IGNORE_MUTEX."};
     }
-    if (!options.silent)
+    if (options.silent)
     {
-        return {ExitCode::Failed, "This build has no window yet: give /S for a silent run."};
+        return RunSilently(role, options, argc, argv);
     }
-    return RunSilently(role, options, argc, argv);
+    if (role == Role::Installer)
+    {
+        return {
+            ExitCode::Failed, "This build has no window yet: give /S for a silent installation."};
+    }
+    const QApplication application(argc, argv);
+    return UninstallInteractively(options, MakeSink(options));
 }
 
 // Keeps a log meanwhile; a failure names it.

@@ -65,7 +65,7 @@ void ProgressReport::Show(const RunEvent& event)
     }
     else if (event.signal == "InstallationFinished")
     {
-        ShowLine("Installed");
+        ShowLine("Done");
     }
 }
 

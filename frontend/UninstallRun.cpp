@@ -12,14 +12,12 @@
 
 namespace Vorlan::FrontEnd
 {
-namespace
-{
 
 Outcome UninstallFrom(const QString& folder, QSettings::Scope scope, const CommandLine& options,
-    const EventSink& sink)
+    bool isUnattended, const EventSink& sink)
 {
     const QString programName = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
-    InstallerMediator mediator({programName, false, true, scope, false});
+    InstallerMediator mediator({programName, false, isUnattended, scope, false});
     InstallationSettings settings = mediator.GetSettings();
     settings.removeAllOnUninstall = options.removeAll;
     settings.locale = options.language.isEmpty() ? settings.locale : options.language;
@@ -36,8 +34,6 @@ Outcome UninstallFrom(const QString& folder, QSettings::Scope scope, const Comma
     return outcome;
 }
 
-} // namespace
-
 Outcome UninstallSilently(const CommandLine& options, const EventSink& sink)
 {
     const QString folder = QCoreApplication::applicationDirPath();
@@ -50,7 +46,7 @@ Outcome UninstallSilently(const CommandLine& options, const EventSink& sink)
     {
         return {ExitCode::Failed, MachineRightsMissing()};
     }
-    return UninstallFrom(folder, own.scope, options, sink);
+    return UninstallFrom(folder, own.scope, options, true, sink);
 }
 
 } // namespace Vorlan::FrontEnd

@@ -108,13 +108,14 @@ fs::path FindSystemProgram(const char* name)
         fs::read_symlink("/proc/self/exe", error).parent_path(), FolderOfThisLibrary()};
     for (const fs::path& folder : folders)
     {
-        if (fs::exists(folder / name, error))
+        if (!folder.empty() && fs::exists(folder / name, error))
             return fs::absolute(folder / name, error);
     }
     return {};
 }
 
-// A link that leads nowhere, because the programs have moved, is made anew.
+// A link that leads nowhere, because the programs have moved, is made anew. Another process may be
+// faster with that.
 std::error_code LinkSystemProgram(const fs::path& link, const fs::path& program)
 {
     std::error_code error;
@@ -122,7 +123,8 @@ std::error_code LinkSystemProgram(const fs::path& link, const fs::path& program)
         return {};
     fs::remove(link, error);
     fs::create_symlink(program, link, error);
-    return error == std::errc::file_exists ? std::error_code() : error;
+    std::error_code notSeen;
+    return fs::exists(link, notSeen) ? std::error_code() : error;
 }
 
 } // namespace

@@ -15,9 +15,9 @@
 
 #include <Pal.h>
 
-#include "Descriptor.h"
 #include "ErrorMapping.h"
 #include "Faults.h"
+#include "FileLock.h"
 #include "HandleTable.h"
 #include "LastError.h"
 #include "Machine.h"
@@ -43,20 +43,6 @@ private:
     const Descriptor m_file;
 };
 
-DWORD LockFile(const Descriptor& file, int operation)
-{
-    int result = 0;
-    do
-        result = flock(file.Get(), operation);
-    while (result != 0 && errno == EINTR);
-    return result == 0 ? ERROR_SUCCESS : ErrorFromErrno(errno);
-}
-
-Descriptor OpenLockFile(const fs::path& path)
-{
-    return Descriptor(open(path.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, 0666));
-}
-
 DWORD FileNameOf(LPCWSTR name, std::string& fileName)
 {
     constexpr std::wstring_view local = L"Local\\";
@@ -66,7 +52,7 @@ DWORD FileNameOf(LPCWSTR name, std::string& fileName)
     if (text.empty())
         return ERROR_NOT_SUPPORTED;
     const QString shown = QString::fromStdU16String(Utf16FromWide(text));
-    fileName = QUrl::toPercentEncoding(shown, QByteArray(), ".").toStdString();
+    fileName = QUrl::toPercentEncoding(shown).toStdString();
     return ERROR_SUCCESS;
 }
 
@@ -74,14 +60,18 @@ DWORD FileNameOf(LPCWSTR name, std::string& fileName)
 DWORD TakePart(const std::string& fileName, bool mayMake, Descriptor& file, bool& existed)
 {
     const fs::path folder = MutexFolder(MachineRoot());
-    const Descriptor guard = OpenLockFile(folder / "lock");
+    const Descriptor guard = OpenLockFile(folder / "lock", O_CREAT);
     DWORD error = guard.IsOpen() ? LockFile(guard, LOCK_EX) : ErrorFromErrno(errno);
     if (error != ERROR_SUCCESS)
         return error;
-    file = OpenLockFile(folder / ("named " + fileName));
+    file = OpenLockFile(folder / ("named " + fileName), O_CREAT);
     if (!file.IsOpen())
         return ErrorFromErrno(errno);
-    existed = flock(file.Get(), LOCK_EX | LOCK_NB) != 0;
+    bool taken = false;
+    error = TryLockFile(file, taken);
+    existed = !taken;
+    if (error != ERROR_SUCCESS)
+        return error;
     if (!existed && !mayMake)
         return ERROR_FILE_NOT_FOUND;
     return LockFile(file, LOCK_SH);

@@ -69,7 +69,7 @@ void Expect(const Request& request, const QString& option, const QString& onlyVa
 
 std::string TaskFile(const Request& request)
 {
-    const QByteArray name = QUrl::toPercentEncoding(Value(request, "/tn").toLower(), "", ".");
+    const QByteArray name = QUrl::toPercentEncoding(Value(request, "/tn").toLower());
     return Pal::TaskFolder(Pal::MachineRoot()) / ("task " + name.toStdString());
 }
 

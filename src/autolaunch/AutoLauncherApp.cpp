@@ -3,7 +3,8 @@
 #include <boost/format.hpp>
 #include <boost/lexical_cast.hpp>
 
-#include <regex>
+#include <QRegularExpression>
+
 #include <stdexcept>
 
 namespace Vorlan
@@ -13,7 +14,8 @@ namespace
 {
 
 // The dots match any character, and the patch is one digit: entries of older versions are so.
-const std::regex idGrammar("([a-zA-Z]+)_([a-zA-Z_-]+)_(\\d+).(\\d+).(\\d)_([a-zA-Z-]+)");
+const QRegularExpression idGrammar(QRegularExpression::anchoredPattern(
+    "([a-zA-Z]+)_([a-zA-Z_-]+)_(\\d+).(\\d+).(\\d)_([a-zA-Z-]+)"));
 
 } // namespace
 
@@ -46,12 +48,13 @@ catch (const boost::bad_lexical_cast&)
 
 std::optional<AutoLauncherApp> AutoLauncherApp::FromId(const std::string& id)
 {
-    std::smatch parts;
-    if (!std::regex_match(id, parts, idGrammar))
+    const QRegularExpressionMatch match = idGrammar.match(QString::fromStdString(id));
+    if (!match.hasMatch())
         return std::nullopt;
+    const auto part = [&match](int group) { return match.captured(group).toStdString(); };
     try
     {
-        return FromParts(parts[1], parts[2], parts[6], parts[3], parts[4], parts[5]);
+        return FromParts(part(1), part(2), part(6), part(3), part(4), part(5));
     }
     catch (const std::runtime_error&)
     {

@@ -4,9 +4,9 @@
 #include "platform/Exception.h"
 
 #include <QDebug>
+#include <QRegularExpression>
 #include <QString>
 
-#include <regex>
 #include <stdexcept>
 
 namespace Vorlan
@@ -29,11 +29,14 @@ PriorityAutoLauncherLogic::Priorities PrioritiesFor(const std::string& appId)
 
 AutoLauncherApp OwnApp(const AutoLaunchApp& app, const AutoLaunchProduct& product)
 {
-    std::smatch parts;
-    if (!std::regex_match(product.versionMinor, parts, std::regex("(\\d+).(\\d+)")))
+    static const QRegularExpression minorAndPatch(
+        QRegularExpression::anchoredPattern("(\\d+).(\\d+)"));
+    const QRegularExpressionMatch parts =
+        minorAndPatch.match(QString::fromStdString(product.versionMinor));
+    if (!parts.hasMatch())
         throw std::runtime_error("Error parsing version ( " + product.versionMinor + " )");
-    AutoLauncherApp own = AutoLauncherApp::FromParts(
-        product.company, product.productId, app.appId, product.versionMajor, parts[1], parts[2]);
+    AutoLauncherApp own = AutoLauncherApp::FromParts(product.company, product.productId, app.appId,
+        product.versionMajor, parts.captured(1).toStdString(), parts.captured(2).toStdString());
     own.path = app.path;
     own.arguments = {app.cmdParameters};
     return own;

@@ -44,6 +44,26 @@ TEST(LogFileTest, EveryLineCarriesTimeLevelAndText)
     }
 }
 
+TEST(LogFileTest, ARepeatedLineIsWrittenOnceAndCounted)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("run.log");
+    {
+        const LogFile log(path);
+        for (const char* text : {"wait", "wait", "wait", "done", "wait", "wait"})
+        {
+            qInfo("%s", text);
+        }
+    }
+    QStringList ends;
+    for (const QString& line : LinesOf(path))
+    {
+        ends += line.startsWith(' ') ? line : line.mid(33);
+    }
+    EXPECT_EQ(ends, QStringList({"wait", "  (the same line 2 times more)", "done", "wait",
+                        "  (the same line 1 times more)", ""}));
+}
+
 TEST(LogFileTest, ALaterLogGoesOnWhereTheFileEnds)
 {
     const QTemporaryDir folder;

@@ -188,7 +188,7 @@ TEST_F(SilentRunTest, ProgressShowsTheStagesInOrder)
         "Removing the previous version... Placing the files... Registering the program... "
         "Checking hardware acceleration...");
     EXPECT_TRUE(result.output.contains("] 100 %\n"));
-    EXPECT_TRUE(result.output.endsWith("Installed\n"));
+    EXPECT_TRUE(result.output.endsWith("Done\n"));
 }
 
 TEST_F(SilentRunTest, JsonHoldsEverySignalOnALine)

@@ -28,15 +28,6 @@ protected:
 
     static bool IsInProcessTable(DWORD id) { return kill(static_cast<pid_t>(id), 0) == 0; }
 
-    // Waits, but not for ever.
-    static bool Becomes(const std::function<bool()>& state)
-    {
-        const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(longEnough);
-        while (!state() && std::chrono::steady_clock::now() < end)
-            std::this_thread::yield();
-        return state();
-    }
-
     std::wstring WriteProgram(
         const std::wstring& name, const QByteArray& text, QFile::Permissions permissions) const
     {
@@ -84,6 +75,15 @@ TEST_F(ProcessesLinuxTest, ChildrenOfOthersAreLeftToThem)
     EXPECT_EQ(theirs.exitCode(), SIGKILL);
 }
 
+TEST_F(ProcessesLinuxTest, WhatHasEndedCannotBeTerminated)
+{
+    const StartResult child = Start(L"\"" + ChildProgram() + L"\" exit 2");
+    EXPECT_EQ(ExitCode(child.process), 2);
+    EXPECT_FALSE(TerminateProcess(child.process.Get(), 8));
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
+    EXPECT_EQ(ExitCode(child.process), 2);
+}
+
 TEST_F(ProcessesLinuxTest, ManyThreadsMayWaitForOneChild)
 {
     const StartResult child = StartWaiting();
@@ -111,10 +111,10 @@ TEST_F(ProcessesLinuxTest, ABatchFileIsReadByTheShellAndNeedsNoPermissionToRun)
     const std::string folder = QString::fromStdWString(PathOf(L"")).chopped(1).toStdString();
     const StartResult unquoted = Start(batch + L" \"a b\" c\\d", PathOf(L"").c_str());
     EXPECT_EQ(ExitCode(unquoted.process), 3);
-    EXPECT_EQ(Report(), (Strings{folder, "words.BAT", "a b", "c\\d"}));
-    const StartResult quoted = Start(L"\"" + batch + L"\" \"a b\"", PathOf(L"").c_str());
+    EXPECT_EQ(Report(), (Strings{folder, "a b", "c\\d"}));
+    const StartResult quoted = Start(L"\"" + batch + L"\" \"c d\"", PathOf(L"").c_str());
     EXPECT_EQ(ExitCode(quoted.process), 3);
-    EXPECT_EQ(Report().back(), "a b");
+    EXPECT_EQ(Report(), (Strings{folder, "c d"}));
 }
 
 TEST_F(ProcessesLinuxTest, AFileThatMayNotRunIsDeniedAndAFolderIsNoProgram)
@@ -211,6 +211,21 @@ TEST_F(ProcessesLinuxTest, AnExecutableThatHasGoneKeepsItsPath)
     EXPECT_EQ(K32GetModuleFileNameExW(child.process.Get(), nullptr, path, MAX_PATH), 0u);
 }
 
+// Windows shows a box as well.
+TEST_F(ProcessesLinuxTest, WhatTheShellDoesNotFindIsNotStarted)
+{
+    for (const wchar_t* file : {L"", L"none.exe", L"\\none.exe"})
+    {
+        SHELLEXECUTEINFOW information = {};
+        information.cbSize = sizeof(information);
+        information.fMask = SEE_MASK_NOCLOSEPROCESS;
+        information.lpFile = file;
+        EXPECT_FALSE(ShellExecuteExW(&information));
+        EXPECT_EQ(GetLastError(), DWORD{ERROR_FILE_NOT_FOUND});
+        EXPECT_EQ(information.hProcess, nullptr);
+    }
+}
+
 TEST_F(ProcessesLinuxTest, AnElevatedProgramIsOneLikeAnyOther)
 {
     const std::wstring program = ChildProgram();
@@ -232,6 +247,21 @@ TEST_F(ProcessesLinuxTest, AnElevatedProgramIsOneLikeAnyOther)
     EXPECT_NE(sessionOf(Pal::OpenHandles().back()), getsid(0));
     EXPECT_TRUE(TerminateProcess(process.Get(), 1));
     EXPECT_EQ(ExitCode(process), 1);
+}
+
+TEST_F(ProcessesLinuxTest, AProcessOfAnotherUserIsNotOpenedForMoreThanWaiting)
+{
+    const auto openFirstProcess = []
+    {
+        constexpr uid_t nobody = 65534;
+        if (getuid() == 0 && setresuid(nobody, nobody, nobody) != 0)
+            return 1;
+        int wrong = OpenProcess(SYNCHRONIZE, FALSE, 1) ? 0 : 2;
+        for (const DWORD access : {PROCESS_TERMINATE, PROCESS_VM_READ, PROCESS_QUERY_INFORMATION})
+            wrong += OpenProcess(access, FALSE, 1) || GetLastError() != ERROR_ACCESS_DENIED ? 4 : 0;
+        return wrong;
+    };
+    EXPECT_EQ(WaitForChild(StartChild(openFirstProcess)), 0);
 }
 
 TEST_F(ProcessesLinuxTest, EveryCallCanFail)

@@ -8,13 +8,14 @@ namespace
 class ShellExecuteTest : public ChildProcesses
 {
 protected:
-    static SHELLEXECUTEINFOW Information(const std::wstring& file, const std::wstring& parameters)
+    // Both texts must outlive the result.
+    static SHELLEXECUTEINFOW Information(const wchar_t* file, const wchar_t* parameters)
     {
         SHELLEXECUTEINFOW information = {};
         information.cbSize = sizeof(information);
         information.fMask = SEE_MASK_NOCLOSEPROCESS;
-        information.lpFile = file.c_str();
-        information.lpParameters = parameters.c_str();
+        information.lpFile = file;
+        information.lpParameters = parameters;
         information.nShow = SW_HIDE;
         return information;
     }
@@ -25,7 +26,7 @@ TEST_F(ShellExecuteTest, AProgramRunsWithItsParametersInItsFolder)
     const std::wstring program = CopyChild(L"two words/child.exe");
     const std::wstring parameters = L"report \"" + PathOf(L"report") + L"\" \"a b\" /c";
     const std::wstring folder = PathOf(L"two words");
-    SHELLEXECUTEINFOW information = Information(program, parameters);
+    SHELLEXECUTEINFOW information = Information(program.c_str(), parameters.c_str());
     information.lpDirectory = folder.c_str();
     ASSERT_TRUE(ShellExecuteExW(&information));
     EXPECT_EQ(ExitCode(TestHandle(information.hProcess)), 0);
@@ -39,7 +40,7 @@ TEST_F(ShellExecuteTest, AProgramRunsWithItsParametersInItsFolder)
 TEST_F(ShellExecuteTest, AProcessHandleComesOnlyWhereItIsAskedFor)
 {
     const std::wstring program = ChildProgram();
-    SHELLEXECUTEINFOW information = Information(program, L"exit 0");
+    SHELLEXECUTEINFOW information = Information(program.c_str(), L"exit 0");
     information.fMask = 0;
     information.lpVerb = L"open";
     ASSERT_TRUE(ShellExecuteExW(&information));

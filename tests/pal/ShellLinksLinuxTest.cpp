@@ -68,6 +68,17 @@ TEST_F(ShellLinksLinuxTest, AnotherProgramReadsTheSameTexts)
         EXPECT_TRUE(lines.contains(expected)) << expected << "\n" << lines.join("\n").toStdString();
 }
 
+TEST_F(ShellLinksLinuxTest, EveryCharacterOfATargetIsKept)
+{
+    const std::wstring target = L"\\\u00e4\u0434\u6df1\U0001F3B5\\a.exe";
+    TestLink saved;
+    EXPECT_EQ(saved.Link().SetPath(target.c_str()), S_OK);
+    ASSERT_EQ(saved.Save(PathOf(L"a.lnk")), S_OK);
+    TestLink loaded;
+    ASSERT_EQ(loaded.Load(PathOf(L"a.lnk")), S_OK);
+    EXPECT_EQ(loaded.Path(), target);
+}
+
 TEST_F(ShellLinksLinuxTest, ALinkThatIsCutOffIsRefusedWhereverItEnds)
 {
     const QByteArray whole = SavedLink();

@@ -1,8 +1,11 @@
 // Child programs for tests of processes, on both systems.
 #pragma once
 
+#include <chrono>
 #include <fstream>
+#include <functional>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <QCoreApplication>
@@ -73,6 +76,15 @@ protected:
             return {GetLastError()};
         EXPECT_TRUE(CloseHandle(information.hThread));
         return {ERROR_SUCCESS, information.dwProcessId, TestHandle(information.hProcess)};
+    }
+
+    // Waits, but not for ever.
+    static bool Becomes(const std::function<bool()>& state)
+    {
+        const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(longEnough);
+        while (!state() && std::chrono::steady_clock::now() < end)
+            std::this_thread::yield();
+        return state();
     }
 
     // Waits for the end; the exit code, or -1 where it did not come.

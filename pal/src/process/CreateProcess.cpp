@@ -59,27 +59,39 @@ DWORD CheckStart(const STARTUPINFOW* info, DWORD creationFlags, BOOL inheritHand
     return givesStreams && !inheritHandles ? ERROR_NOT_SUPPORTED : ERROR_SUCCESS;
 }
 
-// Finds the file and says how it is started: a given name is the file's path, else the command line
-// begins with it.
-DWORD Plan(LPCWSTR applicationName, std::wstring_view commandLine, ProcessStart& start)
+// The file is given: the command line only holds the arguments, behind some first word.
+DWORD PlanNamed(LPCWSTR applicationName, std::wstring_view commandLine, ProcessStart& start)
+{
+    const std::wstring_view name = applicationName;
+    std::string program;
+    const DWORD error = NativePath(applicationName, program);
+    const std::vector<ProgramName> firstWords = PossiblePrograms(commandLine);
+    if (error != ERROR_SUCCESS || firstWords.empty())
+        return error == ERROR_SUCCESS ? DWORD{ERROR_INVALID_PARAMETER} : error;
+    const bool beginsWithName = commandLine.substr(0, name.size()) == name;
+    start = PlanStart(program, SplitCommandLine(commandLine, FirstWord::NamesProgram),
+        beginsWithName ? commandLine.substr(name.size()) : firstWords.front().rest);
+    return ERROR_SUCCESS;
+}
+
+// The command line begins with the file, which is the child's first word as a whole.
+DWORD PlanSearched(std::wstring_view commandLine, ProcessStart& start)
 {
     std::string program;
-    std::wstring_view rest;
-    DWORD error = ERROR_SUCCESS;
-    if (applicationName)
-    {
-        const std::wstring_view name = applicationName;
-        error = NativePath(applicationName, program);
-        rest = commandLine.substr(0, name.size()) == name ? commandLine.substr(name.size())
-                                                          : PossiblePrograms(commandLine)[0].rest;
-    }
-    else
-    {
-        error = FindProgramOf(commandLine, program, rest);
-    }
-    if (error == ERROR_SUCCESS)
-        start = PlanStart(program, SplitCommandLine(commandLine, FirstWord::NamesProgram), rest);
-    return error;
+    ProgramName found;
+    const DWORD error = FindProgramOf(commandLine, program, found);
+    if (error != ERROR_SUCCESS)
+        return error;
+    std::vector<std::wstring> words = SplitCommandLine(found.rest, FirstWord::IsArgument);
+    words.insert(words.begin(), std::wstring(found.name));
+    start = PlanStart(program, std::move(words), found.rest);
+    return ERROR_SUCCESS;
+}
+
+DWORD Plan(LPCWSTR applicationName, std::wstring_view commandLine, ProcessStart& start)
+{
+    return applicationName ? PlanNamed(applicationName, commandLine, start)
+                           : PlanSearched(commandLine, start);
 }
 
 DWORD AddFolder(LPCWSTR folder, ProcessStart& start)
@@ -103,11 +115,11 @@ PROCESS_INFORMATION HandOut(const std::shared_ptr<Process>& process)
 
 // Starts a program of this system, or a ".bat" with /bin/sh.
 // Keeps:   without an application name the command line begins with the program: quoted, or
-//          unquoted and then every blank may end it, the first name that exists counts. The
-//          child's arguments are cut from the command line by the Windows rules; cmd.exe gets the
-//          text behind its name uncut. Errors of the start are the caller's: a missing file, one
-//          that may not be started (ERROR_ACCESS_DENIED) or is no program (ERROR_BAD_EXE_FORMAT), a
-//          missing folder to start in (ERROR_DIRECTORY).
+//          unquoted and then every blank may end it, the first name that exists counts and
+//          becomes one word of the child's. The child's arguments are cut from the command line by
+//          the Windows rules; cmd.exe gets the text behind its name uncut. Errors of the start are
+//          the caller's: a missing file, one that may not be started (ERROR_ACCESS_DENIED) or is no
+//          program (ERROR_BAD_EXE_FORMAT), a missing folder to start in (ERROR_DIRECTORY).
 // Differs: a name without an extension is looked for as it is before ".exe" is added. With
 //          CREATE_NO_WINDOW the child has no standard streams unless it is given some, without it
 //          those of this process; it never gets other handles, and a null handle is no stream. A

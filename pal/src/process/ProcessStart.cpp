@@ -26,7 +26,6 @@ std::string Utf8(std::wstring_view text)
     return QString::fromStdU16String(Utf16FromWide(text)).toStdString();
 }
 
-// Of the file that a link leads to: the machine's cmd.exe is one.
 bool IsNamed(const fs::path& program, const char* name)
 {
     return QString::fromStdString(program.filename()).compare(name, Qt::CaseInsensitive) == 0;

@@ -15,7 +15,6 @@
 #include "../ErrorMapping.h"
 #include "../Machine.h"
 #include "../WideText.h"
-#include "CommandLine.h"
 
 namespace Pal
 {
@@ -78,12 +77,12 @@ DWORD FindProgram(std::wstring_view name, std::string& path)
                                                    : FindWithExtension(nativeName, path);
 }
 
-DWORD FindProgramOf(std::wstring_view commandLine, std::string& path, std::wstring_view& rest)
+DWORD FindProgramOf(std::wstring_view commandLine, std::string& path, ProgramName& found)
 {
     DWORD firstError = ERROR_SUCCESS;
     for (const ProgramName& possible : PossiblePrograms(commandLine))
     {
-        rest = possible.rest;
+        found = possible;
         const DWORD error = FindProgram(possible.name, path);
         if (error == ERROR_SUCCESS)
             return ERROR_SUCCESS;

@@ -6,6 +6,8 @@
 
 #include <windows.h>
 
+#include "CommandLine.h"
+
 namespace Pal
 {
 
@@ -14,8 +16,8 @@ namespace Pal
 // machine's system folder and then in those of $PATH. A folder is no program.
 DWORD FindProgram(std::wstring_view name, std::string& path);
 
-// The program at the start of a command line, the shortest name that is there; rest is the text
-// behind it. Where there is none the error is that of the shortest name.
-DWORD FindProgramOf(std::wstring_view commandLine, std::string& path, std::wstring_view& rest);
+// The program at the start of a command line: the shortest name that is there, and the text behind
+// it. Where there is none the error is that of the shortest name.
+DWORD FindProgramOf(std::wstring_view commandLine, std::string& path, ProgramName& found);
 
 } // namespace Pal

@@ -8,6 +8,7 @@
 #include <Pal.h>
 
 #include "../ErrorMapping.h"
+#include "../FileLock.h"
 #include "../Machine.h"
 
 namespace Pal
@@ -18,19 +19,9 @@ namespace
 
 namespace fs = std::filesystem;
 
-Descriptor OpenLockFile(const fs::path& machineRoot, int flags)
+fs::path LockPath(const fs::path& machineRoot)
 {
-    const fs::path path = RegistryFolder(machineRoot) / "lock";
-    return Descriptor(open(path.c_str(), O_RDONLY | O_CLOEXEC | flags, 0666));
-}
-
-DWORD LockFile(const Descriptor& lock, int operation)
-{
-    int result = 0;
-    do
-        result = flock(lock.Get(), operation);
-    while (result != 0 && errno == EINTR);
-    return result == 0 ? ERROR_SUCCESS : ErrorFromErrno(errno);
+    return RegistryFolder(machineRoot) / "lock";
 }
 
 DWORD RefreshOrSetAside(RegistryFile& file, const Descriptor& lock)
@@ -63,13 +54,13 @@ RegistryStore::RegistryStore(fs::path machineRoot)
 
 DWORD RegistryStore::OpenLock(Descriptor& lock) const
 {
-    lock = OpenLockFile(m_machineRoot, O_CREAT);
+    lock = OpenLockFile(LockPath(m_machineRoot), O_CREAT);
     if (!lock.IsOpen() && errno == ENOENT)
     {
         const std::error_code error = CreateMachine(m_machineRoot);
         if (error)
             return ErrorFromErrno(error.value());
-        lock = OpenLockFile(m_machineRoot, O_CREAT);
+        lock = OpenLockFile(LockPath(m_machineRoot), O_CREAT);
     }
     return lock.IsOpen() ? ERROR_SUCCESS : ErrorFromErrno(errno);
 }
@@ -88,7 +79,7 @@ DWORD RegistryStore::Enter(RegistryRoot root, Access access, Descriptor& lock)
 
 void RegistryStore::CompactAtExit()
 {
-    const Descriptor lock = OpenLockFile(m_machineRoot, 0);
+    const Descriptor lock = OpenLockFile(LockPath(m_machineRoot), 0);
     if (!lock.IsOpen() || LockFile(lock, LOCK_EX) != ERROR_SUCCESS)
         return; // the machine is gone, or the files stay as they are: longer, but right
     for (RegistryFile& file : m_files)
