@@ -1,9 +1,5 @@
 #include "support/ChildProcesses.h"
 
-#include <thread>
-
-#include <QDeadlineTimer>
-
 #include <algorithm>
 
 #include <psapi.h>
