@@ -1,5 +1,6 @@
 #include "platform/DownloadManager.h"
 
+#include "support/Environment.h"
 #include "support/Machine.h"
 #include "support/TestServers.h"
 
@@ -77,30 +78,15 @@ Download Fetch(
 }
 
 // Makes a folder the system's temporary folder for as long as it lives.
-class TemporaryFolder
+struct TemporaryFolder
 {
-public:
     explicit TemporaryFolder(const QString& folder)
+        : unixName("TMPDIR", folder), name("TMP", folder), otherName("TEMP", folder)
     {
-        for (const char* name : {"TMPDIR", "TMP", "TEMP"})
-        {
-            former += qgetenv(name);
-            qputenv(name, QDir::toNativeSeparators(folder).toUtf8());
-        }
     }
-    ~TemporaryFolder()
-    {
-        for (const char* name : {"TEMP", "TMP", "TMPDIR"})
-        {
-            const QByteArray value = former.takeLast();
-            value.isNull() ? qunsetenv(name) : qputenv(name, value);
-        }
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-private:
-    QList<QByteArray> former;
+    Environment unixName;
+    Environment name;
+    Environment otherName;
 };
 
 class DownloadManagerTest : public testing::Test
