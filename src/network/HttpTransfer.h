@@ -19,7 +19,7 @@ struct HttpRequest
     TransferPolicy policy{};
     // Gets the body piece by piece; false ends the transfer with NotWritable. Never sees what comes
     // with another status than 200. Must not throw.
-    std::function<bool(const char* data, std::size_t size)> receive;
+    std::function<bool(const char* data, std::size_t size)> receive{};
     // Hears after each piece how many bytes came, and how many the server declared (-1: unknown).
     // May be empty; must not throw.
     std::function<void(long long received, long long declared)> progress{};
