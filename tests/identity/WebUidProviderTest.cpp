@@ -88,7 +88,7 @@ TEST_F(WebUidProviderTest, WithoutTheServiceThereIsNone)
         EXPECT_EQ(Resolve(), std::make_pair(QString(), none)) << kind;
         EXPECT_EQ(Asked().size(), 1) << kind;
     }
-    for (const QString& address : {QString("off"), Address("closed"), Address("https")})
+    for (const QString& address : {QString("off"), Address("closed")})
     {
         const Environment elsewhere("VORLAN_WEBUID_URL", address);
         EXPECT_EQ(Resolve(), std::make_pair(QString(), none)) << address.toStdString();

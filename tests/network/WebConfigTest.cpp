@@ -74,7 +74,6 @@ TEST_F(WebConfigTest, EveryOtherEndHasItsCodeAndKeepsNothing)
     EXPECT_EQ(Ask("off"), ExitCode::SwitchedOff);
     EXPECT_EQ(Ask(Address("silent")), ExitCode::TimedOut);
     EXPECT_EQ(Ask(http + "stall"), ExitCode::TimedOut);
-    EXPECT_EQ(Ask(Address("https", "/echo")), ExitCode::NotTrusted);
     EXPECT_EQ(Ask(http + "nothing"), ExitCode::ServerRefused);
     EXPECT_EQ(Ask(http + "loop"), ExitCode::ServerRefused);
     EXPECT_EQ(Ask(http + "half"), ExitCode::Failed);
