@@ -1,6 +1,7 @@
 #include "SilentRun.h"
 
 #include "MediatorRun.h"
+#include "WebUserId.h"
 
 #include "installer/InstallerMediator.h"
 #include "installer/ProductProfile.h"
@@ -54,10 +55,6 @@ InstallationSettings ApplyOptions(InstallationSettings settings, const CommandLi
     {
         settings.locale = options.language;
     }
-    if (!options.webUid.isEmpty())
-    {
-        settings.userInfo.webUid = options.webUid;
-    }
     return settings;
 }
 
@@ -84,13 +81,14 @@ Outcome CheckFolder(const InstallationSettings& settings)
 
 Outcome InstallWith(InstallerMediator& mediator, const CommandLine& options, const EventSink& sink)
 {
-    const InstallationSettings settings = ApplyOptions(mediator.GetSettings(), options);
+    InstallationSettings settings = ApplyOptions(mediator.GetSettings(), options);
     const auto translator = InstallTranslation(settings.locale);
     const Outcome refusal = CheckFolder(settings);
     if (refusal.code != ExitCode::Done)
     {
         return refusal;
     }
+    settings.userInfo.webUid = FindWebUid(mediator, options);
     mediator.SetSettings(settings);
     mediator.OnLocaleChanged(settings.locale);
     return RunToTheEnd(mediator, &InstallerMediator::StartInstallation, sink);
