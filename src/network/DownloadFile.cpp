@@ -16,37 +16,42 @@ DownloadFile::DownloadFile(const QString& wantedName)
     const bool isAllowed = Platform::IsFileNameAllowed(wantedName) &&
                            Platform::IsFileNameAllowed(wantedName + ".part");
     path = QDir(folder).filePath(isAllowed ? wantedName : "download");
-    part.setFileName(path + ".part");
+    file.setFileName(path + ".part");
     if (!created.isValid())
     {
         code = TransferCode::NotWritable;
         error = QDir::tempPath() + ": " + created.errorString();
     }
     // Each piece is written at once: a full disk shows at the piece that it has no room for.
-    else if (!part.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+    else if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         Fail(0);
 }
 
 DownloadFile::~DownloadFile()
 {
-    if (isFinished)
+    if (isHandedOver)
         return;
-    part.close();
-    part.remove();
+    file.close();
+    file.remove();
     QDir().rmdir(folder);
 }
 
 bool DownloadFile::Write(const char* data, std::size_t size)
 {
     const auto length = static_cast<qint64>(size);
-    return IsGood() && (part.write(data, length) == length || Fail(size));
+    return IsGood() && (file.write(data, length) == length || Fail(size));
 }
 
 bool DownloadFile::Finish()
 {
-    part.close();
-    isFinished = IsGood() && part.rename(path);
-    return isFinished || Fail(0);
+    file.close();
+    return IsGood() && (file.rename(path) || Fail(0));
+}
+
+QString DownloadFile::HandOver()
+{
+    isHandedOver = true;
+    return path;
 }
 
 bool DownloadFile::Fail(std::size_t wanted)
@@ -56,8 +61,8 @@ bool DownloadFile::Fail(std::size_t wanted)
     const auto room = Util::GetAvailableDiskSpace(ioPath(folder.toStdString()));
     const bool isFull = room < static_cast<std::int64_t>(wanted);
     code = isFull ? TransferCode::DiskFull : TransferCode::NotWritable;
-    error = QDir::toNativeSeparators(part.fileName()) + ": " +
-            (isFull ? QString("the disk is full") : part.errorString());
+    error = QDir::toNativeSeparators(file.fileName()) + ": " +
+            (isFull ? QString("the disk is full") : file.errorString());
     return false;
 }
 

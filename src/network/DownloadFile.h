@@ -11,7 +11,7 @@ namespace Vorlan::Networking
 {
 
 // A file that is being downloaded, in a new folder of its own below the temporary folder: under its
-// name with ".part" behind it until it is finished. Without Finish nothing of it stays.
+// name with ".part" behind it until it is finished. Without HandOver nothing of it stays.
 class DownloadFile
 {
 public:
@@ -26,20 +26,22 @@ public:
     // Gives the file its name.
     bool Finish();
 
+    // Leaves the finished file to the caller; its path.
+    QString HandOver();
+
     bool IsGood() const { return code == TransferCode::Done; }
     TransferCode Code() const { return code; } // NotWritable or DiskFull once something failed
     QString ErrorText() const { return error; }
-    QString Path() const { return path; } // of the finished file
 
 private:
     bool Fail(std::size_t wanted);
 
     QString folder;
     QString path;
-    QFile part;
+    QFile file;
     TransferCode code = TransferCode::Done;
     QString error;
-    bool isFinished = false;
+    bool isHandedOver = false;
 };
 
 } // namespace Vorlan::Networking

@@ -62,33 +62,33 @@ void DownloadManager::Run(const QUrl& url, int number)
     try
     {
         outcome = Fetch(url, number);
+        if (checker && IsExplainedByConnection(outcome.code) && !checker->IsConnected())
+            outcome = {TransferCode::Offline, "this machine has no network connection"};
     }
     catch (const std::exception& error)
     {
-        outcome = {TransferCode::Failed, error.what(), {}};
+        outcome = {TransferCode::Failed, error.what()};
     }
-    if (checker && IsExplainedByConnection(outcome.code) && !checker->IsConnected())
-        outcome = {TransferCode::Offline, "this machine has no network connection", {}};
     const int code = static_cast<int>(outcome.code);
     if (outcome.code == TransferCode::Done)
         PostProgress(1.0, url, number);
     else
         qWarning().noquote().nospace() << "Download of " << url.toDisplayString() << " failed with "
                                        << code << ": " << outcome.text;
-    Post(number, [=] { emit DownloadComplete(code, url, outcome.path); });
+    const auto file = outcome.file;
+    Post(number, [=] { emit DownloadComplete(code, url, file ? file->HandOver() : QString()); });
 }
 
 DownloadManager::Outcome DownloadManager::Fetch(const QUrl& url, int number)
 {
     if (!Networking::IsAddressAllowed(url))
-        return {
-            TransferCode::AddressRefused, "not an http or https address, or with credentials", {}};
-    Networking::DownloadFile file(url.fileName(QUrl::FullyDecoded));
-    if (!file.IsGood())
-        return {file.Code(), file.ErrorText(), {}};
+        return {TransferCode::AddressRefused, "not an http or https address, or with credentials"};
+    const auto file = std::make_shared<Networking::DownloadFile>(url.fileName(QUrl::FullyDecoded));
+    if (!file->IsGood())
+        return {file->Code(), file->ErrorText()};
 
     Networking::HttpRequest request{url, policy,
-        [&file](const char* data, std::size_t size) { return file.Write(data, size); }};
+        [&file](const char* data, std::size_t size) { return file->Write(data, size); }};
     request.progress = [&, told = 0LL](long long received, long long declared) mutable
     {
         const long long step = declared > 0 ? received * progressSteps / declared : 0;
@@ -96,11 +96,11 @@ DownloadManager::Outcome DownloadManager::Fetch(const QUrl& url, int number)
             PostProgress(static_cast<double>(told = step) / progressSteps, url, number);
     };
     const Networking::HttpAnswer answer = Networking::Fetch(request, keepRunning);
-    if (answer.code == TransferCode::Done && file.Finish())
-        return {TransferCode::Done, {}, file.Path()};
-    if (!file.IsGood())
-        return {file.Code(), file.ErrorText(), {}};
-    return {answer.code, answer.text, {}};
+    if (answer.code == TransferCode::Done && file->Finish())
+        return {TransferCode::Done, {}, file};
+    if (!file->IsGood())
+        return {file->Code(), file->ErrorText()};
+    return {answer.code, answer.text};
 }
 
 void DownloadManager::PostProgress(double value, const QUrl& url, int number)

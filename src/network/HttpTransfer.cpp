@@ -137,7 +137,8 @@ private:
         easy->SetOption(CURLOPT_LOW_SPEED_LIMIT, policy.slowestRate);
         easy->SetOption(CURLOPT_LOW_SPEED_TIME, static_cast<long>(policy.slowLimit.count()));
         easy->SetOption(CURLOPT_TIMEOUT_MS, static_cast<long>(limit.count()));
-        // A system resolver that is stuck must not hold the end of a timed-out transfer up.
+        // A system resolver that is stuck must not hold the end of a timed-out transfer up: its
+        // thread is left alone, and ends when it has its answer.
         easy->SetOption(CURLOPT_QUICK_EXIT, 1L);
     }
 

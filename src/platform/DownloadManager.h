@@ -14,6 +14,11 @@
 namespace Vorlan
 {
 
+namespace Networking
+{
+class DownloadFile;
+}
+
 namespace App
 {
 
@@ -71,8 +76,8 @@ private:
     struct Outcome
     {
         Networking::TransferCode code;
-        QString text;
-        QString path;
+        QString text; // why it failed
+        std::shared_ptr<Networking::DownloadFile> file{};
     };
 
     void Stop();

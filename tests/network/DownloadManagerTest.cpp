@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QThread>
 
 #include <gtest/gtest.h>
@@ -237,6 +238,17 @@ TEST_F(DownloadManagerTest, EndsQuietlyInTheMiddleOfADownload)
     loop.exec();
     EXPECT_EQ(codes, QVector<int>({0}));
     manager.Download(Address(http, "/stall")); // and is destroyed meanwhile
+}
+
+TEST_F(DownloadManagerTest, FileThatNobodyIsToldOfGoes)
+{
+    {
+        Util::DownloadManager manager(nullptr, nullptr);
+        manager.Download(Address(http, "/text/whole.txt"));
+        while (ListTree(folder).filter(QRegularExpression("whole\\.txt$")).isEmpty())
+            std::this_thread::yield();
+    }
+    EXPECT_EQ(ListTree(folder), QStringList());
 }
 
 TEST_F(DownloadManagerTest, FolderThatTakesNoFileIsToldOf)
