@@ -7,15 +7,34 @@
 #include "installer/InstallerMediator.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
+#include <QTemporaryFile>
 #include <QTranslator>
 
 namespace Vorlan::FrontEnd
 {
+namespace
+{
+
+// The script that removes the folder at last is copied there.
+bool CanUseTemporaryFolder()
+{
+    return QTemporaryFile().open();
+}
+
+} // namespace
 
 Outcome UninstallFrom(const QString& folder, QSettings::Scope scope, const CommandLine& options,
     bool isUnattended, const EventSink& sink)
 {
+    if (options.removeAll && !CanUseTemporaryFolder())
+    {
+        return {ExitCode::Failed,
+            QString("The temporary folder %1 cannot be written: nothing was deleted. Without "
+                    "/REMOVEALL it is not needed.")
+                .arg(QDir::toNativeSeparators(QDir::tempPath()))};
+    }
     const QString programName = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
     InstallerMediator mediator({programName, false, isUnattended, scope, false});
     InstallationSettings settings = mediator.GetSettings();

@@ -254,6 +254,44 @@ TEST_F(UninstallTest, SettingsGoWhenThePersonWantsIt)
     EXPECT_TRUE(QDir(product).exists());
 }
 
+TEST_F(UninstallTest, WhatCannotGoStaysAndTheRestGoes)
+{
+    InstallCurrent();
+    const QString readOnly = product + "/read-only.txt";
+    WriteFile(readOnly, "text");
+    QFile::setPermissions(readOnly, QFile::ReadOwner);
+    QFile openFile(product + "/open.txt");
+    QFile openLog(Platform::LogFolder() + "/open.log");
+    QDir().mkpath(Platform::LogFolder());
+    ASSERT_TRUE(openFile.open(QIODevice::WriteOnly) && openLog.open(QIODevice::WriteOnly));
+
+    const auto result = Uninstall({"/DELETESETTINGS", "/LOG=" + machine.Path("run.log")});
+    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
+    const bool stay = QSysInfo::kernelType() == "winnt";
+    EXPECT_EQ(openFile.exists(), stay);
+    EXPECT_EQ(openLog.exists(), stay);
+    EXPECT_EQ(QFile::exists(readOnly), stay);
+    EXPECT_EQ(ReadFile(machine.Path("run.log")).contains("Failed to remove logs "), stay);
+    EXPECT_FALSE(QFile::exists(product + "/quill.exe"));
+    EXPECT_EQ(Records(), QStringList());
+}
+
+TEST_F(UninstallTest, WithoutTemporaryFolderNothingIsHalfDoneUnsaid)
+{
+    InstallCurrent();
+    ASSERT_TRUE(QDir(setup.TemporaryFolder()).removeRecursively());
+    WriteFile(setup.TemporaryFolder(), "no folder");
+    for (const QStringList& log : {QStringList(), QStringList("/LOG=" + machine.Path("run.log"))})
+    {
+        const auto result = Uninstall(log + QStringList("/REMOVEALL"));
+        EXPECT_EQ(result.exitCode, SetupRun::ShownExitCode(1603));
+        EXPECT_EQ(result.errors.count('\n'), 1) << result.errors.toStdString();
+        EXPECT_EQ(Files(), installedFiles);
+    }
+    EXPECT_EQ(Uninstall({"/LOG=" + machine.Path("run.log")}).exitCode, 0);
+    EXPECT_EQ(ListTree(product), LeftFiles());
+}
+
 TEST_F(UninstallTest, FullRemovalTakesTheFolderAndNothingBehindItsLinks)
 {
     InstallCurrent();
