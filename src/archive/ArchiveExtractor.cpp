@@ -3,6 +3,7 @@
 #include "archive/EntryName.h"
 #include "archive/SevenZip.h"
 #include "installer/ExtractSettings.h"
+#include "platform/Path.h"
 
 #include <algorithm>
 #include <array>
@@ -40,8 +41,8 @@ public:
     explicit OutputFile(const std::wstring& path)
     {
         File_Construct(&file);
-        ThrowUnless(
-            OutFile_OpenW(&file, path.c_str()) == 0, "Cannot open destination file for write");
+        ThrowUnless(OutFile_OpenW(&file, Platform::PathForCall(path).c_str()) == 0,
+            "Cannot open destination file for write");
     }
     ~OutputFile() { File_Close(&file); }
     OutputFile(const OutputFile&) = delete;
@@ -71,7 +72,7 @@ void CreateFolders(const std::wstring& destination, std::wstring name)
 {
     for (auto slash = name.find(L'/'); slash != std::wstring::npos; slash = name.find(L'/', slash))
     {
-        const std::wstring folder = destination + name.substr(0, slash);
+        const std::wstring folder = Platform::PathForCall(destination + name.substr(0, slash));
         ThrowUnless(IsFolder(folder) || CreateDirectoryW(folder.c_str(), nullptr),
             "Failed to create directory");
         name[slash] = L'\\';
@@ -120,7 +121,8 @@ struct ArchiveExtractor::State
 
 void ArchiveExtractor::State::Open(const std::wstring& archivePath)
 {
-    ThrowUnless(InFile_OpenW(&stream.file, archivePath.c_str()) == 0, "Failed to open input file");
+    ThrowUnless(InFile_OpenW(&stream.file, Platform::PathForCall(archivePath).c_str()) == 0,
+        "Failed to open input file");
 
     FileInStream_CreateVTable(&stream);
     LookToRead2_CreateVTable(&look, False);

@@ -77,6 +77,11 @@ std::wstring WideFromText(const QString& text);
 // written with backslashes can then be handed to Qt.
 QString ToNativePath(QString path);
 
+// An absolute path in the form in which a call of the system takes it at any length: on Windows a
+// path of 248 characters or more (the limit of CreateDirectoryW) gets the prefix "\\?\", whatever
+// the machine's policy for long paths is.
+std::wstring PathForCall(std::wstring path);
+
 // What the free space is asked of: "C:\" on Windows, the path itself where volumes have no letters.
 QString DriveRoot(const QString& path);
 

@@ -8,6 +8,11 @@ QString ToNativePath(QString path)
     return path.replace('\\', '/');
 }
 
+std::wstring PathForCall(std::wstring path)
+{
+    return path;
+}
+
 QString DriveRoot(const QString& path)
 {
     return path;
