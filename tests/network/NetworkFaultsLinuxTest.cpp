@@ -85,10 +85,10 @@ extern "C"
     CURLMcode curl_multi_poll(
         CURLM* multi, curl_waitfd* extra, unsigned count, int timeout, int* ready)
     {
+        if (failing != "curl_multi_poll") // libcurl calls it too
+            return Real(&curl_multi_poll, "curl_multi_poll")(multi, extra, count, timeout, ready);
         EXPECT_EQ(timeout, 100);
-        return failing == "curl_multi_poll"
-                   ? CURLM_OUT_OF_MEMORY
-                   : Real(&curl_multi_poll, "curl_multi_poll")(multi, extra, count, timeout, ready);
+        return CURLM_OUT_OF_MEMORY;
     }
 
     int getaddrinfo(const char* node, const char* service, const addrinfo* hints, addrinfo** found)
