@@ -114,8 +114,8 @@ private:
                 .toStdString();
         easy->SetOption(CURLOPT_URL, address.constData());
         easy->SetOption(CURLOPT_PROTOCOLS_STR, "http,https");
-        easy->SetOption(
-            CURLOPT_PROXY, proxy.c_str()); // an empty one is none, also in the environment
+        // An empty one is none: libcurl does not look into the environment by itself then.
+        easy->SetOption(CURLOPT_PROXY, proxy.c_str());
         easy->SetOption(CURLOPT_USERAGENT, agent.c_str());
         easy->SetOption(CURLOPT_SSL_VERIFYPEER, 1L);
         easy->SetOption(CURLOPT_SSL_VERIFYHOST, 2L);
