@@ -25,6 +25,7 @@ bool operator!=(REFGUID first, REFGUID second);
 #define CLSCTX_INPROC_HANDLER 0x2
 #define CLSCTX_LOCAL_SERVER 0x4
 #define CLSCTX_REMOTE_SERVER 0x10
+#define CLSCTX_INPROC (CLSCTX_INPROC_SERVER | CLSCTX_INPROC_HANDLER)
 #define CLSCTX_ALL                                                                                 \
     (CLSCTX_INPROC_SERVER | CLSCTX_INPROC_HANDLER | CLSCTX_LOCAL_SERVER | CLSCTX_REMOTE_SERVER)
 
@@ -73,6 +74,7 @@ extern "C"
     HRESULT WINAPI CoCreateInstance(
         REFCLSID classId, IUnknown* outer, DWORD context, REFIID iid, LPVOID* object);
     void WINAPI CoTaskMemFree(LPVOID memory);
+    HRESULT WINAPI CoAllowSetForegroundWindow(IUnknown* object, LPVOID reserved);
 }
 
 #endif

@@ -8,6 +8,7 @@
 #include <Pal.h>
 #include <shlobj.h>
 
+#include "DefaultApps.h"
 #include "ShellLink.h"
 
 namespace Pal
@@ -60,6 +61,10 @@ std::optional<ClassFactory> FindClass(REFCLSID classId)
         return (*found)->factory;
     if (classId == CLSID_ShellLink)
         return ClassFactory(MakeShellLink);
+    if (classId == activationManagerClass)
+        return ClassFactory(MakeActivationManager);
+    if (classId == associationRegistrationClass)
+        return ClassFactory(MakeAssociationRegistration);
     return std::nullopt;
 }
 

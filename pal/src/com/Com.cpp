@@ -35,8 +35,9 @@ void CoUninitialize()
 
 // Keeps:   CO_E_NOTINITIALIZED on a thread without COM, REGDB_E_CLASSNOTREG for an unknown class,
 //          E_NOINTERFACE; a failure gives a null pointer.
-// Differs: the classes are the shell link and those that tests register; every one of them runs in
-//          the process, so the context only has to ask for that among others.
+// Differs: the classes are the shell link, those of default applications, and those that tests
+//          register; every one of them runs in the process, so the context only has to ask for that
+//          among others.
 // Refuses: aggregation.
 HRESULT CoCreateInstance(
     REFCLSID classId, IUnknown* outer, DWORD context, REFIID iid, LPVOID* object)
@@ -63,4 +64,14 @@ HRESULT CoCreateInstance(
 void CoTaskMemFree(LPVOID memory)
 {
     std::free(memory);
+}
+
+// Keeps:   the arguments that it refuses.
+// Differs: there are no windows, so nothing changes.
+// Refuses: no object, and a reserved argument.
+HRESULT CoAllowSetForegroundWindow(IUnknown* object, LPVOID reserved)
+{
+    if (const auto fault = Pal::InjectedResult(__func__))
+        return *fault;
+    return object && !reserved ? S_OK : E_INVALIDARG;
 }

@@ -1,0 +1,109 @@
+// The part of the UI Automation interfaces that is used here, in the order of their published
+// tables of methods (Windows SDK, UIAutomationClient.h). Methods that nobody calls stand for their
+// places only: their names and arguments are left out.
+#pragma once
+
+#include <objbase.h>
+#include <oleauto.h>
+
+namespace Vorlan::UiAutomation
+{
+
+inline constexpr CLSID classCUIAutomation = {
+    0xFF48DBA4, 0x60EF, 0x4201, {0xAA, 0x87, 0x54, 0x10, 0x3E, 0xEF, 0x59, 0x4E}};
+inline constexpr IID idIUIAutomation = {
+    0x30CBE57D, 0xD9D0, 0x452A, {0xAB, 0x13, 0x7A, 0xC5, 0xAC, 0x48, 0x25, 0xEE}};
+inline constexpr IID idIUIAutomationFocusChangedEventHandler = {
+    0xC270F6B5, 0x5C69, 0x4290, {0x97, 0x45, 0x7A, 0x7F, 0x97, 0x16, 0x94, 0x68}};
+inline constexpr IID idIUIAutomationInvokePattern = {
+    0xFB377FBE, 0x8EA6, 0x46D5, {0x9C, 0x73, 0x64, 0x99, 0x64, 0x2D, 0x30, 0x59}};
+
+constexpr int automationIdProperty = 30011; // UIA_AutomationIdPropertyId
+constexpr int invokePattern = 10000;        // UIA_InvokePatternId
+
+struct IUIAutomationInvokePattern : IUnknown
+{
+    virtual HRESULT WINAPI Invoke() = 0;
+
+protected:
+    ~IUIAutomationInvokePattern() = default;
+};
+
+struct IUIAutomationElement : IUnknown
+{
+    virtual HRESULT WINAPI Unused3() = 0;
+    virtual HRESULT WINAPI Unused4() = 0;
+    virtual HRESULT WINAPI Unused5() = 0;
+    virtual HRESULT WINAPI Unused6() = 0;
+    virtual HRESULT WINAPI Unused7() = 0;
+    virtual HRESULT WINAPI Unused8() = 0;
+    virtual HRESULT WINAPI Unused9() = 0;
+    virtual HRESULT WINAPI Unused10() = 0;
+    virtual HRESULT WINAPI GetCurrentPropertyValueEx(
+        int property, BOOL ignoreDefaultValue, VARIANT* value) = 0;
+    virtual HRESULT WINAPI Unused12() = 0;
+    virtual HRESULT WINAPI Unused13() = 0;
+    virtual HRESULT WINAPI GetCurrentPatternAs(int pattern, REFIID iid, void** object) = 0;
+
+protected:
+    ~IUIAutomationElement() = default;
+};
+
+struct IUIAutomationFocusChangedEventHandler : IUnknown
+{
+    virtual HRESULT WINAPI HandleFocusChangedEvent(IUIAutomationElement* element) = 0;
+
+protected:
+    ~IUIAutomationFocusChangedEventHandler() = default;
+};
+
+struct IUIAutomationCacheRequest;
+
+struct IUIAutomation : IUnknown
+{
+    virtual HRESULT WINAPI Unused3() = 0;
+    virtual HRESULT WINAPI Unused4() = 0;
+    virtual HRESULT WINAPI Unused5() = 0;
+    virtual HRESULT WINAPI Unused6() = 0;
+    virtual HRESULT WINAPI Unused7() = 0;
+    virtual HRESULT WINAPI Unused8() = 0;
+    virtual HRESULT WINAPI Unused9() = 0;
+    virtual HRESULT WINAPI Unused10() = 0;
+    virtual HRESULT WINAPI Unused11() = 0;
+    virtual HRESULT WINAPI Unused12() = 0;
+    virtual HRESULT WINAPI Unused13() = 0;
+    virtual HRESULT WINAPI Unused14() = 0;
+    virtual HRESULT WINAPI Unused15() = 0;
+    virtual HRESULT WINAPI Unused16() = 0;
+    virtual HRESULT WINAPI Unused17() = 0;
+    virtual HRESULT WINAPI Unused18() = 0;
+    virtual HRESULT WINAPI Unused19() = 0;
+    virtual HRESULT WINAPI Unused20() = 0;
+    virtual HRESULT WINAPI Unused21() = 0;
+    virtual HRESULT WINAPI Unused22() = 0;
+    virtual HRESULT WINAPI Unused23() = 0;
+    virtual HRESULT WINAPI Unused24() = 0;
+    virtual HRESULT WINAPI Unused25() = 0;
+    virtual HRESULT WINAPI Unused26() = 0;
+    virtual HRESULT WINAPI Unused27() = 0;
+    virtual HRESULT WINAPI Unused28() = 0;
+    virtual HRESULT WINAPI Unused29() = 0;
+    virtual HRESULT WINAPI Unused30() = 0;
+    virtual HRESULT WINAPI Unused31() = 0;
+    virtual HRESULT WINAPI Unused32() = 0;
+    virtual HRESULT WINAPI Unused33() = 0;
+    virtual HRESULT WINAPI Unused34() = 0;
+    virtual HRESULT WINAPI Unused35() = 0;
+    virtual HRESULT WINAPI Unused36() = 0;
+    virtual HRESULT WINAPI Unused37() = 0;
+    virtual HRESULT WINAPI Unused38() = 0;
+    virtual HRESULT WINAPI AddFocusChangedEventHandler(
+        IUIAutomationCacheRequest* request, IUIAutomationFocusChangedEventHandler* handler) = 0;
+    virtual HRESULT WINAPI RemoveFocusChangedEventHandler(
+        IUIAutomationFocusChangedEventHandler* handler) = 0;
+
+protected:
+    ~IUIAutomation() = default;
+};
+
+} // namespace Vorlan::UiAutomation
