@@ -13,18 +13,23 @@
 namespace Vorlan::FrontEnd
 {
 
-Outcome UninstallFrom(const QString& folder, QSettings::Scope scope, const CommandLine& options,
-    bool isUnattended, const EventSink& sink)
+std::unique_ptr<InstallerMediator> MakeUninstaller(
+    QSettings::Scope scope, const CommandLine& options, bool isUnattended)
 {
     const QString programName = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
-    InstallerMediator mediator({programName, false, isUnattended, scope, false});
-    InstallationSettings settings = mediator.GetSettings();
+    auto mediator = std::make_unique<InstallerMediator>(
+        InstallerMediator::Initializer{programName, false, isUnattended, scope, false});
+    InstallationSettings settings = mediator->GetSettings();
     settings.removeAllOnUninstall = options.removeAll;
     settings.locale = options.language.isEmpty() ? settings.locale : options.language;
-    mediator.SetSettings(settings);
-    mediator.OnDeleteUserSettings(options.deleteSettings);
-    const auto translator = InstallTranslation(settings.locale);
+    mediator->SetSettings(settings);
+    return mediator;
+}
 
+Outcome UninstallWith(InstallerMediator& mediator, const QString& folder,
+    const CommandLine& options, const EventSink& sink)
+{
+    mediator.OnDeleteUserSettings(options.deleteSettings);
     const RemovalMark mark(folder);
     const Outcome outcome = RunToTheEnd(mediator, &InstallerMediator::StartUninstall, sink);
     if (outcome.code != ExitCode::Failed)
@@ -46,7 +51,9 @@ Outcome UninstallSilently(const CommandLine& options, const EventSink& sink)
     {
         return {ExitCode::Failed, MachineRightsMissing()};
     }
-    return UninstallFrom(folder, own.scope, options, true, sink);
+    const auto mediator = MakeUninstaller(own.scope, options, true);
+    const auto translator = InstallTranslation(mediator->GetSettings().locale);
+    return UninstallWith(*mediator, folder, options, sink);
 }
 
 } // namespace Vorlan::FrontEnd

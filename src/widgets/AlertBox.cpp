@@ -96,6 +96,7 @@ QLayout* AlertBox::Form::MakeTitleRow(QFrame* frame)
     row->addItem(Space({40, 20}, QSizePolicy::Expanding, QSizePolicy::Minimum));
     closeDialog = new QPushButton(frame);
     closeDialog->setObjectName("closeDialog");
+    closeDialog->setAccessibleName(AlertBox::tr("Close"));
     row->addWidget(closeDialog);
     return row;
 }
@@ -134,6 +135,7 @@ AlertBox::AlertBox(const QString& text, QWidget* parent,
     if (QPushButton* retry = form->buttonBox->button(QDialogButtonBox::Retry))
         retry->setText(tr("Retry"));
     NameButtons();
+    ChooseDefault();
     connect(form->closeDialog, &QPushButton::clicked, this, &QDialog::close);
     adjustSize();
 }
@@ -159,6 +161,19 @@ void AlertBox::NameButtons()
         button->style()->unpolish(button);
         button->style()->polish(button);
     }
+}
+
+// Enter answers a question with No, and presses the first button of any other box; without this it
+// would close the box.
+void AlertBox::ChooseDefault()
+{
+    QPushButton* chosen = form->buttonBox->button(QDialogButtonBox::No);
+    for (const auto kind : {QDialogButtonBox::Ok, QDialogButtonBox::Retry})
+        chosen = chosen == nullptr ? form->buttonBox->button(kind) : chosen;
+    if (chosen == nullptr)
+        return;
+    chosen->setDefault(true);
+    chosen->setFocus();
 }
 
 int AlertBox::exec()

@@ -40,6 +40,7 @@ private:
     struct Form;
 
     void NameButtons();
+    void ChooseDefault();
 
     std::unique_ptr<Form> form;
     QPixmap icon;

@@ -119,6 +119,8 @@ const Variant variants[] = {
         QDialogButtonBox::Yes},
     {"No", Question, "confirmationButton rejectButton", "rejectButton", {}, QDialogButtonBox::No},
     {"Closed", Question, "confirmationButton rejectButton", "closeDialog", {}, 0},
+    {"NoByKey", Question, "confirmationButton rejectButton", nullptr, Qt::Key_Return,
+        QDialogButtonBox::No},
     {"ClosedByKey", Question, "confirmationButton rejectButton", nullptr, Qt::Key_Escape, 0},
 };
 INSTANTIATE_TEST_SUITE_P(Boxes, AlertBoxVariants, testing::ValuesIn(variants),
