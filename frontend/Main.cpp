@@ -134,6 +134,7 @@ int Finish(const Outcome& outcome, const CommandLine& options)
 
 int main(int argc, char** argv)
 {
+    ConnectToConsole();
     const Invocation invocation = ReadInvocation(argc, argv);
     const ParsedCommandLine parsed =
         ParseCommandLine(DropProgramPath(invocation.words, invocation.programPath));

@@ -71,6 +71,7 @@ void ExpectHasName(QWidget& widget)
 void CheckWindow(QWidget& window)
 {
     QApplication::processEvents();
+    EXPECT_LE(window.width(), 670);
     QStringList mnemonics;
     for (auto* widget : window.findChildren<QWidget*>())
     {

@@ -375,5 +375,9 @@
         <source>Retry</source>
         <translation>Wiederholen</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 </TS>

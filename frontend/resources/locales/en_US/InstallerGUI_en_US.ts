@@ -375,5 +375,9 @@
         <source>Retry</source>
         <translation>Retry</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
 </context>
 </TS>

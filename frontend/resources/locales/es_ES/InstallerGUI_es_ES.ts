@@ -204,7 +204,7 @@
     </message>
     <message>
         <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
-        <translation>Ofrecer «Convertir a» y «Abrir con» en el menú &amp;contextual de los archivos multimedia</translation>
+        <translation>Ofrecer «Convertir a» y «Abrir con» en el menú &amp;contextual de Windows</translation>
     </message>
     <message>
         <source>Start automatically when I &amp;log on</source>
@@ -374,6 +374,10 @@
     <message>
         <source>Retry</source>
         <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
     </message>
 </context>
 </TS>

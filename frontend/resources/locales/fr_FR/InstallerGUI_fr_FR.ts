@@ -375,5 +375,9 @@
         <source>Retry</source>
         <translation>Réessayer</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
 </context>
 </TS>

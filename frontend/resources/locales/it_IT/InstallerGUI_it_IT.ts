@@ -375,5 +375,9 @@
         <source>Retry</source>
         <translation>Riprova</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
 </context>
 </TS>

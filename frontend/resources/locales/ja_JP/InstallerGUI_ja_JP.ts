@@ -204,7 +204,7 @@
     </message>
     <message>
         <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
-        <translation>メディアファイルの右クリックメニューに「変換」と「プログラムから開く」を表示する(&amp;C)</translation>
+        <translation>右クリックメニューに「変換」と「プログラムから開く」を表示する(&amp;C)</translation>
     </message>
     <message>
         <source>Start automatically when I &amp;log on</source>
@@ -374,6 +374,10 @@
     <message>
         <source>Retry</source>
         <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
     </message>
 </context>
 </TS>

@@ -375,5 +375,9 @@
         <source>Retry</source>
         <translation>다시 시도</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
 </context>
 </TS>

@@ -204,7 +204,7 @@
     </message>
     <message>
         <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
-        <translation>&apos;Converteren naar&apos; en &apos;Openen met&apos; in het &amp;contextmenu van mediabestanden tonen</translation>
+        <translation>&apos;Converteren naar&apos; en &apos;Openen met&apos; in het &amp;contextmenu tonen</translation>
     </message>
     <message>
         <source>Start automatically when I &amp;log on</source>
@@ -374,6 +374,10 @@
     <message>
         <source>Retry</source>
         <translation>Opnieuw</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
     </message>
 </context>
 </TS>

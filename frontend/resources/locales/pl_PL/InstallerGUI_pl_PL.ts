@@ -204,7 +204,7 @@
     </message>
     <message>
         <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
-        <translation>Pokaż „Konwertuj na” i „Otwórz za pomocą” w menu &amp;kontekstowym plików multimedialnych</translation>
+        <translation>Pokaż „Konwertuj na” i „Otwórz za pomocą” w menu &amp;kontekstowym</translation>
     </message>
     <message>
         <source>Start automatically when I &amp;log on</source>
@@ -374,6 +374,10 @@
     <message>
         <source>Retry</source>
         <translation>Ponów</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
     </message>
 </context>
 </TS>

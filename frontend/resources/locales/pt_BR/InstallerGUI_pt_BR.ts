@@ -375,5 +375,9 @@
         <source>Retry</source>
         <translation>Repetir</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
 </context>
 </TS>

@@ -204,7 +204,7 @@
     </message>
     <message>
         <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
-        <translation>Пункты «Конвертировать в» и «Открыть с помощью» в &amp;контекстном меню файлов</translation>
+        <translation>«Конвертировать в» и «Открыть с помощью» в &amp;контекстном меню</translation>
     </message>
     <message>
         <source>Start automatically when I &amp;log on</source>
@@ -374,6 +374,10 @@
     <message>
         <source>Retry</source>
         <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
     </message>
 </context>
 </TS>

@@ -375,5 +375,9 @@
         <source>Retry</source>
         <translation>Yeniden dene</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
 </context>
 </TS>

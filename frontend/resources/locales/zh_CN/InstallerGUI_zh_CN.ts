@@ -375,5 +375,9 @@
         <source>Retry</source>
         <translation>重试</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
 </context>
 </TS>

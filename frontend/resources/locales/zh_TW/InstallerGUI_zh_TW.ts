@@ -375,5 +375,9 @@
         <source>Retry</source>
         <translation>重試</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
 </context>
 </TS>
