@@ -44,10 +44,6 @@ InstallationSettings ApplyOptions(InstallationSettings settings, const CommandLi
     {
         settings.locale = options.language;
     }
-    if (!options.webUid.isEmpty())
-    {
-        settings.userInfo.webUid = options.webUid;
-    }
     return settings;
 }
 

@@ -2,6 +2,7 @@
 
 #include "InstallOptions.h"
 #include "MediatorRun.h"
+#include "WebUserId.h"
 
 #include "installer/InstallerMediator.h"
 
@@ -54,13 +55,14 @@ Outcome CheckFolder(const InstallationSettings& settings)
 
 Outcome InstallWith(InstallerMediator& mediator, const CommandLine& options, const EventSink& sink)
 {
-    const InstallationSettings settings = ApplyOptions(mediator.GetSettings(), options);
+    InstallationSettings settings = ApplyOptions(mediator.GetSettings(), options);
     const auto translator = InstallTranslation(settings.locale);
     const Outcome refusal = CheckFolder(settings);
     if (refusal.code != ExitCode::Done)
     {
         return refusal;
     }
+    settings.userInfo.webUid = FindWebUid(mediator, options);
     mediator.SetSettings(settings);
     mediator.OnLocaleChanged(settings.locale);
     return RunToTheEnd(mediator, &InstallerMediator::StartInstallation, sink);

@@ -7,11 +7,23 @@
 #include "installer/InstallerMediator.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
+#include <QTemporaryFile>
 #include <QTranslator>
 
 namespace Vorlan::FrontEnd
 {
+namespace
+{
+
+// The script that removes the folder at last is copied there.
+bool CanUseTemporaryFolder()
+{
+    return QTemporaryFile().open();
+}
+
+} // namespace
 
 std::unique_ptr<InstallerMediator> MakeUninstaller(
     QSettings::Scope scope, const CommandLine& options, bool isUnattended)
@@ -29,6 +41,13 @@ std::unique_ptr<InstallerMediator> MakeUninstaller(
 Outcome UninstallWith(InstallerMediator& mediator, const QString& folder,
     const CommandLine& options, const EventSink& sink)
 {
+    if (options.removeAll && !CanUseTemporaryFolder())
+    {
+        return {ExitCode::Failed,
+            QString("The temporary folder %1 cannot be written: nothing was deleted. Without "
+                    "/REMOVEALL it is not needed.")
+                .arg(QDir::toNativeSeparators(QDir::tempPath()))};
+    }
     mediator.OnDeleteUserSettings(options.deleteSettings);
     const RemovalMark mark(folder);
     const Outcome outcome = RunToTheEnd(mediator, &InstallerMediator::StartUninstall, sink);

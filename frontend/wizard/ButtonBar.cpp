@@ -55,6 +55,7 @@ void ButtonBar::SetLabels(const Labels& labels)
     SetLabel(back, labels.back);
     SetLabel(cancel, labels.cancel);
     SetForwardLabel(labels.forward);
+    setHidden(labels.back.isEmpty() && labels.cancel.isEmpty() && labels.forward.isEmpty());
 }
 
 // A push button does not count what lies in its layout.

@@ -3,6 +3,7 @@
 #include "InstallOptions.h"
 #include "MachineAccess.h"
 #include "MediatorRun.h"
+#include "WebUserId.h"
 #include "installer/InstallerMediator.h"
 #include "installer/ProductProfile.h"
 #include "widgets/AlertBox.h"
@@ -14,7 +15,10 @@
 #include "wizard/Texts.h"
 #include "wizard/WelcomePage.h"
 
+#include <QDebug>
 #include <QDir>
+#include <QFutureWatcher>
+#include <QtConcurrent>
 
 namespace Vorlan::FrontEnd
 {
@@ -182,6 +186,7 @@ bool InstallWizard::FindArchive()
 void InstallWizard::RelaunchWithRights()
 {
     InstallationSettings chosen;
+    chosen.userInfo.webUid = options.webUid;
     welcome->Apply(chosen);
     destination->Apply(chosen);
     optionsPage->Apply(chosen);
@@ -205,13 +210,37 @@ InstallationSettings InstallWizard::ChosenSettings()
     return settings;
 }
 
+// The identity service may take a while; the window stays alive meanwhile.
+QString InstallWizard::AskForWebUid() const
+{
+    const auto ask = [this]() -> QString
+    {
+        try
+        {
+            return FindWebUid(*mediator, options);
+        }
+        catch (const std::exception& error)
+        {
+            qWarning() << "No web user id: " << error.what();
+            return {};
+        }
+    };
+    QFutureWatcher<QString> answer;
+    QEventLoop waiting;
+    QObject::connect(&answer, &QFutureWatcher<QString>::finished, &waiting, &QEventLoop::quit);
+    answer.setFuture(QtConcurrent::run(ask));
+    waiting.exec();
+    return answer.result();
+}
+
 void InstallWizard::RunInstallation()
 {
-    const InstallationSettings settings = ChosenSettings();
-    mediator->SetSettings(settings);
-    mediator->OnLocaleChanged(settings.locale);
+    InstallationSettings settings = ChosenSettings();
     progress->Clear();
     GoTo(Step::Running);
+    settings.userInfo.webUid = AskForWebUid();
+    mediator->SetSettings(settings);
+    mediator->OnLocaleChanged(settings.locale);
     ShowResult(RunToTheEnd(*mediator, &InstallerMediator::StartInstallation,
         [this](const RunEvent& event)
         {

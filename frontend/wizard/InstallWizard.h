@@ -53,6 +53,7 @@ private:
     bool FindArchive();
     void RelaunchWithRights();
     InstallationSettings ChosenSettings();
+    QString AskForWebUid() const;
     void RunInstallation();
     void ShowResult(const Outcome& result);
     void Finish();

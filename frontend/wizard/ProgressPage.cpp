@@ -42,6 +42,7 @@ ProgressPage::ProgressPage(const QStringList& pictureLayers, const char* english
     Body()->addWidget(detailsButton, 0, Qt::AlignLeft);
     details->setObjectName("details");
     details->setTextElideMode(Qt::ElideMiddle);
+    details->setUniformItemSizes(true); // there may be a line for each of many files
     details->hide();
     Body()->addWidget(details, 1);
     Body()->addStretch();
@@ -67,6 +68,7 @@ void ProgressPage::ShowDetails(bool isWanted)
 {
     detailsButton->setText(isWanted ? WizardText("Hide &details") : WizardText("Show &details"));
     details->setVisible(isWanted);
+    details->scrollToBottom();
 }
 
 void ProgressPage::Clear()
@@ -85,8 +87,7 @@ void ProgressPage::Show(const RunEvent& event)
     else if (event.signal == "CopyFileError")
     {
         copyErrors << values["fileName"].toString() + ": " + values["reason"].toString();
-        details->addItem(copyErrors.last());
-        details->scrollToBottom();
+        AddDetail(copyErrors.last());
     }
     else if (event.signal == "InstallationProgress")
     {
@@ -103,8 +104,14 @@ void ProgressPage::ShowStep(const QString& text)
     if (details->count() > 0 && details->item(details->count() - 1)->text() == text)
         return;
     step->setText(text);
+    AddDetail(text);
+}
+
+void ProgressPage::AddDetail(const QString& text)
+{
     details->addItem(text);
-    details->scrollToBottom();
+    if (details->isVisible())
+        details->scrollToBottom();
 }
 
 void ProgressPage::ShowPosition(double position)

@@ -30,6 +30,7 @@ public:
 private:
     void ShowDetails(bool isWanted);
     void ShowStep(const QString& text);
+    void AddDetail(const QString& text);
     void ShowPosition(double position);
 
     const char* headingText; // in English

@@ -3,6 +3,7 @@
 #include "archive/ArchiveExtractor.h"
 #include "checks/StubAccelerationChecker.h"
 #include "installer/ProcessTermination.h"
+#include "network/QtDownloader.h"
 #include "network/WebConfigRequest.h"
 #include "platform/Exception.h"
 #include "platform/Timer.h"
@@ -205,7 +206,16 @@ void InstallerMediator::StoreCapabilityResults(
     }
 }
 
-void InstallerMediator::DownloadAdditionalData(double, double) {}
+void InstallerMediator::DownloadAdditionalData(double start, double range)
+{
+    const auto downloader = std::make_unique<Installer::QtDownloader>();
+    connect(
+        downloader.get(), &Installer::AbstractDownloader::Progress, this,
+        [this](double percentage)
+        { emit InstallationProgress(percentage, tr("Downloading additional data..."), QString()); },
+        Qt::DirectConnection);
+    downloader->DownloadFiles(profile.additionalData, settings.locale.toStdString(), start, range);
+}
 
 void InstallerMediator::ReportFailure()
 {

@@ -49,8 +49,6 @@ void WaitForEnd(const PROCESS_INFORMATION& started)
     if (WaitForSingleObject(process.Get(), INFINITE) != WAIT_OBJECT_0)
         throw std::runtime_error("Waiting for the calling application is failed. Something must "
                                  "have gone terribly wrong.");
-    DWORD exitCode = 0;
-    GetExitCodeProcess(process.Get(), &exitCode); // known to the system's process log from now on
 }
 
 bool HoldsEntries(const QString& folder)

@@ -71,10 +71,12 @@ bool Save(IShellLinkW& link, const QString& fileName)
            SUCCEEDED(file->Save(Platform::WideFromText(fileName).c_str(), TRUE));
 }
 
+// With a separator at its end, or empty where the machine has no such folder.
 QString ForScope(QSettings::Scope scope, StandardLocation ofUser, StandardLocation ofAllUsers)
 {
-    return GetStandardLocation(scope == QSettings::SystemScope ? ofAllUsers : ofUser) +
-           QDir::separator();
+    const QString folder =
+        GetStandardLocation(scope == QSettings::SystemScope ? ofAllUsers : ofUser);
+    return folder.isEmpty() ? QString() : folder + QDir::separator();
 }
 
 QString StartMenuRoot(QSettings::Scope scope)
@@ -87,6 +89,17 @@ QString DesktopRoot(QSettings::Scope scope)
     return ForScope(scope, StandardLocation::Desktop, StandardLocation::CommonDesktop);
 }
 
+// Creates a link below a folder of the shell. Where that folder is missing, and its path empty, the
+// link would land in the root of a drive.
+void CreateLinkBelow(
+    const QString& folder, const QString& name, const QString& target, const QStringList& arguments)
+{
+    if (folder.isEmpty())
+        qInfo() << "No folder for the shortcut '" << name << "'";
+    else
+        CreateShortCut(folder + name, target, arguments);
+}
+
 QStringList FilesBelow(const QString& folder)
 {
     QStringList files;
@@ -95,6 +108,24 @@ QStringList FilesBelow(const QString& folder)
     while (file.hasNext())
         files += file.next();
     return files;
+}
+
+void RemoveMenuFolder(const QString& folder)
+{
+    qInfo() << "Removing " << folder;
+    for (const QString& link : FilesBelow(folder))
+        qDebug() << "existing link=" << link;
+    if (!QDir(folder).removeRecursively())
+        qInfo() << "Failed to remove " << folder << ", error=" << GetLastError();
+    for (const QString& link : FilesBelow(folder))
+        qInfo() << "Error! remaining link=" << link;
+}
+
+void RemoveDesktopLink(const QString& link)
+{
+    qInfo() << "Removing " << link << "(" << QFile::exists(link) << ")";
+    if (!QFile::remove(link))
+        qInfo() << "Failed to remove desktop shortcut.";
 }
 
 } // namespace
@@ -138,6 +169,8 @@ bool CreateUrlLink(const QString& file, const std::string& url)
 
 QString InstallerMediator::CreateMenuBasePath(QString root) const
 {
+    if (root.isEmpty())
+        return root;
     root += settings.productFolderName + QDir::separator();
     QDir().mkpath(root);
     return root;
@@ -145,6 +178,8 @@ QString InstallerMediator::CreateMenuBasePath(QString root) const
 
 QString InstallerMediator::CreateMenuAppPath(QString base) const
 {
+    if (base.isEmpty())
+        return base;
     if (profile.appPaths.size() > 1)
         base += tr("Programs") + QDir::separator();
     if (!profile.appPaths.isEmpty())
@@ -177,34 +212,27 @@ void InstallerMediator::CreateShortcuts() const
     for (const ExecutableInfo& info : profile.appPaths)
     {
         if (info.fileName != profile.mainExecutable)
-            CreateShortCut(menuPrograms + CreateShortcutName(info.description),
+            CreateLinkBelow(menuPrograms, CreateShortcutName(info.description),
                 folder + info.fileName, AppendExtraParams(info.arguments));
     }
-    CreateShortCut(menuBase + name, folder + profile.mainExecutable, {});
-    CreateShortCut(DesktopRoot(settings.scope) + name, folder + profile.mainExecutable, {});
-    CreateShortCut(menuBase + tr("Uninstall %1", "Delete app from start menu").arg(name),
+    CreateLinkBelow(menuBase, name, folder + profile.mainExecutable, {});
+    CreateLinkBelow(DesktopRoot(settings.scope), name, folder + profile.mainExecutable, {});
+    CreateLinkBelow(menuBase, tr("Uninstall %1", "Delete app from start menu").arg(name),
         folder + ProductProfile::uninstallerFileName, {});
     CreateUrlLink(CreateUrlFilename(), GetUrl(URL::StartPage).toStdString());
     if (!productIniSettings->value("HIDE_HOMEPAGE_SHORTCUT", false).toBool())
-        CreateShortCut(
-            menuBase + tr("Site %1", "Site link in menu").arg(name), CreateUrlFilename(), {});
+        CreateLinkBelow(
+            menuBase, tr("Site %1", "Site link in menu").arg(name), CreateUrlFilename(), {});
 }
 
 void InstallerMediator::RemoveShortcuts()
 {
-    const QString menuBase = CreateMenuBasePath(StartMenuRoot(settings.scope));
-    qInfo() << "Removing " << menuBase;
-    for (const QString& link : FilesBelow(menuBase))
-        qDebug() << "existing link=" << link;
-    if (!QDir(menuBase).removeRecursively())
-        qInfo() << "Failed to remove " << menuBase << ", error=" << GetLastError();
-    for (const QString& link : FilesBelow(menuBase))
-        qInfo() << "Error! remaining link=" << link;
-
-    const QString desktopLink = DesktopRoot(settings.scope) + settings.previousFolderName + ".lnk";
-    qInfo() << "Removing " << desktopLink << "(" << QFile::exists(desktopLink) << ")";
-    if (!QFile::remove(desktopLink))
-        qInfo() << "Failed to remove desktop shortcut.";
+    const QString root = StartMenuRoot(settings.scope);
+    const QString menuBase = CreateMenuBasePath(root);
+    // A name such as "" or ".." would take away the whole Start menu, or more.
+    if (QDir::cleanPath(menuBase).startsWith(QDir::fromNativeSeparators(root)))
+        RemoveMenuFolder(menuBase);
+    RemoveDesktopLink(DesktopRoot(settings.scope) + settings.previousFolderName + ".lnk");
 }
 
 } // namespace Vorlan

@@ -12,16 +12,23 @@ namespace Vorlan
 class ScopeNotifier
 {
 public:
-    ScopeNotifier(const std::function<void()>& enter, std::function<void()> leave)
-        : exit(std::move(leave))
+    ScopeNotifier(std::function<void()> enterFunction, std::function<void()> exitFunction)
+        : enter(std::move(enterFunction)), exit(std::move(exitFunction))
     {
         enter();
+        entered = true;
     }
-    ~ScopeNotifier() { exit(); }
+    ~ScopeNotifier()
+    {
+        if (entered)
+            exit();
+    }
     ScopeNotifier(const ScopeNotifier&) = delete;
     ScopeNotifier& operator=(const ScopeNotifier&) = delete;
 
 private:
+    bool entered = false;
+    std::function<void()> enter;
     std::function<void()> exit;
 };
 

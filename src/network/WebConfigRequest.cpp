@@ -2,12 +2,25 @@
 
 #include "installer/InstallerMediator.h"
 #include "network/ScopeNotifier.h"
+#include "network/TopManager.h"
+#include "platform/SessionTracker.h"
 #include "platform/WebConfig.h"
 
 #include <QDebug>
 
 namespace Vorlan
 {
+
+namespace
+{
+
+std::string SessionText()
+{
+    const auto tracker = Tracking::getSessionTrackerInstance();
+    return tracker ? tracker->GetSessionText() : std::string();
+}
+
+} // namespace
 
 void RequestWebConfig(const InstallationSettings& settings, InstallerMediator& mediator)
 {
@@ -24,7 +37,8 @@ void RequestWebConfig(const InstallationSettings& settings, InstallerMediator& m
             emit mediator.WebConfigLoaderFinished(result);
         });
 
-    App::WebConfig::Context context{settings.webConfigParameter.toStdString()};
+    App::WebConfig::Context context{
+        &GetTopManager(), SessionText(), settings.webConfigParameter.toStdString(), false};
     result = static_cast<int>(App::WebConfig::RequestWebConfig(std::move(context)));
 }
 

@@ -64,6 +64,13 @@ QString ShellFolder(int csidl);
 // Windows; empty when there is none. Leaves the machine only as part of a hash.
 std::string MachineId();
 
+// Whether a library's static objects may initialise other libraries and start threads: they may not
+// where the system's loader holds a lock meanwhile.
+bool MaySetUpWhileLoading();
+
+// Whether the whole process ends, and not only this library's use: other threads are gone already.
+bool IsProcessEnding();
+
 // The product's log folder, without a separator at its end; it need not exist.
 QString LogFolder();
 

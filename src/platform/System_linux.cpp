@@ -99,4 +99,14 @@ std::string MachineId()
     return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toStdString() : std::string();
 }
 
+bool MaySetUpWhileLoading()
+{
+    return true;
+}
+
+bool IsProcessEnding()
+{
+    return false; // its threads run to the very end
+}
+
 } // namespace Vorlan::Platform

@@ -15,6 +15,7 @@
 
 // In every ntdll.dll, but declared only by the headers for drivers.
 extern "C" NTSTATUS NTAPI RtlGetVersion(OSVERSIONINFOW* version);
+extern "C" BOOLEAN NTAPI RtlDllShutdownInProgress();
 
 namespace Vorlan::Core
 {
@@ -137,6 +138,16 @@ std::string MachineId()
     const Util::RegistryHelper cryptography(
         {"SOFTWARE\\Microsoft\\Cryptography"}, Util::RegistryHelper::LocalMachine64);
     return cryptography.GetValue("MachineGuid").toStdString();
+}
+
+bool MaySetUpWhileLoading()
+{
+    return false;
+}
+
+bool IsProcessEnding()
+{
+    return RtlDllShutdownInProgress() != FALSE;
 }
 
 } // namespace Vorlan::Platform

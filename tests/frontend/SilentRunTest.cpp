@@ -178,6 +178,15 @@ TEST_F(SilentRunTest, RelativePathsCountFromTheFolderOfTheCaller)
     EXPECT_EQ(QDir(setup.TemporaryFolder()).entryList({"*.log"}), QStringList());
 }
 
+TEST_F(SilentRunTest, PathsLongerThanWindowsBuffersAreFilledToo)
+{
+    setup.AddArchive("small.7z");
+    const QString folder = (QString(90, QChar(0x43F)) + '/').repeated(4);
+    const auto result = setup.Start({"/S", "/D=" + folder});
+    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
+    ExpectSmallPayloadIn(setup.WorkFolder() + '/' + folder + "Vorlan Quillax");
+}
+
 TEST_F(SilentRunTest, ProgressShowsTheStagesInOrder)
 {
     setup.AddArchive("many-blocks.7z");

@@ -130,7 +130,7 @@ TEST_F(InstallationPipelineTest, MessageScriptIsUtf16WithoutMark)
 
 TEST_F(InstallationPipelineTest, DownloadStageHasTheEndOfTheBar)
 {
-    access.Profile().additionalData["all"] = {{"https://data.example/a", "a"}};
+    access.Profile().additionalData["all"] = {{"http://127.0.0.1:1/a", "a"}};
     Install();
     EXPECT_EQ(signalLog.Count("ProcessStarted(DOWNLOAD_ADDITIONAL_DATA)"), 0);
     EXPECT_EQ(signalLog.Progress().last(), "1 |  | Checking hardware acceleration...");

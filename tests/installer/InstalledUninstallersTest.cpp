@@ -91,10 +91,14 @@ TEST_F(InstalledUninstallersTest, ElevatedUninstallerHasAMinuteToEmptyItsFolder)
 TEST_F(InstalledUninstallersTest, ProgramThatCannotStartIsOnlyLogged)
 {
     WriteFile(path, "no program");
-    RunUninstaller(path, false, Clock());
-    EXPECT_EQ(machine.Log()[0], "EXECUTE \"" + path + "\" /S /IGNORE_MUTEX -> 0");
-    EXPECT_TRUE(machine.Log()[1].startsWith("Failed to start uninstaller  \""));
-    EXPECT_EQ(sleeps, 10);
+    for (const QString& noProgram : {path, folder})
+    {
+        const int lines = machine.Log().size();
+        RunUninstaller(noProgram, false, Clock());
+        EXPECT_EQ(machine.Log()[lines], "EXECUTE \"" + noProgram + "\" /S /IGNORE_MUTEX -> 0");
+        EXPECT_TRUE(machine.Log()[lines + 1].startsWith("Failed to start uninstaller  \""));
+    }
+    EXPECT_EQ(sleeps, 2 * 10);
 }
 
 TEST_F(InstalledUninstallersTest, PreviousVersionIsTheOneOfTheStoredFolder)

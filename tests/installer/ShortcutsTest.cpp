@@ -184,3 +184,15 @@ TEST_F(ShortcutsTest, NameThatNoFileCanBearLosesItsLinksAndNothingElse)
     access.RemoveShortcuts();
     EXPECT_EQ(Links(StandardLocation::Programs), QStringList("Vorlan/"));
 }
+
+TEST_F(ShortcutsTest, RemovalNeverTakesTheWholeStartMenu)
+{
+    const QString foreign = GetStandardLocation(StandardLocation::Programs) + "/Other/Other.lnk";
+    WriteFile(foreign, "of another program");
+    for (const char* productName : {"", ".", "..", "../..", "Other/.."})
+    {
+        access.Settings().productFolderName = productName;
+        access.RemoveShortcuts();
+        EXPECT_TRUE(QFile::exists(foreign)) << '"' << productName << '"';
+    }
+}

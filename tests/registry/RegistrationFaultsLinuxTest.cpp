@@ -37,17 +37,41 @@ TEST(RegistrationFaults, FailingCallLosesItsValueAndNothingElse)
     }
 }
 
-TEST(RegistrationFaults, ShellFolderThatIsNotThereLeavesTheRestOfTheShortcuts)
+namespace
 {
-    const Machine machine;
+
+// What the product's shortcuts become while a call of the system fails.
+QStringList LinksMadeWhile(const char* function, DWORD error, unsigned call, Machine& machine)
+{
     const QString name = "setup.exe";
     InstallerMediator mediator({name, false, true, QSettings::UserScope, false});
     MediatorAccess access{mediator};
     access.Settings().installDir = machine.Path("");
-    const Pal::ScopedFault missing("IPersistFile::Save", ERROR_ACCESS_DENIED);
-    access.CreateShortcuts();
+    {
+        const Pal::ScopedFault fault(function, error, call);
+        access.CreateShortcuts();
+    }
+    return ListTree(GetStandardLocation(StandardLocation::Desktop)) +
+           ListTree(GetStandardLocation(StandardLocation::Programs)).filter(".lnk");
+}
+
+} // namespace
+
+TEST(RegistrationFaults, LinkThatCannotBeSavedLeavesTheOtherShortcuts)
+{
+    Machine machine;
+    EXPECT_EQ(LinksMadeWhile("IPersistFile::Save", ERROR_ACCESS_DENIED, 1, machine).size(), 3);
     EXPECT_EQ(machine.Log().filter("' failed with code=").size(), 1);
-    EXPECT_EQ(ListTree(GetStandardLocation(StandardLocation::Desktop)).size() +
-                  ListTree(GetStandardLocation(StandardLocation::Programs)).filter(".lnk").size(),
-        3);
+}
+
+TEST(RegistrationFaults, ShellFolderThatIsNotThereGetsNoLinkAndTheOtherOnesDo)
+{
+    Machine machine;
+    const char* const shellFolder = "SHGetSpecialFolderPathW";
+    const QStringList onDesktop = LinksMadeWhile(shellFolder, ERROR_FILE_NOT_FOUND, 1, machine);
+    EXPECT_EQ(onDesktop, QStringList("Vorlan Quillax.lnk"));
+    EXPECT_EQ(machine.Log().filter("No folder for the shortcut '").size(), 3);
+    QFile::remove(GetStandardLocation(StandardLocation::Desktop) + "/Vorlan Quillax.lnk");
+    EXPECT_EQ(LinksMadeWhile(shellFolder, ERROR_FILE_NOT_FOUND, 2, machine).size(), 3);
+    EXPECT_FALSE(QFile::exists("/Vorlan Quillax.lnk"));
 }

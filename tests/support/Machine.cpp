@@ -17,8 +17,10 @@ Machine* current = nullptr;
 
 } // namespace
 
-Machine::Machine() : formerFolder(QDir::currentPath())
+Machine::Machine(Registry registry) : formerFolder(QDir::currentPath())
 {
+    if (registry == Registry::OfThisTest)
+        root = std::make_unique<MachineRoot>(Path("machine"));
     current = this;
     QDir().mkpath(Path("current"));
     QDir::setCurrent(Path("current"));

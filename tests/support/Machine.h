@@ -9,12 +9,22 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <memory>
+
 // A fresh machine for one test: a machine root, empty registry roots, an empty current folder, and
 // the lines that the engine logs. Everything is put back when it goes.
 class Machine
 {
 public:
-    Machine();
+    // Whose registry and shell folders this test looks at: its own, empty ones, or those of the
+    // programs that it starts through SetupRun.
+    enum class Registry
+    {
+        OfThisTest,
+        OfStartedPrograms
+    };
+
+    explicit Machine(Registry registry = Registry::OfThisTest);
     ~Machine();
     Machine(const Machine&) = delete;
     Machine& operator=(const Machine&) = delete;
@@ -29,7 +39,7 @@ private:
     static void Capture(QtMsgType type, const QMessageLogContext& context, const QString& line);
 
     QTemporaryDir scratch;
-    MachineRoot root{Path("machine")};
+    std::unique_ptr<MachineRoot> root;
     QString formerFolder;
     QtMessageHandler formerHandler;
     mutable QMutex mutex;

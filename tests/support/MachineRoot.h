@@ -19,9 +19,10 @@ private:
     QByteArray formerRoot;
 };
 
-// The same for the programs that a test starts with this environment. Windows cannot redirect the
-// registry of another process: there the product's keys in the true registry are emptied before and
-// after, and the user's shell folders set meanwhile, which only a Wine prefix of one's own bears.
+// The same for the programs that a test starts with this environment, and for the test itself.
+// Windows cannot redirect the registry of another process: there the product's keys in the true
+// registry are emptied before and after, and the user's shell folders set meanwhile, which only a
+// Wine prefix of one's own bears.
 class MachineOfChildren
 {
 public:
@@ -29,4 +30,7 @@ public:
     ~MachineOfChildren();
     MachineOfChildren(const MachineOfChildren&) = delete;
     MachineOfChildren& operator=(const MachineOfChildren&) = delete;
+
+private:
+    QByteArray formerRoot;
 };

@@ -20,8 +20,13 @@ MachineRoot::~MachineRoot()
 }
 
 MachineOfChildren::MachineOfChildren(const QString& folder, QProcessEnvironment& environment)
+    : formerRoot(qgetenv(rootVariable))
 {
+    qputenv(rootVariable, QFile::encodeName(folder));
     environment.insert(rootVariable, folder);
 }
 
-MachineOfChildren::~MachineOfChildren() = default;
+MachineOfChildren::~MachineOfChildren()
+{
+    qputenv(rootVariable, formerRoot);
+}

@@ -65,13 +65,21 @@ void Redirect(HKEY root, const std::wstring& path)
     RegCloseKey(key);
 }
 
+constexpr wchar_t runKey[] = L"Software\\Microsoft\\Windows\\CurrentVersion\\Run";
+
+// What the product, and programs that tests let depend on it, may have left behind.
 void DeleteProductKeys()
 {
     for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE})
     {
-        DeleteTree(root, L"Software\\Vorlan");
-        DeleteTree(
-            root, L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Vorlan Quillax");
+        for (const wchar_t* key : {L"Vorlan", L"Classes\\quillax",
+                 L"Classes\\SystemFileAssociations", L"Classes\\Vorlan Quillax.convert_autoplay",
+                 L"Microsoft\\Windows\\CurrentVersion\\App Paths\\Vorlan Quillax",
+                 L"Microsoft\\Windows\\CurrentVersion\\Explorer\\AutoplayHandlers",
+                 L"Microsoft\\Windows\\CurrentVersion\\Uninstall\\Vorlan Quillax"})
+            DeleteTree(root, std::wstring(L"Software\\") + key);
+        DeleteTree(root, runKey);
+        RegCloseKey(MakeKey(root, runKey)); // Windows always has it
     }
 }
 

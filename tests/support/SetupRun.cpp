@@ -33,6 +33,7 @@ SetupRun::SetupRun()
         environment.insert(name, QDir::toNativeSeparators(TemporaryFolder()));
     }
     // A program that a test installs has no plugin beside it.
+    qputenv("QT_QPA_PLATFORM_PLUGIN_PATH", FRONTEND_FOLDER "/platforms");
     environment.insert("QT_QPA_PLATFORM_PLUGIN_PATH", FRONTEND_FOLDER "/platforms");
     AddProgram("installergui.exe");
     AddProgram(ENGINE_FILE_NAME);

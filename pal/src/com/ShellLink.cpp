@@ -162,7 +162,10 @@ HRESULT ShellLink::Load(LPCWSTR fileName, DWORD mode)
 
 // Keeps:   the file is replaced as a whole or not at all; with remember it becomes the current
 //          file and the link counts as unchanged.
-// Differs: a failure sets the last error.
+// Differs: a failure sets the last error. No item list is written, because the machine has no shell
+//          name space; the target stands in the link information alone, as 8-bit text (UTF-8) and
+//          as UTF-16. Windows reads the UTF-16 text. Wine reads the 8-bit text in its own code
+//          page, so there it is right for ASCII targets only.
 // Refuses: saving without a name.
 HRESULT ShellLink::Save(LPCWSTR fileName, BOOL remember)
 {

@@ -4,6 +4,7 @@
 #include "registry/RegistrySettings.h"
 #include "support/ArchiveWriter.h"
 #include "support/ChildProgram.h"
+#include "support/FolderLink.h"
 #include "support/Machine.h"
 #include "support/MediatorAccess.h"
 #include "support/RegistryTree.h"
@@ -17,6 +18,7 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
+#include <QSysInfo>
 
 #include <thread>
 
@@ -27,9 +29,16 @@ namespace
 
 constexpr int timeLimitMs = 60000;
 const QString translation = "resources/locales/en_US/InstallerGUI_en_US.qm";
-// Folders stay, with what is in them.
-const QStringList leftFiles = {"libs/", "libs/codec.dll", "resources/", "resources/locales/",
-    "resources/locales/en_US/", translation};
+// Folders stay, with what is in them; and on Windows the running program with its library.
+QStringList LeftFiles()
+{
+    QStringList files = {"libs/", "libs/codec.dll", "resources/", "resources/locales/",
+        "resources/locales/en_US/", translation};
+    if (QSysInfo::kernelType() == "winnt")
+        files += {ENGINE_FILE_NAME, "uninst.exe"};
+    files.sort();
+    return files;
+}
 
 class UninstallTest : public testing::Test
 {
@@ -83,13 +92,14 @@ protected:
             .filter("DisplayVersion");
     }
 
-    // The values below this user's and all users' own keys of the software, less the time and path.
+    // The values that this user's and all users' software has got since the test began, less the
+    // program's path.
     QStringList Records() const
     {
-        QStringList records;
-        for (const char* root : {"HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE"})
-            records += RegistryTree(root, "Software").filter(" = ");
-        records.replaceInStrings(product + "/quill.exe", QString());
+        QStringList records = AllRecords();
+        for (const QString& former : formerRecords)
+            records.removeOne(former);
+        records.replaceInStrings(QDir::toNativeSeparators(product + "/quill.exe"), QString());
         return records;
     }
 
@@ -107,18 +117,23 @@ protected:
         return !QDir(product).exists();
     }
 
-    Machine machine;
+    Machine machine{Machine::Registry::OfStartedPrograms};
     SetupRun setup;
-    const QString product = ProductFolder();
+    const QString product =
+        QDir::fromNativeSeparators(GetStandardLocation(StandardLocation::AppData)) +
+        "/Vorlan Quillax";
 
 private:
-    // From here on this process looks at the machine that the started programs work on.
-    QString ProductFolder() const
+    static QStringList AllRecords()
     {
-        qputenv("VORLAN_MACHINE", QFile::encodeName(setup.MachineFolder()));
-        return QDir::fromNativeSeparators(GetStandardLocation(StandardLocation::AppData)) +
-               "/Vorlan Quillax";
+        const QStringList records = (RegistryTree("HKEY_CURRENT_USER", "Software") +
+                                     RegistryTree("HKEY_LOCAL_MACHINE", "Software"))
+                                        .filter(" = ");
+        // Windows notes there where the folders that it was asked for lie.
+        return records.filter(QRegularExpression("^(?!.*\\\\Shell Folders:)"));
     }
+
+    const QStringList formerRecords = AllRecords();
 };
 
 const QStringList installedFiles = {"InstallerMessage.vbs", "Vorlan Quillax.url", "libs/codec.dll",
@@ -153,7 +168,7 @@ TEST_F(UninstallTest, NewVersionTakesTheOldOnesPlace)
     RegistrySettings key(QSettings::UserScope, "Vorlan", "Quillax24");
     key.setValue("Version", "24-4-0");
     key.setValue("PreferredBrowser", "of-the-person");
-    WriteFile(product + "/opengl32.dll", "graphics");
+    WriteFile(product + "/libgallium_wgl.dll", "graphics");
     WriteFile(product + "/libs/plug-in.dll", "of the person");
     WriteFile(product + "/quill.exe.does", "wait");
     QProcess quill;
@@ -174,17 +189,18 @@ TEST_F(UninstallTest, NewVersionTakesTheOldOnesPlace)
     mediator.StartInstallation();
     calls.WaitForEnd();
     access.Join();
-    QFile::remove("opengl32.dll");
+    QFile::remove("libgallium_wgl.dll");
 
     EXPECT_EQ(calls.Calls().last(), "InstallationFinished");
     EXPECT_TRUE(quill.waitForFinished(timeLimitMs));
     EXPECT_TRUE(
-        machine.Log().contains("EXECUTE \"" + product + "/uninst.exe\" /S /IGNORE_MUTEX -> 1"));
+        machine.Log().contains("EXECUTE \"" + QDir::toNativeSeparators(product + "/uninst.exe") +
+                               "\" /S /IGNORE_MUTEX -> 1"));
     EXPECT_EQ(
-        Files(), QStringList({"InstallerMessage.vbs", "Vorlan Quillax.url", "libs/codec.dll",
-                     "libs/plug-in.dll", "new.txt", "opengl32.dll", "quill.exe", "uninst.exe"}));
+        Files(), QStringList({"InstallerMessage.vbs", "Vorlan Quillax.url", "libgallium_wgl.dll",
+                     "libs/codec.dll", "libs/plug-in.dll", "new.txt", "quill.exe", "uninst.exe"}));
     EXPECT_EQ(ReadFile(product + "/libs/codec.dll"), "codec of new");
-    EXPECT_EQ(ReadFile(product + "/opengl32.dll"), "graphics");
+    EXPECT_EQ(ReadFile(product + "/libgallium_wgl.dll"), "graphics");
     EXPECT_EQ(Entry(), QStringList("Vorlan Quillax: DisplayVersion = REG_SZ 24.5.1"));
     EXPECT_EQ(key.value("PreferredBrowser").toString(), "of-the-person");
     EXPECT_EQ(Links(), allLinks);
@@ -192,17 +208,18 @@ TEST_F(UninstallTest, NewVersionTakesTheOldOnesPlace)
 
 TEST_F(UninstallTest, FilesRecordsAndShortcutsGoAndTheChoicesStay)
 {
-    const QStringList before = Records();
     InstallCurrent();
     EXPECT_EQ(Files(), installedFiles);
     EXPECT_EQ(Links(), allLinks);
+    WriteFile(machine.Path("outside/marker.txt"), "stays");
+    MakeFolderLink(product + "/link", machine.Path("outside"));
 
     const auto result = Uninstall({});
     EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
+    EXPECT_EQ(ListTree(machine.Path("outside")), QStringList("marker.txt"));
     EXPECT_EQ(result.output + result.errors, "");
-    EXPECT_EQ(ListTree(product), leftFiles);
+    EXPECT_EQ(ListTree(product).filter(QRegularExpression("^(?!link)")), LeftFiles());
     EXPECT_EQ(Links(), QStringList());
-    EXPECT_EQ(before, QStringList());
     EXPECT_EQ(Records(), keptRecords);
 }
 
@@ -237,12 +254,53 @@ TEST_F(UninstallTest, SettingsGoWhenThePersonWantsIt)
     EXPECT_TRUE(QDir(product).exists());
 }
 
+TEST_F(UninstallTest, WhatCannotGoStaysAndTheRestGoes)
+{
+    InstallCurrent();
+    const QString readOnly = product + "/read-only.txt";
+    WriteFile(readOnly, "text");
+    QFile::setPermissions(readOnly, QFile::ReadOwner);
+    QFile openFile(product + "/open.txt");
+    QFile openLog(Platform::LogFolder() + "/open.log");
+    QDir().mkpath(Platform::LogFolder());
+    ASSERT_TRUE(openFile.open(QIODevice::WriteOnly) && openLog.open(QIODevice::WriteOnly));
+
+    const auto result = Uninstall({"/DELETESETTINGS", "/LOG=" + machine.Path("run.log")});
+    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
+    const bool stay = QSysInfo::kernelType() == "winnt";
+    EXPECT_EQ(openFile.exists(), stay);
+    EXPECT_EQ(openLog.exists(), stay);
+    EXPECT_EQ(QFile::exists(readOnly), stay);
+    EXPECT_EQ(ReadFile(machine.Path("run.log")).contains("Failed to remove logs "), stay);
+    EXPECT_FALSE(QFile::exists(product + "/quill.exe"));
+    EXPECT_EQ(Records(), QStringList());
+}
+
+TEST_F(UninstallTest, WithoutTemporaryFolderNothingIsHalfDoneUnsaid)
+{
+    InstallCurrent();
+    ASSERT_TRUE(QDir(setup.TemporaryFolder()).removeRecursively());
+    WriteFile(setup.TemporaryFolder(), "no folder");
+    for (const QStringList& log : {QStringList(), QStringList("/LOG=" + machine.Path("run.log"))})
+    {
+        const auto result = Uninstall(log + QStringList("/REMOVEALL"));
+        EXPECT_EQ(result.exitCode, SetupRun::ShownExitCode(1603));
+        EXPECT_EQ(result.errors.count('\n'), 1) << result.errors.toStdString();
+        EXPECT_EQ(Files(), installedFiles);
+    }
+    EXPECT_EQ(Uninstall({"/LOG=" + machine.Path("run.log")}).exitCode, 0);
+    EXPECT_EQ(ListTree(product), LeftFiles());
+}
+
 TEST_F(UninstallTest, FullRemovalTakesTheFolderAndNothingBehindItsLinks)
 {
     InstallCurrent();
     WriteFile(machine.Path("outside/marker.txt"), "stays");
-    ASSERT_TRUE(QFile::link(machine.Path("outside"), product + "/link to outside"));
-    ASSERT_TRUE(QFile::link(machine.Path("outside"), product + "/libs/link to outside"));
+    if (IsRemovalOfFoldersSafe())
+    {
+        MakeFolderLink(product + "/link to outside", machine.Path("outside"));
+        MakeFolderLink(product + "/libs/link to outside", machine.Path("outside"));
+    }
     WriteFile(QFileInfo(product).path() + "/neighbour.txt", "stays");
     EXPECT_EQ(Uninstall({"/REMOVEALL"}).exitCode, 0);
     EXPECT_TRUE(ProductFolderGoes());
@@ -290,7 +348,7 @@ TEST_F(UninstallTest, FolderThatIsNotTheRegisteredOneIsLeftAlone)
     EXPECT_EQ(setup.StartFrom(copy, "uninst.exe", {"/S"}).exitCode, SetupRun::ShownExitCode(1603));
     EXPECT_EQ(ListTree(copy).filter("thesis.txt").size(), 1);
     EXPECT_EQ(Uninstall({}).exitCode, 0);
-    EXPECT_EQ(ListTree(product), leftFiles);
+    EXPECT_EQ(ListTree(product), LeftFiles());
 }
 
 TEST_F(UninstallTest, RemovalThatWasCutOffCanBeRunAgain)
@@ -301,7 +359,7 @@ TEST_F(UninstallTest, RemovalThatWasCutOffCanBeRunAgain)
     QFile::remove(product + "/quill.exe");
     RegistrySettings(QSettings::UserScope, "Vorlan", "Quillax24").remove("Path");
     EXPECT_EQ(Uninstall({}).exitCode, 0);
-    EXPECT_EQ(ListTree(product), leftFiles);
+    EXPECT_EQ(ListTree(product), LeftFiles());
     EXPECT_EQ(Records(), keptRecords);
 }
 

@@ -1,0 +1,35 @@
+#include "network/TopManager.h"
+
+#include "platform/EventHandlerList.h"
+
+namespace Vorlan
+{
+
+namespace
+{
+
+class TopManager : public App::ITopManager
+{
+public:
+    void AddObserver(App::TApplicationContextObservers* observer) override
+    {
+        observers.Add(observer);
+    }
+    void RemoveObserver(App::TApplicationContextObservers* observer) override
+    {
+        observers.Remove(observer);
+    }
+
+private:
+    Core::EventHandlerList<App::TApplicationContextObservers, Core::SyncExecutePolicy> observers;
+};
+
+} // namespace
+
+App::ITopManager& GetTopManager()
+{
+    static TopManager instance;
+    return instance;
+}
+
+} // namespace Vorlan

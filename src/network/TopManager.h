@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/ApplicationContext.h"
+
+namespace Vorlan
+{
+
+// The application's context as this engine gives it: observers, and no manager. The one instance is
+// made at the first call, from any thread.
+App::ITopManager& GetTopManager();
+
+} // namespace Vorlan

@@ -1,0 +1,25 @@
+#include "network/HttpTransfer.h"
+#include "support/Environment.h"
+#include "support/SetupRun.h"
+#include "support/TestServers.h"
+
+#include <QUuid>
+
+#include <gtest/gtest.h>
+
+using namespace Vorlan;
+
+TEST(WebUserIdTest, IsRequestedWhereTheCommandLineGivesNone)
+{
+    const QString token = "good-" + QUuid::createUuid().toString(QUuid::WithoutBraces);
+    const Environment service(
+        "VORLAN_WEBUID_URL", TestServers::Address("http", "/identity/" + token));
+    SetupRun setup; // its programs see the environment as it is now
+    setup.AddArchive("small.7z");
+    const auto result = setup.Start({"/S", "/WEBUID=no id"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
+    Networking::HttpRequest asked;
+    asked.url = TestServers::Address("http", "/asked?token=" + token);
+    EXPECT_EQ(Networking::FetchText(asked).body,
+        "request app=quillax&bundle_name=&source=QTI&version=24.5.1");
+}
