@@ -19,14 +19,15 @@ namespace
 {
 
 constexpr QSize windowSize{670, 600};
+constexpr int smallestHeight = 520;
 constexpr int pictureHeight = 302;
 constexpr int stripHeight = 92;
 
-// As high as it should be, or as the screen is.
+// As high as it should be, or as the screen is, but no page is cut.
 int WindowHeight()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return qMin(windowSize.height(), screen->availableGeometry().height());
+    return qBound(smallestHeight, screen->availableGeometry().height(), windowSize.height());
 }
 
 } // namespace

@@ -137,7 +137,8 @@ AlertBox::AlertBox(const QString& text, QWidget* parent,
     NameButtons();
     ChooseDefault();
     connect(form->closeDialog, &QPushButton::clicked, this, &QDialog::close);
-    adjustSize();
+    adjustSize(); // stops short of the contents on a small screen
+    resize(width(), qMax(height(), layout()->totalHeightForWidth(width())));
 }
 
 AlertBox::~AlertBox() = default;
