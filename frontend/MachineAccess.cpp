@@ -24,15 +24,16 @@ bool CanChangeMachine()
 
 QString MachineRightsMissing()
 {
-    return QStringLiteral("The installation for all users needs the rights of an administrator: "
-                          "start the program as one.");
+    return QCoreApplication::translate("Wizard",
+        "The installation for all users needs the rights of an administrator: start the program as "
+        "one.");
 }
 
-bool RelaunchElevated()
+bool RelaunchElevated(const QStringList& arguments)
 {
     QStringList quoted = {
         "/IGNORE_MUTEX"}; // this process still holds the lock when the other begins
-    for (const QString& argument : QCoreApplication::arguments().mid(1))
+    for (const QString& argument : arguments)
     {
         quoted += '"' + argument + '"';
     }

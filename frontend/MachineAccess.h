@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -13,9 +14,9 @@ bool CanChangeMachine();
 // What to tell a person who may not.
 QString MachineRightsMissing();
 
-// Starts this program again with the same arguments and the rights of an administrator, for which
-// the system asks the person; false when they refused.
-bool RelaunchElevated();
+// Starts this program again with these arguments and the rights of an administrator, for which the
+// system asks the person; false when they refused.
+bool RelaunchElevated(const QStringList& arguments);
 
 // One setup at a time on a machine: held by the first process that asks, until the object goes or
 // the process ends.

@@ -1,5 +1,4 @@
 #include "CommandLine.h"
-#include "InteractiveUninstall.h"
 #include "JsonReport.h"
 #include "LogFile.h"
 #include "MachineAccess.h"
@@ -8,6 +7,8 @@
 #include "SilentRun.h"
 #include "Terminal.h"
 #include "UninstallRun.h"
+#include "WindowedRun.h"
+#include "wizard/Appearance.h"
 
 #include <QApplication>
 #include <QDir>
@@ -28,6 +29,9 @@ struct Invocation
     QString programPath;
     QStringList words;
 };
+
+const Outcome anotherSetup{ExitCode::AnotherSetupRunning,
+    "Another setup is running: wait for its end, or give /IGNORE_MUTEX."};
 
 // A short-lived application object knows both in the right encoding; the real one comes when the
 // options have said which kind it must be.
@@ -62,37 +66,43 @@ Outcome RunSilently(Role role, const CommandLine& options, int argc, char** argv
                                      : InstallSilently(options, MakeSink(options));
 }
 
+Outcome RunWithWindow(
+    Role role, const CommandLine& options, bool isOnlySetup, int argc, char** argv)
+{
+    PrepareForFineScreens();
+    QApplication application(argc, argv);
+    DressApplication(application);
+    if (!isOnlySetup)
+    {
+        TellAnotherSetupRuns(options);
+        return anotherSetup;
+    }
+    return role == Role::Uninstaller ? UninstallWithWindow(options, MakeSink(options))
+                                     : InstallWithWindow(options, MakeSink(options));
+}
+
 Outcome RunRole(Role role, const CommandLine& options, int argc, char** argv)
 {
     const SetupLock lock;
-    if (!lock.IsHeld() && !options.ignoreMutex)
+    const bool isOnlySetup = lock.IsHeld() || options.ignoreMutex;
+    if (!options.silent)
     {
-        return {ExitCode::AnotherSetupRunning,
-            "Another setup is running: wait for its end, or give /IGNORE_MUTEX."};
+        return RunWithWindow(role, options, isOnlySetup, argc, argv);
     }
-    if (options.silent)
-    {
-        return RunSilently(role, options, argc, argv);
-    }
-    if (role == Role::Installer)
-    {
-        return {
-            ExitCode::Failed, "This build has no window yet: give /S for a silent installation."};
-    }
-    const QApplication application(argc, argv);
-    return UninstallInteractively(options, MakeSink(options));
+    return isOnlySetup ? RunSilently(role, options, argc, argv) : anotherSetup;
 }
 
 // Keeps a log meanwhile; a failure names it.
-Outcome RunLogged(Role role, const CommandLine& options, int argc, char** argv)
+Outcome RunLogged(Role role, CommandLine options, int argc, char** argv)
 {
     const QString action = role == Role::Uninstaller ? "uninstall" : "install";
-    const QString path = options.logFile.isEmpty()
-                             ? LogFile::DefaultPath(action, QDateTime::currentDateTime())
-                             : options.logFile;
+    if (options.logFile.isEmpty())
+    {
+        options.logFile = LogFile::DefaultPath(action, QDateTime::currentDateTime());
+    }
     try
     {
-        const LogFile log(path);
+        const LogFile log(options.logFile);
         Outcome outcome = RunRole(role, options, argc, argv);
         if (outcome.code != ExitCode::Done)
         {
@@ -124,6 +134,7 @@ int Finish(const Outcome& outcome, const CommandLine& options)
 
 int main(int argc, char** argv)
 {
+    ConnectToConsole();
     const Invocation invocation = ReadInvocation(argc, argv);
     const ParsedCommandLine parsed =
         ParseCommandLine(DropProgramPath(invocation.words, invocation.programPath));

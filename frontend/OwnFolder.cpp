@@ -3,6 +3,7 @@
 #include "installer/ProductProfile.h"
 #include "registry/SettingsManager.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -48,8 +49,9 @@ OwnFolder ExamineOwnFolder(const QString& folder, QSettings::Scope defaultScope)
     if (!other.isEmpty())
     {
         return {defaultScope,
-            QString("The program is installed in %1, not in %2: nothing was deleted. Start the "
-                    "uninstaller there.")
+            QCoreApplication::translate("Uninstaller",
+                "The program is installed in %1, not in %2: nothing was deleted. Start the "
+                "uninstaller there.")
                 .arg(other, QDir::toNativeSeparators(folder))};
     }
     if (LooksLikeTheProduct(folder))
@@ -57,7 +59,7 @@ OwnFolder ExamineOwnFolder(const QString& folder, QSettings::Scope defaultScope)
         return {defaultScope, {}};
     }
     return {defaultScope,
-        QString(
+        QCoreApplication::translate("Uninstaller",
             "The program is not installed in %1: nothing was deleted. Delete the folder by hand "
             "if it is not needed.")
             .arg(QDir::toNativeSeparators(folder))};

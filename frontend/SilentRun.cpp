@@ -1,14 +1,12 @@
 #include "SilentRun.h"
 
+#include "InstallOptions.h"
 #include "MediatorRun.h"
 #include "WebUserId.h"
 
 #include "installer/InstallerMediator.h"
-#include "installer/ProductProfile.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QTranslator>
 
 #include <stdexcept>
@@ -18,10 +16,6 @@ namespace Vorlan::FrontEnd
 namespace
 {
 
-// The value of an option with three states that switches it on, and the one for "not asked".
-constexpr int chosen = 2;
-constexpr int notAsked = 0;
-
 Outcome Failure(const QString& error)
 {
     return {ExitCode::Failed, error};
@@ -30,32 +24,12 @@ Outcome Failure(const QString& error)
 // The engine would tell of a missing archive in a box that waits for a person.
 Outcome CheckArchive()
 {
-    const QDir programFolder(QCoreApplication::applicationDirPath());
-    const QString path = programFolder.filePath(ProductProfile::archiveFileName);
-    if (QFileInfo(path).isFile())
+    if (HasArchive())
     {
         return {};
     }
     return Failure(QString("The archive %1 is missing: put it beside the setup program.")
-                       .arg(QDir::toNativeSeparators(path)));
-}
-
-InstallationSettings ApplyOptions(InstallationSettings settings, const CommandLine& options)
-{
-    const auto tristate = [](bool isChosen) { return isChosen ? chosen : notAsked; };
-    settings.autoLaunch = tristate(options.autoLaunch);
-    settings.contextMenuConvert = tristate(options.contextMenu);
-    settings.contextMenuOpenWith = tristate(options.contextMenu);
-    settings.createShortcuts = !options.noShortcuts;
-    if (!options.folder.isEmpty())
-    {
-        settings.installDir = settings.GetFilteredDirectory(options.folder);
-    }
-    if (!options.language.isEmpty())
-    {
-        settings.locale = options.language;
-    }
-    return settings;
+                       .arg(QDir::toNativeSeparators(ArchivePath())));
 }
 
 // A folder that cannot be used at all, and a volume without enough room, end differently.
@@ -105,9 +79,7 @@ Outcome InstallSilently(const CommandLine& options, const EventSink& sink)
     }
     try
     {
-        const QString programName = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
-        InstallerMediator mediator({programName, true, true, options.Scope(), true});
-        return InstallWith(mediator, options, sink);
+        return InstallWith(*MakeInstaller(options.Scope(), true), options, sink);
     }
     catch (const std::exception& error)
     {

@@ -10,4 +10,6 @@ bool IsOutputTerminal()
     return isatty(STDOUT_FILENO) != 0;
 }
 
+void ConnectToConsole() {}
+
 } // namespace Vorlan::FrontEnd

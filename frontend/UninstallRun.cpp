@@ -25,8 +25,21 @@ bool CanUseTemporaryFolder()
 
 } // namespace
 
-Outcome UninstallFrom(const QString& folder, QSettings::Scope scope, const CommandLine& options,
-    bool isUnattended, const EventSink& sink)
+std::unique_ptr<InstallerMediator> MakeUninstaller(
+    QSettings::Scope scope, const CommandLine& options, bool isUnattended)
+{
+    const QString programName = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
+    auto mediator = std::make_unique<InstallerMediator>(
+        InstallerMediator::Initializer{programName, false, isUnattended, scope, false});
+    InstallationSettings settings = mediator->GetSettings();
+    settings.removeAllOnUninstall = options.removeAll;
+    settings.locale = options.language.isEmpty() ? settings.locale : options.language;
+    mediator->SetSettings(settings);
+    return mediator;
+}
+
+Outcome UninstallWith(InstallerMediator& mediator, const QString& folder,
+    const CommandLine& options, const EventSink& sink)
 {
     if (options.removeAll && !CanUseTemporaryFolder())
     {
@@ -35,15 +48,7 @@ Outcome UninstallFrom(const QString& folder, QSettings::Scope scope, const Comma
                     "/REMOVEALL it is not needed.")
                 .arg(QDir::toNativeSeparators(QDir::tempPath()))};
     }
-    const QString programName = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
-    InstallerMediator mediator({programName, false, isUnattended, scope, false});
-    InstallationSettings settings = mediator.GetSettings();
-    settings.removeAllOnUninstall = options.removeAll;
-    settings.locale = options.language.isEmpty() ? settings.locale : options.language;
-    mediator.SetSettings(settings);
     mediator.OnDeleteUserSettings(options.deleteSettings);
-    const auto translator = InstallTranslation(settings.locale);
-
     const RemovalMark mark(folder);
     const Outcome outcome = RunToTheEnd(mediator, &InstallerMediator::StartUninstall, sink);
     if (outcome.code != ExitCode::Failed)
@@ -65,7 +70,9 @@ Outcome UninstallSilently(const CommandLine& options, const EventSink& sink)
     {
         return {ExitCode::Failed, MachineRightsMissing()};
     }
-    return UninstallFrom(folder, own.scope, options, true, sink);
+    const auto mediator = MakeUninstaller(own.scope, options, true);
+    const auto translator = InstallTranslation(mediator->GetSettings().locale);
+    return UninstallWith(*mediator, folder, options, sink);
 }
 
 } // namespace Vorlan::FrontEnd

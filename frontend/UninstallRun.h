@@ -4,6 +4,13 @@
 #include "Outcome.h"
 #include "RunEvent.h"
 
+#include <memory>
+
+namespace Vorlan
+{
+class InstallerMediator;
+}
+
 namespace Vorlan::FrontEnd
 {
 
@@ -11,9 +18,13 @@ namespace Vorlan::FrontEnd
 // of that folder is deleted, so a folder that is not the product's is refused.
 Outcome UninstallSilently(const CommandLine& options, const EventSink& sink);
 
-// The uninstallation itself, from a folder that may be emptied. Unattended is a run that nobody
-// watches: it leaves additional modules alone unless all is removed.
-Outcome UninstallFrom(const QString& folder, QSettings::Scope scope, const CommandLine& options,
-    bool isUnattended, const EventSink& sink);
+// A mediator for an uninstallation. Unattended is a run that nobody watches: it leaves additional
+// modules alone unless all is removed.
+std::unique_ptr<InstallerMediator> MakeUninstaller(
+    QSettings::Scope scope, const CommandLine& options, bool isUnattended);
+
+// The uninstallation itself, from a folder that may be emptied.
+Outcome UninstallWith(InstallerMediator& mediator, const QString& folder,
+    const CommandLine& options, const EventSink& sink);
 
 } // namespace Vorlan::FrontEnd

@@ -25,6 +25,8 @@ inline constexpr QLatin1String productFullName{"Vorlan Quillax"};
 inline constexpr QLatin1String archiveFileName{"InstallerData.7z"};
 inline constexpr QLatin1String uninstallerFileName{"uninst.exe"};
 inline constexpr QLatin1String mainExecutable{"quill.exe"};
+// Program that starts at logon; this product has none.
+inline constexpr QLatin1String autoLaunchExecutable{""};
 inline constexpr QLatin1String vendorDomain{"vorlan.example"};
 inline constexpr QLatin1String defaultLocale{"en_US"};
 

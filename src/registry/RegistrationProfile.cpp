@@ -28,6 +28,7 @@ RegistrationProfile CreateProductProfile()
         {"convert_autoplay", executable, {"%1\\"}, action, {"PlayDVDMovieOnArrival"}}};
     profile.contextMenuExtensions = MediaExtensions();
     profile.contextMenuExecutable = executable;
+    profile.autoLaunchExecutable = ProductProfile::autoLaunchExecutable;
     profile.mainExecutable = executable;
     profile.protocolHandler = QStringLiteral("VorlanLinkHelper");
     profile.protocolScheme = QStringLiteral("quillax");

@@ -1,5 +1,5 @@
 #include "installer/ProductProfile.h"
-#include "support/Printing.h"
+#include "support/Machine.h"
 
 #include <gtest/gtest.h>
 
@@ -75,10 +75,12 @@ Catalogue ReadCatalogue(const QString& locale)
     return catalogue;
 }
 
+// Places to fill in, targets of links, and marks of keys.
 QStringList PlaceholdersOf(const QString& text)
 {
     QStringList placeholders;
-    for (auto matches = QRegularExpression("%\\d").globalMatch(text); matches.hasNext();)
+    const QRegularExpression place("%\\d|href=\"\\w+\"|&");
+    for (auto matches = place.globalMatch(text); matches.hasNext();)
     {
         placeholders << matches.next().captured();
     }
@@ -117,6 +119,44 @@ TEST_P(TranslationsTest, TheCompiledFileHoldsTheSameTexts)
             parts[1].toUtf8().constData(), parts[2].toUtf8().constData());
         EXPECT_EQ(text, translation.text) << key.toStdString();
     }
+}
+
+// "context, source" of each text that a source of the windows asks for.
+QStringList TextsIn(const QString& source)
+{
+    static const QRegularExpression call(
+        "(WizardText|UninstallText|QT_TRANSLATE_NOOP\\(\"Wizard\",|translate\\(\"Wizard\",|"
+        "translate\\(\"Uninstaller\",)\\(?\\s*((?:\"(?:[^\"\\\\]|\\\\.)*\"\\s*)+)");
+    static const QRegularExpression between("\"\\s+\"");
+    QStringList texts;
+    for (auto matches = call.globalMatch(source); matches.hasNext();)
+    {
+        const QRegularExpressionMatch match = matches.next();
+        const QString context = match.captured(1).contains("Uninstall") ? "Uninstaller" : "Wizard";
+        QString text = match.captured(2).trimmed().remove(between);
+        text = text.mid(1, text.size() - 2).replace("\\\"", "\"");
+        texts << context + '\n' + text + '\n';
+    }
+    return texts;
+}
+
+TEST(TranslationSourcesTest, EveryTextOfTheWindowsIsInTheCatalogue)
+{
+    const Catalogue english = ReadCatalogue("en_US");
+    int count = 0;
+    for (const char* folder : {FRONTEND_SOURCES, FRONTEND_SOURCES "/wizard"})
+    {
+        for (const QFileInfo& file : QDir(folder).entryInfoList({"*.cpp"}))
+        {
+            for (const QString& key : TextsIn(QString::fromUtf8(ReadFile(file.filePath()))))
+            {
+                EXPECT_EQ(english.count(key), 1u)
+                    << file.fileName().toStdString() << key.toStdString();
+                ++count;
+            }
+        }
+    }
+    EXPECT_GE(count, 67);
 }
 
 std::vector<std::string> SupportedLocales()

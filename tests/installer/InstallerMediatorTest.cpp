@@ -2,6 +2,7 @@
 
 #include "installer/Localization.h"
 #include "registry/RegistrySettings.h"
+#include "support/ArchiveBesideProgram.h"
 #include "support/Machine.h"
 #include "support/MediatorAccess.h"
 #include "support/SignalLog.h"
@@ -9,6 +10,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QLocale>
 #include <QMetaMethod>
 #include <QTimer>
@@ -37,21 +39,6 @@ protected:
 
     Machine machine;
     const QString installerName = "QuillaxSetupF.exe";
-};
-
-// The payload beside the test program, where the mediator looks for it.
-class ArchiveBesideProgram
-{
-public:
-    explicit ArchiveBesideProgram(const QString& source)
-    {
-        QFile::remove(path);
-        EXPECT_TRUE(QFile::copy(source, path));
-    }
-    ~ArchiveBesideProgram() { QFile::remove(path); }
-
-private:
-    const QString path = QCoreApplication::applicationDirPath() + "/InstallerData.7z";
 };
 
 } // namespace
@@ -189,7 +176,7 @@ TEST_F(InstallerMediatorTest, ArchiveTellsTheSpaceThatIsNeeded)
         [&]
         {
             QWidget* box = QApplication::activeModalWidget();
-            boxText = box->property("text").toString();
+            boxText = box->findChild<QLabel*>("message")->text();
             box->close();
         });
     const auto mediator = Create(true);

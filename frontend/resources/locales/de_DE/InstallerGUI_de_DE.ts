@@ -76,4 +76,308 @@
         <translation>Es ist nicht genügend Speicherplatz vorhanden</translation>
     </message>
 </context>
+<context>
+    <name>Wizard</name>
+    <message>
+        <source>The installation for all users needs the rights of an administrator: start the program as one.</source>
+        <translation>Für die Installation für alle Benutzer sind Administratorrechte nötig: Starten Sie das Programm als Administrator.</translation>
+    </message>
+    <message>
+        <source>The setup is damaged. Download it again.</source>
+        <translation>Das Installationsprogramm ist beschädigt. Laden Sie es erneut herunter.</translation>
+    </message>
+    <message>
+        <source>Where to install</source>
+        <translation>Installationsort</translation>
+    </message>
+    <message>
+        <source>The program gets a folder of its own. You can keep the proposed place.</source>
+        <translation>Das Programm erhält einen eigenen Ordner. Sie können den vorgeschlagenen Ort beibehalten.</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Ordner:</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>&amp;Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Ordner auswählen</translation>
+    </message>
+    <message>
+        <source>Will be installed in: %1</source>
+        <translation>Wird installiert in: %1</translation>
+    </message>
+    <message>
+        <source>Space needed: %1. Free there: %2.</source>
+        <translation>Benötigter Speicherplatz: %1. Dort frei: %2.</translation>
+    </message>
+    <message>
+        <source>Installing %1</source>
+        <translation>%1 wird installiert</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Weiter</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>&amp;Installieren</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Fertig</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
+        <translation>Die Installation kann jetzt nicht angehalten werden: Dateien und Einstellungen werden gerade geändert. Sie ist gleich beendet.</translation>
+    </message>
+    <message>
+        <source>Cancel the installation of %1?</source>
+        <translation>Installation von %1 abbrechen?</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was installed.</source>
+        <translation>Abgebrochen: Es wurde nichts installiert.</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>Die Datei %1 fehlt. Legen Sie sie wieder neben das Installationsprogramm.</translation>
+    </message>
+    <message>
+        <source>%1 is installed</source>
+        <translation>%1 ist installiert</translation>
+    </message>
+    <message>
+        <source>%1 could not be installed</source>
+        <translation>%1 konnte nicht installiert werden</translation>
+    </message>
+    <message>
+        <source>Log file: %1</source>
+        <translation>Protokolldatei: %1</translation>
+    </message>
+    <message>
+        <source>Everything is in its place. You can begin right away.</source>
+        <translation>Alles ist an seinem Platz. Sie können sofort beginnen.</translation>
+    </message>
+    <message>
+        <source>How to install</source>
+        <translation>Installationsoptionen</translation>
+    </message>
+    <message>
+        <source>Install for</source>
+        <translation>Installieren für</translation>
+    </message>
+    <message>
+        <source>Only for &amp;me</source>
+        <translation>Nur für &amp;mich</translation>
+    </message>
+    <message>
+        <source>&amp;All users of this computer (administrator rights needed)</source>
+        <translation>&amp;Alle Benutzer dieses Computers (Administratorrechte nötig)</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>Außerdem</translation>
+    </message>
+    <message>
+        <source>Create &amp;shortcuts on the desktop and in the Start menu</source>
+        <translation>&amp;Verknüpfungen auf dem Desktop und im Startmenü anlegen</translation>
+    </message>
+    <message>
+        <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
+        <translation>„Konvertieren in“ und „Öffnen mit“ im &amp;Kontextmenü von Mediendateien anbieten</translation>
+    </message>
+    <message>
+        <source>Start automatically when I &amp;log on</source>
+        <translation>Bei der A&amp;nmeldung automatisch starten</translation>
+    </message>
+    <message>
+        <source>Send anonymous &amp;usage statistics to improve the program</source>
+        <translation>Anonyme Nutzungs&amp;statistik senden, um das Programm zu verbessern</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimieren</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Einzelheiten</translation>
+    </message>
+    <message>
+        <source>Hide &amp;details</source>
+        <translation>&amp;Einzelheiten ausblenden</translation>
+    </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>&amp;Einzelheiten anzeigen</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>Wird vorbereitet...</translation>
+    </message>
+    <message>
+        <source>&amp;Start %1 now</source>
+        <translation>%1 jetzt &amp;starten</translation>
+    </message>
+    <message>
+        <source>These files could not be copied:</source>
+        <translation>Diese Dateien konnten nicht kopiert werden:</translation>
+    </message>
+    <message>
+        <source>Removing the previous version...</source>
+        <translation>Vorherige Version wird entfernt...</translation>
+    </message>
+    <message>
+        <source>Placing the files...</source>
+        <translation>Dateien werden abgelegt...</translation>
+    </message>
+    <message>
+        <source>Registering the program...</source>
+        <translation>Programm wird registriert...</translation>
+    </message>
+    <message>
+        <source>Checking hardware acceleration...</source>
+        <translation>Hardwarebeschleunigung wird geprüft...</translation>
+    </message>
+    <message>
+        <source>Downloading additional data...</source>
+        <translation>Zusätzliche Daten werden heruntergeladen...</translation>
+    </message>
+    <message>
+        <source>Finishing...</source>
+        <translation>Wird abgeschlossen...</translation>
+    </message>
+    <message>
+        <source>Uninstalling %1</source>
+        <translation>%1 wird deinstalliert</translation>
+    </message>
+    <message>
+        <source>%1 was uninstalled</source>
+        <translation>%1 wurde deinstalliert</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;survey&quot;&gt;Sagen Sie uns, warum Sie es deinstalliert haben&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1 could not be uninstalled</source>
+        <translation>%1 konnte nicht deinstalliert werden</translation>
+    </message>
+    <message>
+        <source>Welcome to %1</source>
+        <translation>Willkommen bei %1</translation>
+    </message>
+    <message>
+        <source>A few steps, and the program is ready to use.</source>
+        <translation>Nur wenige Schritte, dann ist das Programm einsatzbereit.</translation>
+    </message>
+    <message>
+        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
+        <translation>Diese oder eine neuere Version ist bereits installiert. Eine erneute Installation ersetzt sie und behält Ihre Einstellungen.</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Sprache:</translation>
+    </message>
+    <message>
+        <source>By installing you accept the &lt;a href=&quot;licence&quot;&gt;licence agreement&lt;/a&gt; and the &lt;a href=&quot;privacy&quot;&gt;privacy policy&lt;/a&gt;.</source>
+        <translation>Mit der Installation akzeptieren Sie die &lt;a href=&quot;licence&quot;&gt;Lizenzvereinbarung&lt;/a&gt; und die &lt;a href=&quot;privacy&quot;&gt;Datenschutzerklärung&lt;/a&gt;.</translation>
+    </message>
+</context>
+<context>
+    <name>Uninstaller</name>
+    <message>
+        <source>The program is installed in %1, not in %2: nothing was deleted. Start the uninstaller there.</source>
+        <translation>Das Programm ist in %1 installiert, nicht in %2: Es wurde nichts gelöscht. Starten Sie das Deinstallationsprogramm dort.</translation>
+    </message>
+    <message>
+        <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
+        <translation>Das Programm ist in %1 nicht installiert: Es wurde nichts gelöscht. Löschen Sie den Ordner von Hand, wenn er nicht gebraucht wird.</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>Abgebrochen: Es wurde nichts gelöscht.</translation>
+    </message>
+    <message>
+        <source>Uninstall %1?</source>
+        <translation>%1 deinstallieren?</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
+        <translation>Das Programm, seine Verknüpfungen und seine Einträge in Windows werden entfernt. Ihre Mediendateien bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete my settings</source>
+        <translation>&amp;Meine Einstellungen löschen</translation>
+    </message>
+    <message>
+        <source>Delete the files beside this program all the same?</source>
+        <translation>Die Dateien neben diesem Programm trotzdem löschen?</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall</source>
+        <translation>&amp;Deinstallieren</translation>
+    </message>
+    <message>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
+        <translation>Die Deinstallation kann jetzt nicht angehalten werden: Dateien und Einstellungen werden gerade entfernt. Sie ist gleich beendet.</translation>
+    </message>
+    <message>
+        <source>Thank you for having used it.</source>
+        <translation>Vielen Dank, dass Sie das Programm verwendet haben.</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+</context>
+<context>
+    <name>Vorlan::AlertBox</name>
+    <message>
+        <source>Retry</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
 </TS>

@@ -76,4 +76,308 @@
         <translation>There is not enough disk space</translation>
     </message>
 </context>
+<context>
+    <name>Wizard</name>
+    <message>
+        <source>The installation for all users needs the rights of an administrator: start the program as one.</source>
+        <translation>The installation for all users needs the rights of an administrator: start the program as one.</translation>
+    </message>
+    <message>
+        <source>The setup is damaged. Download it again.</source>
+        <translation>The setup is damaged. Download it again.</translation>
+    </message>
+    <message>
+        <source>Where to install</source>
+        <translation>Where to install</translation>
+    </message>
+    <message>
+        <source>The program gets a folder of its own. You can keep the proposed place.</source>
+        <translation>The program gets a folder of its own. You can keep the proposed place.</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Folder:</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>B&amp;rowse...</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Choose a folder</translation>
+    </message>
+    <message>
+        <source>Will be installed in: %1</source>
+        <translation>Will be installed in: %1</translation>
+    </message>
+    <message>
+        <source>Space needed: %1. Free there: %2.</source>
+        <translation>Space needed: %1. Free there: %2.</translation>
+    </message>
+    <message>
+        <source>Installing %1</source>
+        <translation>Installing %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Next</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Back</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>&amp;Install</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Finish</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Try again</translation>
+    </message>
+    <message>
+        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
+        <translation>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</translation>
+    </message>
+    <message>
+        <source>Cancel the installation of %1?</source>
+        <translation>Cancel the installation of %1?</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was installed.</source>
+        <translation>Cancelled: nothing was installed.</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>The file %1 is missing. Put it back beside the setup program.</translation>
+    </message>
+    <message>
+        <source>%1 is installed</source>
+        <translation>%1 is installed</translation>
+    </message>
+    <message>
+        <source>%1 could not be installed</source>
+        <translation>%1 could not be installed</translation>
+    </message>
+    <message>
+        <source>Log file: %1</source>
+        <translation>Log file: %1</translation>
+    </message>
+    <message>
+        <source>Everything is in its place. You can begin right away.</source>
+        <translation>Everything is in its place. You can begin right away.</translation>
+    </message>
+    <message>
+        <source>How to install</source>
+        <translation>How to install</translation>
+    </message>
+    <message>
+        <source>Install for</source>
+        <translation>Install for</translation>
+    </message>
+    <message>
+        <source>Only for &amp;me</source>
+        <translation>Only for &amp;me</translation>
+    </message>
+    <message>
+        <source>&amp;All users of this computer (administrator rights needed)</source>
+        <translation>&amp;All users of this computer (administrator rights needed)</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>Also</translation>
+    </message>
+    <message>
+        <source>Create &amp;shortcuts on the desktop and in the Start menu</source>
+        <translation>Create &amp;shortcuts on the desktop and in the Start menu</translation>
+    </message>
+    <message>
+        <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
+        <translation>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</translation>
+    </message>
+    <message>
+        <source>Start automatically when I &amp;log on</source>
+        <translation>Start automatically when I &amp;log on</translation>
+    </message>
+    <message>
+        <source>Send anonymous &amp;usage statistics to improve the program</source>
+        <translation>Send anonymous &amp;usage statistics to improve the program</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimize</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progress</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Hide &amp;details</source>
+        <translation>Hide &amp;details</translation>
+    </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>Show &amp;details</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>Preparing...</translation>
+    </message>
+    <message>
+        <source>&amp;Start %1 now</source>
+        <translation>&amp;Start %1 now</translation>
+    </message>
+    <message>
+        <source>These files could not be copied:</source>
+        <translation>These files could not be copied:</translation>
+    </message>
+    <message>
+        <source>Removing the previous version...</source>
+        <translation>Removing the previous version...</translation>
+    </message>
+    <message>
+        <source>Placing the files...</source>
+        <translation>Placing the files...</translation>
+    </message>
+    <message>
+        <source>Registering the program...</source>
+        <translation>Registering the program...</translation>
+    </message>
+    <message>
+        <source>Checking hardware acceleration...</source>
+        <translation>Checking hardware acceleration...</translation>
+    </message>
+    <message>
+        <source>Downloading additional data...</source>
+        <translation>Downloading additional data...</translation>
+    </message>
+    <message>
+        <source>Finishing...</source>
+        <translation>Finishing...</translation>
+    </message>
+    <message>
+        <source>Uninstalling %1</source>
+        <translation>Uninstalling %1</translation>
+    </message>
+    <message>
+        <source>%1 was uninstalled</source>
+        <translation>%1 was uninstalled</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1 could not be uninstalled</source>
+        <translation>%1 could not be uninstalled</translation>
+    </message>
+    <message>
+        <source>Welcome to %1</source>
+        <translation>Welcome to %1</translation>
+    </message>
+    <message>
+        <source>A few steps, and the program is ready to use.</source>
+        <translation>A few steps, and the program is ready to use.</translation>
+    </message>
+    <message>
+        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
+        <translation>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Language:</translation>
+    </message>
+    <message>
+        <source>By installing you accept the &lt;a href=&quot;licence&quot;&gt;licence agreement&lt;/a&gt; and the &lt;a href=&quot;privacy&quot;&gt;privacy policy&lt;/a&gt;.</source>
+        <translation>By installing you accept the &lt;a href=&quot;licence&quot;&gt;licence agreement&lt;/a&gt; and the &lt;a href=&quot;privacy&quot;&gt;privacy policy&lt;/a&gt;.</translation>
+    </message>
+</context>
+<context>
+    <name>Uninstaller</name>
+    <message>
+        <source>The program is installed in %1, not in %2: nothing was deleted. Start the uninstaller there.</source>
+        <translation>The program is installed in %1, not in %2: nothing was deleted. Start the uninstaller there.</translation>
+    </message>
+    <message>
+        <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
+        <translation>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>Cancelled: nothing was deleted.</translation>
+    </message>
+    <message>
+        <source>Uninstall %1?</source>
+        <translation>Uninstall %1?</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
+        <translation>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete my settings</source>
+        <translation>&amp;Delete my settings</translation>
+    </message>
+    <message>
+        <source>Delete the files beside this program all the same?</source>
+        <translation>Delete the files beside this program all the same?</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall</source>
+        <translation>&amp;Uninstall</translation>
+    </message>
+    <message>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
+        <translation>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</translation>
+    </message>
+    <message>
+        <source>Thank you for having used it.</source>
+        <translation>Thank you for having used it.</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Yes</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+</context>
+<context>
+    <name>Vorlan::AlertBox</name>
+    <message>
+        <source>Retry</source>
+        <translation>Retry</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
 </TS>

@@ -76,4 +76,308 @@
         <translation>L&apos;espace disque est insuffisant</translation>
     </message>
 </context>
+<context>
+    <name>Wizard</name>
+    <message>
+        <source>The installation for all users needs the rights of an administrator: start the program as one.</source>
+        <translation>L&apos;installation pour tous les utilisateurs nécessite des droits d&apos;administrateur : lancez le programme en tant qu&apos;administrateur.</translation>
+    </message>
+    <message>
+        <source>The setup is damaged. Download it again.</source>
+        <translation>Le programme d&apos;installation est endommagé. Téléchargez-le à nouveau.</translation>
+    </message>
+    <message>
+        <source>Where to install</source>
+        <translation>Emplacement d&apos;installation</translation>
+    </message>
+    <message>
+        <source>The program gets a folder of its own. You can keep the proposed place.</source>
+        <translation>Le programme aura son propre dossier. Vous pouvez garder l&apos;emplacement proposé.</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Dossier :</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>&amp;Parcourir...</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+    <message>
+        <source>Will be installed in: %1</source>
+        <translation>Sera installé dans : %1</translation>
+    </message>
+    <message>
+        <source>Space needed: %1. Free there: %2.</source>
+        <translation>Espace nécessaire : %1. Libre à cet endroit : %2.</translation>
+    </message>
+    <message>
+        <source>Installing %1</source>
+        <translation>Installation de %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>P&amp;récédent</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>&amp;Installer</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Terminer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
+    <message>
+        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
+        <translation>L&apos;installation ne peut pas être arrêtée maintenant : des fichiers et des paramètres sont en cours de modification. Elle se termine dans un instant.</translation>
+    </message>
+    <message>
+        <source>Cancel the installation of %1?</source>
+        <translation>Annuler l&apos;installation de %1 ?</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was installed.</source>
+        <translation>Annulé : rien n&apos;a été installé.</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>Le fichier %1 est manquant. Remettez-le à côté du programme d&apos;installation.</translation>
+    </message>
+    <message>
+        <source>%1 is installed</source>
+        <translation>%1 est installé</translation>
+    </message>
+    <message>
+        <source>%1 could not be installed</source>
+        <translation>%1 n&apos;a pas pu être installé</translation>
+    </message>
+    <message>
+        <source>Log file: %1</source>
+        <translation>Fichier journal : %1</translation>
+    </message>
+    <message>
+        <source>Everything is in its place. You can begin right away.</source>
+        <translation>Tout est en place. Vous pouvez commencer tout de suite.</translation>
+    </message>
+    <message>
+        <source>How to install</source>
+        <translation>Options d&apos;installation</translation>
+    </message>
+    <message>
+        <source>Install for</source>
+        <translation>Installer pour</translation>
+    </message>
+    <message>
+        <source>Only for &amp;me</source>
+        <translation>&amp;Moi uniquement</translation>
+    </message>
+    <message>
+        <source>&amp;All users of this computer (administrator rights needed)</source>
+        <translation>&amp;Tous les utilisateurs de cet ordinateur (droits d&apos;administrateur requis)</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>Également</translation>
+    </message>
+    <message>
+        <source>Create &amp;shortcuts on the desktop and in the Start menu</source>
+        <translation>&amp;Créer des raccourcis sur le bureau et dans le menu Démarrer</translation>
+    </message>
+    <message>
+        <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
+        <translation>Proposer « Convertir en » et « Ouvrir avec » dans le menu c&amp;ontextuel des médias</translation>
+    </message>
+    <message>
+        <source>Start automatically when I &amp;log on</source>
+        <translation>&amp;Lancer automatiquement à l&apos;ouverture de session</translation>
+    </message>
+    <message>
+        <source>Send anonymous &amp;usage statistics to improve the program</source>
+        <translation>Envoyer des statistiques d&apos;&amp;utilisation anonymes pour améliorer le programme</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>Hide &amp;details</source>
+        <translation>Masquer les &amp;détails</translation>
+    </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>Afficher les &amp;détails</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>Préparation...</translation>
+    </message>
+    <message>
+        <source>&amp;Start %1 now</source>
+        <translation>&amp;Démarrer %1 maintenant</translation>
+    </message>
+    <message>
+        <source>These files could not be copied:</source>
+        <translation>Ces fichiers n&apos;ont pas pu être copiés :</translation>
+    </message>
+    <message>
+        <source>Removing the previous version...</source>
+        <translation>Suppression de la version précédente...</translation>
+    </message>
+    <message>
+        <source>Placing the files...</source>
+        <translation>Mise en place des fichiers...</translation>
+    </message>
+    <message>
+        <source>Registering the program...</source>
+        <translation>Enregistrement du programme...</translation>
+    </message>
+    <message>
+        <source>Checking hardware acceleration...</source>
+        <translation>Vérification de l&apos;accélération matérielle...</translation>
+    </message>
+    <message>
+        <source>Downloading additional data...</source>
+        <translation>Téléchargement de données supplémentaires...</translation>
+    </message>
+    <message>
+        <source>Finishing...</source>
+        <translation>Finalisation...</translation>
+    </message>
+    <message>
+        <source>Uninstalling %1</source>
+        <translation>Désinstallation de %1</translation>
+    </message>
+    <message>
+        <source>%1 was uninstalled</source>
+        <translation>%1 a été désinstallé</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;survey&quot;&gt;Dites-nous pourquoi vous l&apos;avez désinstallé&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1 could not be uninstalled</source>
+        <translation>%1 n&apos;a pas pu être désinstallé</translation>
+    </message>
+    <message>
+        <source>Welcome to %1</source>
+        <translation>Bienvenue dans %1</translation>
+    </message>
+    <message>
+        <source>A few steps, and the program is ready to use.</source>
+        <translation>Quelques étapes, et le programme est prêt.</translation>
+    </message>
+    <message>
+        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
+        <translation>Cette version ou une plus récente est déjà installée. Une nouvelle installation la remplace et conserve vos paramètres.</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Langue :</translation>
+    </message>
+    <message>
+        <source>By installing you accept the &lt;a href=&quot;licence&quot;&gt;licence agreement&lt;/a&gt; and the &lt;a href=&quot;privacy&quot;&gt;privacy policy&lt;/a&gt;.</source>
+        <translation>En installant, vous acceptez le &lt;a href=&quot;licence&quot;&gt;contrat de licence&lt;/a&gt; et la &lt;a href=&quot;privacy&quot;&gt;politique de confidentialité&lt;/a&gt;.</translation>
+    </message>
+</context>
+<context>
+    <name>Uninstaller</name>
+    <message>
+        <source>The program is installed in %1, not in %2: nothing was deleted. Start the uninstaller there.</source>
+        <translation>Le programme est installé dans %1 et non dans %2 : rien n&apos;a été supprimé. Lancez le désinstallateur à cet endroit.</translation>
+    </message>
+    <message>
+        <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
+        <translation>Le programme n&apos;est pas installé dans %1 : rien n&apos;a été supprimé. Supprimez le dossier à la main s&apos;il n&apos;est plus utile.</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>Annulé : rien n&apos;a été supprimé.</translation>
+    </message>
+    <message>
+        <source>Uninstall %1?</source>
+        <translation>Désinstaller %1 ?</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
+        <translation>Le programme, ses raccourcis et ses entrées dans Windows seront supprimés. Vos fichiers multimédias restent.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete my settings</source>
+        <translation>&amp;Supprimer mes paramètres</translation>
+    </message>
+    <message>
+        <source>Delete the files beside this program all the same?</source>
+        <translation>Supprimer quand même les fichiers situés à côté de ce programme ?</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall</source>
+        <translation>&amp;Désinstaller</translation>
+    </message>
+    <message>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
+        <translation>La désinstallation ne peut pas être arrêtée maintenant : des fichiers et des paramètres sont en cours de suppression. Elle se termine dans un instant.</translation>
+    </message>
+    <message>
+        <source>Thank you for having used it.</source>
+        <translation>Merci de l&apos;avoir utilisé.</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Oui</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Non</translation>
+    </message>
+</context>
+<context>
+    <name>Vorlan::AlertBox</name>
+    <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
 </TS>

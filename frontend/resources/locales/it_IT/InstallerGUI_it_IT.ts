@@ -76,4 +76,308 @@
         <translation>Spazio su disco insufficiente</translation>
     </message>
 </context>
+<context>
+    <name>Wizard</name>
+    <message>
+        <source>The installation for all users needs the rights of an administrator: start the program as one.</source>
+        <translation>L&apos;installazione per tutti gli utenti richiede i diritti di amministratore: avviare il programma come amministratore.</translation>
+    </message>
+    <message>
+        <source>The setup is damaged. Download it again.</source>
+        <translation>Il programma di installazione è danneggiato. Scaricarlo di nuovo.</translation>
+    </message>
+    <message>
+        <source>Where to install</source>
+        <translation>Dove installare</translation>
+    </message>
+    <message>
+        <source>The program gets a folder of its own. You can keep the proposed place.</source>
+        <translation>Il programma avrà una cartella propria. È possibile mantenere la posizione proposta.</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Cartella:</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>&amp;Sfoglia...</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Scegliere una cartella</translation>
+    </message>
+    <message>
+        <source>Will be installed in: %1</source>
+        <translation>Verrà installato in: %1</translation>
+    </message>
+    <message>
+        <source>Space needed: %1. Free there: %2.</source>
+        <translation>Spazio necessario: %1. Libero in quella posizione: %2.</translation>
+    </message>
+    <message>
+        <source>Installing %1</source>
+        <translation>Installazione di %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Avanti</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Indietro</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>I&amp;nstalla</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Fine</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Riprova</translation>
+    </message>
+    <message>
+        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
+        <translation>L&apos;installazione non può essere interrotta ora: file e impostazioni sono in corso di modifica. Terminerà tra un momento.</translation>
+    </message>
+    <message>
+        <source>Cancel the installation of %1?</source>
+        <translation>Annullare l&apos;installazione di %1?</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was installed.</source>
+        <translation>Annullato: nulla è stato installato.</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>Il file %1 non è presente. Rimetterlo accanto al programma di installazione.</translation>
+    </message>
+    <message>
+        <source>%1 is installed</source>
+        <translation>%1 è installato</translation>
+    </message>
+    <message>
+        <source>%1 could not be installed</source>
+        <translation>Non è stato possibile installare %1</translation>
+    </message>
+    <message>
+        <source>Log file: %1</source>
+        <translation>File di registro: %1</translation>
+    </message>
+    <message>
+        <source>Everything is in its place. You can begin right away.</source>
+        <translation>Tutto è al suo posto. È possibile iniziare subito.</translation>
+    </message>
+    <message>
+        <source>How to install</source>
+        <translation>Come installare</translation>
+    </message>
+    <message>
+        <source>Install for</source>
+        <translation>Installa per</translation>
+    </message>
+    <message>
+        <source>Only for &amp;me</source>
+        <translation>Solo per &amp;me</translation>
+    </message>
+    <message>
+        <source>&amp;All users of this computer (administrator rights needed)</source>
+        <translation>&amp;Tutti gli utenti di questo computer (diritti di amministratore)</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>Inoltre</translation>
+    </message>
+    <message>
+        <source>Create &amp;shortcuts on the desktop and in the Start menu</source>
+        <translation>Crea c&amp;ollegamenti sul desktop e nel menu Start</translation>
+    </message>
+    <message>
+        <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
+        <translation>Offri &quot;Converti in&quot; e &quot;Apri con&quot; nel menu &amp;contestuale dei file multimediali</translation>
+    </message>
+    <message>
+        <source>Start automatically when I &amp;log on</source>
+        <translation>Avvia automaticamente all&apos;acc&amp;esso</translation>
+    </message>
+    <message>
+        <source>Send anonymous &amp;usage statistics to improve the program</source>
+        <translation>Invia statistiche di &amp;utilizzo anonime per migliorare il programma</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Riduci a icona</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Dettagli</translation>
+    </message>
+    <message>
+        <source>Hide &amp;details</source>
+        <translation>Nascondi &amp;dettagli</translation>
+    </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>Mostra &amp;dettagli</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>Preparazione...</translation>
+    </message>
+    <message>
+        <source>&amp;Start %1 now</source>
+        <translation>&amp;Avvia %1 ora</translation>
+    </message>
+    <message>
+        <source>These files could not be copied:</source>
+        <translation>Non è stato possibile copiare questi file:</translation>
+    </message>
+    <message>
+        <source>Removing the previous version...</source>
+        <translation>Rimozione della versione precedente...</translation>
+    </message>
+    <message>
+        <source>Placing the files...</source>
+        <translation>Copia dei file...</translation>
+    </message>
+    <message>
+        <source>Registering the program...</source>
+        <translation>Registrazione del programma...</translation>
+    </message>
+    <message>
+        <source>Checking hardware acceleration...</source>
+        <translation>Verifica dell&apos;accelerazione hardware...</translation>
+    </message>
+    <message>
+        <source>Downloading additional data...</source>
+        <translation>Download di dati aggiuntivi...</translation>
+    </message>
+    <message>
+        <source>Finishing...</source>
+        <translation>Completamento...</translation>
+    </message>
+    <message>
+        <source>Uninstalling %1</source>
+        <translation>Disinstallazione di %1</translation>
+    </message>
+    <message>
+        <source>%1 was uninstalled</source>
+        <translation>%1 è stato disinstallato</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;survey&quot;&gt;Dicci perché lo hai disinstallato&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1 could not be uninstalled</source>
+        <translation>Non è stato possibile disinstallare %1</translation>
+    </message>
+    <message>
+        <source>Welcome to %1</source>
+        <translation>Benvenuti in %1</translation>
+    </message>
+    <message>
+        <source>A few steps, and the program is ready to use.</source>
+        <translation>Pochi passaggi e il programma è pronto.</translation>
+    </message>
+    <message>
+        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
+        <translation>Questa versione o una più recente è già installata. Una nuova installazione la sostituisce e mantiene le impostazioni.</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Lingua:</translation>
+    </message>
+    <message>
+        <source>By installing you accept the &lt;a href=&quot;licence&quot;&gt;licence agreement&lt;/a&gt; and the &lt;a href=&quot;privacy&quot;&gt;privacy policy&lt;/a&gt;.</source>
+        <translation>Installando si accettano il &lt;a href=&quot;licence&quot;&gt;contratto di licenza&lt;/a&gt; e l&apos;&lt;a href=&quot;privacy&quot;&gt;informativa sulla privacy&lt;/a&gt;.</translation>
+    </message>
+</context>
+<context>
+    <name>Uninstaller</name>
+    <message>
+        <source>The program is installed in %1, not in %2: nothing was deleted. Start the uninstaller there.</source>
+        <translation>Il programma è installato in %1, non in %2: nulla è stato eliminato. Avviare il programma di disinstallazione da lì.</translation>
+    </message>
+    <message>
+        <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
+        <translation>Il programma non è installato in %1: nulla è stato eliminato. Eliminare la cartella a mano se non serve.</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>Annullato: nulla è stato eliminato.</translation>
+    </message>
+    <message>
+        <source>Uninstall %1?</source>
+        <translation>Disinstallare %1?</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
+        <translation>Il programma, i suoi collegamenti e le sue voci in Windows verranno rimossi. I file multimediali restano.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete my settings</source>
+        <translation>&amp;Elimina le mie impostazioni</translation>
+    </message>
+    <message>
+        <source>Delete the files beside this program all the same?</source>
+        <translation>Eliminare comunque i file accanto a questo programma?</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall</source>
+        <translation>&amp;Disinstalla</translation>
+    </message>
+    <message>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
+        <translation>La disinstallazione non può essere interrotta ora: file e impostazioni sono in corso di rimozione. Terminerà tra un momento.</translation>
+    </message>
+    <message>
+        <source>Thank you for having used it.</source>
+        <translation>Grazie per averlo usato.</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sì</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+</context>
+<context>
+    <name>Vorlan::AlertBox</name>
+    <message>
+        <source>Retry</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
 </TS>

@@ -76,4 +76,308 @@
         <translation>ディスクの空き容量が不足しています</translation>
     </message>
 </context>
+<context>
+    <name>Wizard</name>
+    <message>
+        <source>The installation for all users needs the rights of an administrator: start the program as one.</source>
+        <translation>すべてのユーザー向けのインストールには管理者の権限が必要です。管理者としてプログラムを起動してください。</translation>
+    </message>
+    <message>
+        <source>The setup is damaged. Download it again.</source>
+        <translation>セットアップが壊れています。もう一度ダウンロードしてください。</translation>
+    </message>
+    <message>
+        <source>Where to install</source>
+        <translation>インストール先</translation>
+    </message>
+    <message>
+        <source>The program gets a folder of its own. You can keep the proposed place.</source>
+        <translation>プログラム専用のフォルダーが作られます。提案された場所のままでもかまいません。</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>フォルダー(&amp;F):</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>参照(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>フォルダーの選択</translation>
+    </message>
+    <message>
+        <source>Will be installed in: %1</source>
+        <translation>インストール先: %1</translation>
+    </message>
+    <message>
+        <source>Space needed: %1. Free there: %2.</source>
+        <translation>必要な容量: %1、空き容量: %2</translation>
+    </message>
+    <message>
+        <source>Installing %1</source>
+        <translation>%1 をインストールしています</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>次へ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>戻る(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>インストール(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>完了(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>再試行(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
+        <translation>ファイルと設定を変更しているため、今はインストールを中止できません。まもなく終わります。</translation>
+    </message>
+    <message>
+        <source>Cancel the installation of %1?</source>
+        <translation>%1 のインストールをキャンセルしますか?</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was installed.</source>
+        <translation>キャンセルしました。何もインストールされていません。</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>ファイル %1 がありません。セットアップと同じ場所に戻してください。</translation>
+    </message>
+    <message>
+        <source>%1 is installed</source>
+        <translation>%1 をインストールしました</translation>
+    </message>
+    <message>
+        <source>%1 could not be installed</source>
+        <translation>%1 をインストールできませんでした</translation>
+    </message>
+    <message>
+        <source>Log file: %1</source>
+        <translation>ログファイル: %1</translation>
+    </message>
+    <message>
+        <source>Everything is in its place. You can begin right away.</source>
+        <translation>準備が整いました。すぐに使い始められます。</translation>
+    </message>
+    <message>
+        <source>How to install</source>
+        <translation>インストールの設定</translation>
+    </message>
+    <message>
+        <source>Install for</source>
+        <translation>対象ユーザー</translation>
+    </message>
+    <message>
+        <source>Only for &amp;me</source>
+        <translation>自分のみ(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;All users of this computer (administrator rights needed)</source>
+        <translation>このコンピューターのすべてのユーザー (管理者の権限が必要)(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>Create &amp;shortcuts on the desktop and in the Start menu</source>
+        <translation>デスクトップとスタートメニューにショートカットを作成する(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
+        <translation>右クリックメニューに「変換」と「プログラムから開く」を表示する(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Start automatically when I &amp;log on</source>
+        <translation>ログオン時に自動的に起動する(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Send anonymous &amp;usage statistics to improve the program</source>
+        <translation>改善のために匿名の使用統計を送信する(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>Hide &amp;details</source>
+        <translation>詳細を隠す(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>詳細を表示(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>準備しています...</translation>
+    </message>
+    <message>
+        <source>&amp;Start %1 now</source>
+        <translation>%1 を今すぐ起動する(&amp;S)</translation>
+    </message>
+    <message>
+        <source>These files could not be copied:</source>
+        <translation>次のファイルをコピーできませんでした:</translation>
+    </message>
+    <message>
+        <source>Removing the previous version...</source>
+        <translation>以前のバージョンを削除しています...</translation>
+    </message>
+    <message>
+        <source>Placing the files...</source>
+        <translation>ファイルを配置しています...</translation>
+    </message>
+    <message>
+        <source>Registering the program...</source>
+        <translation>プログラムを登録しています...</translation>
+    </message>
+    <message>
+        <source>Checking hardware acceleration...</source>
+        <translation>ハードウェアアクセラレーションを確認しています...</translation>
+    </message>
+    <message>
+        <source>Downloading additional data...</source>
+        <translation>追加データをダウンロードしています...</translation>
+    </message>
+    <message>
+        <source>Finishing...</source>
+        <translation>仕上げています...</translation>
+    </message>
+    <message>
+        <source>Uninstalling %1</source>
+        <translation>%1 をアンインストールしています</translation>
+    </message>
+    <message>
+        <source>%1 was uninstalled</source>
+        <translation>%1 をアンインストールしました</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;survey&quot;&gt;アンインストールの理由をお聞かせください&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1 could not be uninstalled</source>
+        <translation>%1 をアンインストールできませんでした</translation>
+    </message>
+    <message>
+        <source>Welcome to %1</source>
+        <translation>%1 へようこそ</translation>
+    </message>
+    <message>
+        <source>A few steps, and the program is ready to use.</source>
+        <translation>あと少しの手順で、すぐに使えるようになります。</translation>
+    </message>
+    <message>
+        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
+        <translation>このバージョンまたはより新しいバージョンがすでにインストールされています。再インストールすると置き換えられ、設定は引き継がれます。</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>言語(&amp;L):</translation>
+    </message>
+    <message>
+        <source>By installing you accept the &lt;a href=&quot;licence&quot;&gt;licence agreement&lt;/a&gt; and the &lt;a href=&quot;privacy&quot;&gt;privacy policy&lt;/a&gt;.</source>
+        <translation>インストールすると、&lt;a href=&quot;licence&quot;&gt;使用許諾契約&lt;/a&gt;と&lt;a href=&quot;privacy&quot;&gt;プライバシーポリシー&lt;/a&gt;に同意したことになります。</translation>
+    </message>
+</context>
+<context>
+    <name>Uninstaller</name>
+    <message>
+        <source>The program is installed in %1, not in %2: nothing was deleted. Start the uninstaller there.</source>
+        <translation>プログラムは %2 ではなく %1 にインストールされています。何も削除されませんでした。そちらのアンインストーラーを起動してください。</translation>
+    </message>
+    <message>
+        <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
+        <translation>プログラムは %1 にインストールされていません。何も削除されませんでした。不要な場合はフォルダーを手動で削除してください。</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>キャンセルしました。何も削除されていません。</translation>
+    </message>
+    <message>
+        <source>Uninstall %1?</source>
+        <translation>%1 をアンインストールしますか?</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
+        <translation>プログラム、ショートカット、Windows の登録情報が削除されます。メディアファイルは残ります。</translation>
+    </message>
+    <message>
+        <source>&amp;Delete my settings</source>
+        <translation>自分の設定を削除する(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delete the files beside this program all the same?</source>
+        <translation>それでもこのプログラムと同じ場所のファイルを削除しますか?</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall</source>
+        <translation>アンインストール(&amp;U)</translation>
+    </message>
+    <message>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
+        <translation>ファイルと設定を削除しているため、今はアンインストールを中止できません。まもなく終わります。</translation>
+    </message>
+    <message>
+        <source>Thank you for having used it.</source>
+        <translation>ご利用ありがとうございました。</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>はい(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>いいえ(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>Vorlan::AlertBox</name>
+    <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
 </TS>

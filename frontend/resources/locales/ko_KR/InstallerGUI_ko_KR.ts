@@ -76,4 +76,308 @@
         <translation>디스크 공간이 부족합니다</translation>
     </message>
 </context>
+<context>
+    <name>Wizard</name>
+    <message>
+        <source>The installation for all users needs the rights of an administrator: start the program as one.</source>
+        <translation>모든 사용자를 위해 설치하려면 관리자 권한이 필요합니다. 관리자 권한으로 프로그램을 시작하세요.</translation>
+    </message>
+    <message>
+        <source>The setup is damaged. Download it again.</source>
+        <translation>설치 프로그램이 손상되었습니다. 다시 다운로드하세요.</translation>
+    </message>
+    <message>
+        <source>Where to install</source>
+        <translation>설치 위치</translation>
+    </message>
+    <message>
+        <source>The program gets a folder of its own. You can keep the proposed place.</source>
+        <translation>프로그램 전용 폴더가 만들어집니다. 제안된 위치를 그대로 사용해도 됩니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>폴더(&amp;F):</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>찾아보기(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>폴더 선택</translation>
+    </message>
+    <message>
+        <source>Will be installed in: %1</source>
+        <translation>설치될 위치: %1</translation>
+    </message>
+    <message>
+        <source>Space needed: %1. Free there: %2.</source>
+        <translation>필요한 공간: %1, 사용 가능한 공간: %2</translation>
+    </message>
+    <message>
+        <source>Installing %1</source>
+        <translation>%1 설치 중</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>다음(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>뒤로(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>설치(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>마침(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>다시 시도(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
+        <translation>파일과 설정을 변경하는 중이므로 지금은 설치를 중단할 수 없습니다. 곧 끝납니다.</translation>
+    </message>
+    <message>
+        <source>Cancel the installation of %1?</source>
+        <translation>%1 설치를 취소할까요?</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was installed.</source>
+        <translation>취소되었습니다. 아무것도 설치되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>%1 파일이 없습니다. 설치 프로그램 옆에 다시 넣어 주세요.</translation>
+    </message>
+    <message>
+        <source>%1 is installed</source>
+        <translation>%1이(가) 설치되었습니다</translation>
+    </message>
+    <message>
+        <source>%1 could not be installed</source>
+        <translation>%1을(를) 설치하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>Log file: %1</source>
+        <translation>로그 파일: %1</translation>
+    </message>
+    <message>
+        <source>Everything is in its place. You can begin right away.</source>
+        <translation>모든 준비가 끝났습니다. 바로 시작할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>How to install</source>
+        <translation>설치 옵션</translation>
+    </message>
+    <message>
+        <source>Install for</source>
+        <translation>설치 대상</translation>
+    </message>
+    <message>
+        <source>Only for &amp;me</source>
+        <translation>나만 사용(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;All users of this computer (administrator rights needed)</source>
+        <translation>이 컴퓨터의 모든 사용자(관리자 권한 필요)(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>추가 항목</translation>
+    </message>
+    <message>
+        <source>Create &amp;shortcuts on the desktop and in the Start menu</source>
+        <translation>바탕 화면과 시작 메뉴에 바로 가기 만들기(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
+        <translation>미디어 파일의 상황에 맞는 메뉴에 &quot;변환&quot;과 &quot;연결 프로그램&quot; 표시(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Start automatically when I &amp;log on</source>
+        <translation>로그온할 때 자동으로 시작(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Send anonymous &amp;usage statistics to improve the program</source>
+        <translation>프로그램 개선을 위해 익명 사용 통계 보내기(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>최소화</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>진행률</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>세부 정보</translation>
+    </message>
+    <message>
+        <source>Hide &amp;details</source>
+        <translation>세부 정보 숨기기(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>세부 정보 표시(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>준비하는 중...</translation>
+    </message>
+    <message>
+        <source>&amp;Start %1 now</source>
+        <translation>지금 %1 시작(&amp;S)</translation>
+    </message>
+    <message>
+        <source>These files could not be copied:</source>
+        <translation>다음 파일을 복사하지 못했습니다:</translation>
+    </message>
+    <message>
+        <source>Removing the previous version...</source>
+        <translation>이전 버전을 제거하는 중...</translation>
+    </message>
+    <message>
+        <source>Placing the files...</source>
+        <translation>파일을 배치하는 중...</translation>
+    </message>
+    <message>
+        <source>Registering the program...</source>
+        <translation>프로그램을 등록하는 중...</translation>
+    </message>
+    <message>
+        <source>Checking hardware acceleration...</source>
+        <translation>하드웨어 가속을 확인하는 중...</translation>
+    </message>
+    <message>
+        <source>Downloading additional data...</source>
+        <translation>추가 데이터를 다운로드하는 중...</translation>
+    </message>
+    <message>
+        <source>Finishing...</source>
+        <translation>마무리하는 중...</translation>
+    </message>
+    <message>
+        <source>Uninstalling %1</source>
+        <translation>%1 제거 중</translation>
+    </message>
+    <message>
+        <source>%1 was uninstalled</source>
+        <translation>%1이(가) 제거되었습니다</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;survey&quot;&gt;제거한 이유를 알려 주세요&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1 could not be uninstalled</source>
+        <translation>%1을(를) 제거하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>Welcome to %1</source>
+        <translation>%1에 오신 것을 환영합니다</translation>
+    </message>
+    <message>
+        <source>A few steps, and the program is ready to use.</source>
+        <translation>몇 단계만 거치면 바로 사용할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
+        <translation>이 버전 또는 더 새로운 버전이 이미 설치되어 있습니다. 다시 설치하면 교체되며 설정은 유지됩니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>언어(&amp;L):</translation>
+    </message>
+    <message>
+        <source>By installing you accept the &lt;a href=&quot;licence&quot;&gt;licence agreement&lt;/a&gt; and the &lt;a href=&quot;privacy&quot;&gt;privacy policy&lt;/a&gt;.</source>
+        <translation>설치하면 &lt;a href=&quot;licence&quot;&gt;사용권 계약&lt;/a&gt;과 &lt;a href=&quot;privacy&quot;&gt;개인정보 처리방침&lt;/a&gt;에 동의하는 것입니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Uninstaller</name>
+    <message>
+        <source>The program is installed in %1, not in %2: nothing was deleted. Start the uninstaller there.</source>
+        <translation>프로그램은 %2이(가) 아니라 %1에 설치되어 있습니다. 아무것도 삭제되지 않았습니다. 그곳의 제거 프로그램을 시작하세요.</translation>
+    </message>
+    <message>
+        <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
+        <translation>프로그램이 %1에 설치되어 있지 않습니다. 아무것도 삭제되지 않았습니다. 필요 없는 폴더라면 직접 삭제하세요.</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>취소되었습니다. 아무것도 삭제되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Uninstall %1?</source>
+        <translation>%1을(를) 제거할까요?</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
+        <translation>프로그램, 바로 가기 및 Windows의 등록 정보가 제거됩니다. 미디어 파일은 그대로 유지됩니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete my settings</source>
+        <translation>내 설정 삭제(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delete the files beside this program all the same?</source>
+        <translation>그래도 이 프로그램 옆의 파일을 삭제할까요?</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall</source>
+        <translation>제거(&amp;U)</translation>
+    </message>
+    <message>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
+        <translation>파일과 설정을 제거하는 중이므로 지금은 중단할 수 없습니다. 곧 끝납니다.</translation>
+    </message>
+    <message>
+        <source>Thank you for having used it.</source>
+        <translation>이용해 주셔서 감사합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>예(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>아니요(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>Vorlan::AlertBox</name>
+    <message>
+        <source>Retry</source>
+        <translation>다시 시도</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
 </TS>

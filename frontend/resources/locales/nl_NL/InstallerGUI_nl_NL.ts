@@ -76,4 +76,308 @@
         <translation>Er is onvoldoende schijfruimte</translation>
     </message>
 </context>
+<context>
+    <name>Wizard</name>
+    <message>
+        <source>The installation for all users needs the rights of an administrator: start the program as one.</source>
+        <translation>Voor installatie voor alle gebruikers zijn beheerdersrechten nodig: start het programma als beheerder.</translation>
+    </message>
+    <message>
+        <source>The setup is damaged. Download it again.</source>
+        <translation>Het installatieprogramma is beschadigd. Download het opnieuw.</translation>
+    </message>
+    <message>
+        <source>Where to install</source>
+        <translation>Installatielocatie</translation>
+    </message>
+    <message>
+        <source>The program gets a folder of its own. You can keep the proposed place.</source>
+        <translation>Het programma krijgt een eigen map. U kunt de voorgestelde plaats behouden.</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Map:</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>&amp;Bladeren...</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Map kiezen</translation>
+    </message>
+    <message>
+        <source>Will be installed in: %1</source>
+        <translation>Wordt geïnstalleerd in: %1</translation>
+    </message>
+    <message>
+        <source>Space needed: %1. Free there: %2.</source>
+        <translation>Benodigde ruimte: %1. Daar vrij: %2.</translation>
+    </message>
+    <message>
+        <source>Installing %1</source>
+        <translation>%1 wordt geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>V&amp;olgende</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Vorige</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>&amp;Installeren</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Voltooien</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Opnieuw proberen</translation>
+    </message>
+    <message>
+        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
+        <translation>De installatie kan nu niet worden gestopt: bestanden en instellingen worden gewijzigd. Het is zo klaar.</translation>
+    </message>
+    <message>
+        <source>Cancel the installation of %1?</source>
+        <translation>De installatie van %1 annuleren?</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was installed.</source>
+        <translation>Geannuleerd: er is niets geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>Het bestand %1 ontbreekt. Zet het terug naast het installatieprogramma.</translation>
+    </message>
+    <message>
+        <source>%1 is installed</source>
+        <translation>%1 is geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>%1 could not be installed</source>
+        <translation>%1 kon niet worden geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>Log file: %1</source>
+        <translation>Logbestand: %1</translation>
+    </message>
+    <message>
+        <source>Everything is in its place. You can begin right away.</source>
+        <translation>Alles staat op zijn plaats. U kunt meteen beginnen.</translation>
+    </message>
+    <message>
+        <source>How to install</source>
+        <translation>Installatieopties</translation>
+    </message>
+    <message>
+        <source>Install for</source>
+        <translation>Installeren voor</translation>
+    </message>
+    <message>
+        <source>Only for &amp;me</source>
+        <translation>Alleen voor &amp;mij</translation>
+    </message>
+    <message>
+        <source>&amp;All users of this computer (administrator rights needed)</source>
+        <translation>&amp;Alle gebruikers van deze computer (beheerdersrechten nodig)</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>Ook</translation>
+    </message>
+    <message>
+        <source>Create &amp;shortcuts on the desktop and in the Start menu</source>
+        <translation>&amp;Snelkoppelingen maken op het bureaublad en in het menu Start</translation>
+    </message>
+    <message>
+        <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
+        <translation>&apos;Converteren naar&apos; en &apos;Openen met&apos; in het &amp;contextmenu tonen</translation>
+    </message>
+    <message>
+        <source>Start automatically when I &amp;log on</source>
+        <translation>Automatisch starten bij aanme&amp;lden</translation>
+    </message>
+    <message>
+        <source>Send anonymous &amp;usage statistics to improve the program</source>
+        <translation>Anonieme &amp;gebruiksstatistieken sturen om het programma te verbeteren</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimaliseren</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Voortgang</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Hide &amp;details</source>
+        <translation>&amp;Details verbergen</translation>
+    </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>&amp;Details tonen</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>Voorbereiden...</translation>
+    </message>
+    <message>
+        <source>&amp;Start %1 now</source>
+        <translation>%1 nu &amp;starten</translation>
+    </message>
+    <message>
+        <source>These files could not be copied:</source>
+        <translation>Deze bestanden konden niet worden gekopieerd:</translation>
+    </message>
+    <message>
+        <source>Removing the previous version...</source>
+        <translation>Vorige versie wordt verwijderd...</translation>
+    </message>
+    <message>
+        <source>Placing the files...</source>
+        <translation>Bestanden worden geplaatst...</translation>
+    </message>
+    <message>
+        <source>Registering the program...</source>
+        <translation>Programma wordt geregistreerd...</translation>
+    </message>
+    <message>
+        <source>Checking hardware acceleration...</source>
+        <translation>Hardwareversnelling wordt gecontroleerd...</translation>
+    </message>
+    <message>
+        <source>Downloading additional data...</source>
+        <translation>Extra gegevens worden gedownload...</translation>
+    </message>
+    <message>
+        <source>Finishing...</source>
+        <translation>Afronden...</translation>
+    </message>
+    <message>
+        <source>Uninstalling %1</source>
+        <translation>%1 wordt verwijderd</translation>
+    </message>
+    <message>
+        <source>%1 was uninstalled</source>
+        <translation>%1 is verwijderd</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;survey&quot;&gt;Vertel ons waarom u het hebt verwijderd&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1 could not be uninstalled</source>
+        <translation>%1 kon niet worden verwijderd</translation>
+    </message>
+    <message>
+        <source>Welcome to %1</source>
+        <translation>Welkom bij %1</translation>
+    </message>
+    <message>
+        <source>A few steps, and the program is ready to use.</source>
+        <translation>Een paar stappen en het programma is klaar voor gebruik.</translation>
+    </message>
+    <message>
+        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
+        <translation>Deze versie of een nieuwere is al geïnstalleerd. Opnieuw installeren vervangt die en behoudt uw instellingen.</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Taal:</translation>
+    </message>
+    <message>
+        <source>By installing you accept the &lt;a href=&quot;licence&quot;&gt;licence agreement&lt;/a&gt; and the &lt;a href=&quot;privacy&quot;&gt;privacy policy&lt;/a&gt;.</source>
+        <translation>Door te installeren aanvaardt u de &lt;a href=&quot;licence&quot;&gt;licentieovereenkomst&lt;/a&gt; en het &lt;a href=&quot;privacy&quot;&gt;privacybeleid&lt;/a&gt;.</translation>
+    </message>
+</context>
+<context>
+    <name>Uninstaller</name>
+    <message>
+        <source>The program is installed in %1, not in %2: nothing was deleted. Start the uninstaller there.</source>
+        <translation>Het programma is geïnstalleerd in %1, niet in %2: er is niets verwijderd. Start daar het verwijderprogramma.</translation>
+    </message>
+    <message>
+        <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
+        <translation>Het programma is niet geïnstalleerd in %1: er is niets verwijderd. Verwijder de map handmatig als deze niet nodig is.</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>Geannuleerd: er is niets verwijderd.</translation>
+    </message>
+    <message>
+        <source>Uninstall %1?</source>
+        <translation>%1 verwijderen?</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
+        <translation>Het programma, de snelkoppelingen en de vermeldingen in Windows worden verwijderd. Uw mediabestanden blijven.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete my settings</source>
+        <translation>&amp;Mijn instellingen verwijderen</translation>
+    </message>
+    <message>
+        <source>Delete the files beside this program all the same?</source>
+        <translation>De bestanden naast dit programma toch verwijderen?</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall</source>
+        <translation>&amp;Verwijderen</translation>
+    </message>
+    <message>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
+        <translation>Het verwijderen kan nu niet worden gestopt: bestanden en instellingen worden verwijderd. Het is zo klaar.</translation>
+    </message>
+    <message>
+        <source>Thank you for having used it.</source>
+        <translation>Bedankt voor het gebruik.</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nee</translation>
+    </message>
+</context>
+<context>
+    <name>Vorlan::AlertBox</name>
+    <message>
+        <source>Retry</source>
+        <translation>Opnieuw</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
 </TS>

@@ -76,4 +76,308 @@
         <translation>Za mało miejsca na dysku</translation>
     </message>
 </context>
+<context>
+    <name>Wizard</name>
+    <message>
+        <source>The installation for all users needs the rights of an administrator: start the program as one.</source>
+        <translation>Instalacja dla wszystkich użytkowników wymaga uprawnień administratora: uruchom program jako administrator.</translation>
+    </message>
+    <message>
+        <source>The setup is damaged. Download it again.</source>
+        <translation>Instalator jest uszkodzony. Pobierz go ponownie.</translation>
+    </message>
+    <message>
+        <source>Where to install</source>
+        <translation>Miejsce instalacji</translation>
+    </message>
+    <message>
+        <source>The program gets a folder of its own. You can keep the proposed place.</source>
+        <translation>Program otrzyma własny folder. Możesz zachować proponowane miejsce.</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Folder:</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>P&amp;rzeglądaj...</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Wybierz folder</translation>
+    </message>
+    <message>
+        <source>Will be installed in: %1</source>
+        <translation>Zostanie zainstalowany w: %1</translation>
+    </message>
+    <message>
+        <source>Space needed: %1. Free there: %2.</source>
+        <translation>Potrzebne miejsce: %1. Wolne: %2.</translation>
+    </message>
+    <message>
+        <source>Installing %1</source>
+        <translation>Instalowanie %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Dalej</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Wstecz</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>&amp;Zainstaluj</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Zakończ</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Spróbuj ponownie</translation>
+    </message>
+    <message>
+        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
+        <translation>Instalacji nie można teraz zatrzymać: zmieniane są pliki i ustawienia. Zakończy się za chwilę.</translation>
+    </message>
+    <message>
+        <source>Cancel the installation of %1?</source>
+        <translation>Anulować instalację %1?</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was installed.</source>
+        <translation>Anulowano: niczego nie zainstalowano.</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>Brakuje pliku %1. Umieść go z powrotem obok instalatora.</translation>
+    </message>
+    <message>
+        <source>%1 is installed</source>
+        <translation>Zainstalowano %1</translation>
+    </message>
+    <message>
+        <source>%1 could not be installed</source>
+        <translation>Nie udało się zainstalować %1</translation>
+    </message>
+    <message>
+        <source>Log file: %1</source>
+        <translation>Plik dziennika: %1</translation>
+    </message>
+    <message>
+        <source>Everything is in its place. You can begin right away.</source>
+        <translation>Wszystko jest na swoim miejscu. Możesz od razu zacząć.</translation>
+    </message>
+    <message>
+        <source>How to install</source>
+        <translation>Opcje instalacji</translation>
+    </message>
+    <message>
+        <source>Install for</source>
+        <translation>Zainstaluj dla</translation>
+    </message>
+    <message>
+        <source>Only for &amp;me</source>
+        <translation>Tylko dla &amp;mnie</translation>
+    </message>
+    <message>
+        <source>&amp;All users of this computer (administrator rights needed)</source>
+        <translation>Wszyscy &amp;użytkownicy tego komputera (wymaga administratora)</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>Ponadto</translation>
+    </message>
+    <message>
+        <source>Create &amp;shortcuts on the desktop and in the Start menu</source>
+        <translation>Utwórz &amp;skróty na pulpicie i w menu Start</translation>
+    </message>
+    <message>
+        <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
+        <translation>Pokaż „Konwertuj na” i „Otwórz za pomocą” w menu &amp;kontekstowym</translation>
+    </message>
+    <message>
+        <source>Start automatically when I &amp;log on</source>
+        <translation>Uruchamiaj automatycznie przy &amp;logowaniu</translation>
+    </message>
+    <message>
+        <source>Send anonymous &amp;usage statistics to improve the program</source>
+        <translation>Wysyłaj &amp;anonimowe statystyki użycia, aby ulepszać program</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimalizuj</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Postęp</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Szczegóły</translation>
+    </message>
+    <message>
+        <source>Hide &amp;details</source>
+        <translation>Ukryj &amp;szczegóły</translation>
+    </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>Pokaż &amp;szczegóły</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>Przygotowywanie...</translation>
+    </message>
+    <message>
+        <source>&amp;Start %1 now</source>
+        <translation>&amp;Uruchom teraz %1</translation>
+    </message>
+    <message>
+        <source>These files could not be copied:</source>
+        <translation>Nie udało się skopiować tych plików:</translation>
+    </message>
+    <message>
+        <source>Removing the previous version...</source>
+        <translation>Usuwanie poprzedniej wersji...</translation>
+    </message>
+    <message>
+        <source>Placing the files...</source>
+        <translation>Umieszczanie plików...</translation>
+    </message>
+    <message>
+        <source>Registering the program...</source>
+        <translation>Rejestrowanie programu...</translation>
+    </message>
+    <message>
+        <source>Checking hardware acceleration...</source>
+        <translation>Sprawdzanie akceleracji sprzętowej...</translation>
+    </message>
+    <message>
+        <source>Downloading additional data...</source>
+        <translation>Pobieranie dodatkowych danych...</translation>
+    </message>
+    <message>
+        <source>Finishing...</source>
+        <translation>Kończenie...</translation>
+    </message>
+    <message>
+        <source>Uninstalling %1</source>
+        <translation>Odinstalowywanie %1</translation>
+    </message>
+    <message>
+        <source>%1 was uninstalled</source>
+        <translation>Odinstalowano %1</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;survey&quot;&gt;Powiedz nam, dlaczego go odinstalowano&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1 could not be uninstalled</source>
+        <translation>Nie udało się odinstalować %1</translation>
+    </message>
+    <message>
+        <source>Welcome to %1</source>
+        <translation>Witamy w %1</translation>
+    </message>
+    <message>
+        <source>A few steps, and the program is ready to use.</source>
+        <translation>Kilka kroków i program będzie gotowy do użycia.</translation>
+    </message>
+    <message>
+        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
+        <translation>Ta lub nowsza wersja jest już zainstalowana. Ponowna instalacja zastąpi ją i zachowa ustawienia.</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Język:</translation>
+    </message>
+    <message>
+        <source>By installing you accept the &lt;a href=&quot;licence&quot;&gt;licence agreement&lt;/a&gt; and the &lt;a href=&quot;privacy&quot;&gt;privacy policy&lt;/a&gt;.</source>
+        <translation>Instalując, akceptujesz &lt;a href=&quot;licence&quot;&gt;umowę licencyjną&lt;/a&gt; i &lt;a href=&quot;privacy&quot;&gt;politykę prywatności&lt;/a&gt;.</translation>
+    </message>
+</context>
+<context>
+    <name>Uninstaller</name>
+    <message>
+        <source>The program is installed in %1, not in %2: nothing was deleted. Start the uninstaller there.</source>
+        <translation>Program jest zainstalowany w %1, a nie w %2: niczego nie usunięto. Uruchom tam program odinstalowujący.</translation>
+    </message>
+    <message>
+        <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
+        <translation>Program nie jest zainstalowany w %1: niczego nie usunięto. Usuń folder ręcznie, jeśli jest zbędny.</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>Anulowano: niczego nie usunięto.</translation>
+    </message>
+    <message>
+        <source>Uninstall %1?</source>
+        <translation>Odinstalować %1?</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
+        <translation>Program, jego skróty i wpisy w systemie Windows zostaną usunięte. Twoje pliki multimedialne pozostaną.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete my settings</source>
+        <translation>Usuń &amp;moje ustawienia</translation>
+    </message>
+    <message>
+        <source>Delete the files beside this program all the same?</source>
+        <translation>Czy mimo to usunąć pliki obok tego programu?</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall</source>
+        <translation>&amp;Odinstaluj</translation>
+    </message>
+    <message>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
+        <translation>Odinstalowywania nie można teraz zatrzymać: usuwane są pliki i ustawienia. Zakończy się za chwilę.</translation>
+    </message>
+    <message>
+        <source>Thank you for having used it.</source>
+        <translation>Dziękujemy za korzystanie z programu.</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Tak</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nie</translation>
+    </message>
+</context>
+<context>
+    <name>Vorlan::AlertBox</name>
+    <message>
+        <source>Retry</source>
+        <translation>Ponów</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+</context>
 </TS>

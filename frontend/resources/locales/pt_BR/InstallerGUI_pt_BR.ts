@@ -76,4 +76,308 @@
         <translation>Não há espaço suficiente em disco</translation>
     </message>
 </context>
+<context>
+    <name>Wizard</name>
+    <message>
+        <source>The installation for all users needs the rights of an administrator: start the program as one.</source>
+        <translation>A instalação para todos os usuários exige direitos de administrador: inicie o programa como administrador.</translation>
+    </message>
+    <message>
+        <source>The setup is damaged. Download it again.</source>
+        <translation>O instalador está danificado. Baixe-o novamente.</translation>
+    </message>
+    <message>
+        <source>Where to install</source>
+        <translation>Onde instalar</translation>
+    </message>
+    <message>
+        <source>The program gets a folder of its own. You can keep the proposed place.</source>
+        <translation>O programa terá uma pasta própria. Você pode manter o local proposto.</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Pasta:</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>P&amp;rocurar...</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Escolher uma pasta</translation>
+    </message>
+    <message>
+        <source>Will be installed in: %1</source>
+        <translation>Será instalado em: %1</translation>
+    </message>
+    <message>
+        <source>Space needed: %1. Free there: %2.</source>
+        <translation>Espaço necessário: %1. Livre nesse local: %2.</translation>
+    </message>
+    <message>
+        <source>Installing %1</source>
+        <translation>Instalando %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Avançar</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Voltar</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>&amp;Instalar</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Concluir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Tentar novamente</translation>
+    </message>
+    <message>
+        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
+        <translation>A instalação não pode ser interrompida agora: arquivos e configurações estão sendo alterados. Ela termina em instantes.</translation>
+    </message>
+    <message>
+        <source>Cancel the installation of %1?</source>
+        <translation>Cancelar a instalação de %1?</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was installed.</source>
+        <translation>Cancelado: nada foi instalado.</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>O arquivo %1 não foi encontrado. Coloque-o de volta ao lado do instalador.</translation>
+    </message>
+    <message>
+        <source>%1 is installed</source>
+        <translation>%1 está instalado</translation>
+    </message>
+    <message>
+        <source>%1 could not be installed</source>
+        <translation>Não foi possível instalar %1</translation>
+    </message>
+    <message>
+        <source>Log file: %1</source>
+        <translation>Arquivo de log: %1</translation>
+    </message>
+    <message>
+        <source>Everything is in its place. You can begin right away.</source>
+        <translation>Tudo está no lugar. Você já pode começar.</translation>
+    </message>
+    <message>
+        <source>How to install</source>
+        <translation>Como instalar</translation>
+    </message>
+    <message>
+        <source>Install for</source>
+        <translation>Instalar para</translation>
+    </message>
+    <message>
+        <source>Only for &amp;me</source>
+        <translation>Somente para &amp;mim</translation>
+    </message>
+    <message>
+        <source>&amp;All users of this computer (administrator rights needed)</source>
+        <translation>&amp;Todos os usuários deste computador (exige administrador)</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>Também</translation>
+    </message>
+    <message>
+        <source>Create &amp;shortcuts on the desktop and in the Start menu</source>
+        <translation>Criar atalho&amp;s na área de trabalho e no menu Iniciar</translation>
+    </message>
+    <message>
+        <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
+        <translation>Oferecer &quot;Converter em&quot; e &quot;Abrir com&quot; no menu de &amp;contexto dos arquivos de mídia</translation>
+    </message>
+    <message>
+        <source>Start automatically when I &amp;log on</source>
+        <translation>Iniciar automaticamente ao fazer &amp;logon</translation>
+    </message>
+    <message>
+        <source>Send anonymous &amp;usage statistics to improve the program</source>
+        <translation>Enviar estatísticas anônimas de &amp;uso para melhorar o programa</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimizar</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalhes</translation>
+    </message>
+    <message>
+        <source>Hide &amp;details</source>
+        <translation>Ocultar &amp;detalhes</translation>
+    </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>Mostrar &amp;detalhes</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>Preparando...</translation>
+    </message>
+    <message>
+        <source>&amp;Start %1 now</source>
+        <translation>&amp;Iniciar %1 agora</translation>
+    </message>
+    <message>
+        <source>These files could not be copied:</source>
+        <translation>Não foi possível copiar estes arquivos:</translation>
+    </message>
+    <message>
+        <source>Removing the previous version...</source>
+        <translation>Removendo a versão anterior...</translation>
+    </message>
+    <message>
+        <source>Placing the files...</source>
+        <translation>Colocando os arquivos...</translation>
+    </message>
+    <message>
+        <source>Registering the program...</source>
+        <translation>Registrando o programa...</translation>
+    </message>
+    <message>
+        <source>Checking hardware acceleration...</source>
+        <translation>Verificando a aceleração de hardware...</translation>
+    </message>
+    <message>
+        <source>Downloading additional data...</source>
+        <translation>Baixando dados adicionais...</translation>
+    </message>
+    <message>
+        <source>Finishing...</source>
+        <translation>Finalizando...</translation>
+    </message>
+    <message>
+        <source>Uninstalling %1</source>
+        <translation>Desinstalando %1</translation>
+    </message>
+    <message>
+        <source>%1 was uninstalled</source>
+        <translation>%1 foi desinstalado</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;survey&quot;&gt;Conte-nos por que você o desinstalou&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1 could not be uninstalled</source>
+        <translation>Não foi possível desinstalar %1</translation>
+    </message>
+    <message>
+        <source>Welcome to %1</source>
+        <translation>Bem-vindo ao %1</translation>
+    </message>
+    <message>
+        <source>A few steps, and the program is ready to use.</source>
+        <translation>Poucos passos e o programa estará pronto para usar.</translation>
+    </message>
+    <message>
+        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
+        <translation>Esta versão ou uma mais recente já está instalada. Instalar novamente a substitui e mantém suas configurações.</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Idioma:</translation>
+    </message>
+    <message>
+        <source>By installing you accept the &lt;a href=&quot;licence&quot;&gt;licence agreement&lt;/a&gt; and the &lt;a href=&quot;privacy&quot;&gt;privacy policy&lt;/a&gt;.</source>
+        <translation>Ao instalar, você aceita o &lt;a href=&quot;licence&quot;&gt;contrato de licença&lt;/a&gt; e a &lt;a href=&quot;privacy&quot;&gt;política de privacidade&lt;/a&gt;.</translation>
+    </message>
+</context>
+<context>
+    <name>Uninstaller</name>
+    <message>
+        <source>The program is installed in %1, not in %2: nothing was deleted. Start the uninstaller there.</source>
+        <translation>O programa está instalado em %1, não em %2: nada foi excluído. Inicie o desinstalador nesse local.</translation>
+    </message>
+    <message>
+        <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
+        <translation>O programa não está instalado em %1: nada foi excluído. Exclua a pasta manualmente se ela não for necessária.</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>Cancelado: nada foi excluído.</translation>
+    </message>
+    <message>
+        <source>Uninstall %1?</source>
+        <translation>Desinstalar %1?</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
+        <translation>O programa, seus atalhos e suas entradas no Windows serão removidos. Seus arquivos de mídia permanecem.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete my settings</source>
+        <translation>&amp;Excluir minhas configurações</translation>
+    </message>
+    <message>
+        <source>Delete the files beside this program all the same?</source>
+        <translation>Excluir mesmo assim os arquivos ao lado deste programa?</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall</source>
+        <translation>&amp;Desinstalar</translation>
+    </message>
+    <message>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
+        <translation>A desinstalação não pode ser interrompida agora: arquivos e configurações estão sendo removidos. Ela termina em instantes.</translation>
+    </message>
+    <message>
+        <source>Thank you for having used it.</source>
+        <translation>Obrigado por ter usado o programa.</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sim</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Não</translation>
+    </message>
+</context>
+<context>
+    <name>Vorlan::AlertBox</name>
+    <message>
+        <source>Retry</source>
+        <translation>Repetir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
 </TS>

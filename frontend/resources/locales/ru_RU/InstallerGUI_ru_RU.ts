@@ -76,4 +76,308 @@
         <translation>Недостаточно места на диске</translation>
     </message>
 </context>
+<context>
+    <name>Wizard</name>
+    <message>
+        <source>The installation for all users needs the rights of an administrator: start the program as one.</source>
+        <translation>Для установки для всех пользователей нужны права администратора: запустите программу от имени администратора.</translation>
+    </message>
+    <message>
+        <source>The setup is damaged. Download it again.</source>
+        <translation>Программа установки повреждена. Загрузите её ещё раз.</translation>
+    </message>
+    <message>
+        <source>Where to install</source>
+        <translation>Куда установить</translation>
+    </message>
+    <message>
+        <source>The program gets a folder of its own. You can keep the proposed place.</source>
+        <translation>Программа получит собственную папку. Можно оставить предложенное место.</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Папка:</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>&amp;Обзор...</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Выберите папку</translation>
+    </message>
+    <message>
+        <source>Will be installed in: %1</source>
+        <translation>Будет установлено в: %1</translation>
+    </message>
+    <message>
+        <source>Space needed: %1. Free there: %2.</source>
+        <translation>Нужно места: %1. Свободно: %2.</translation>
+    </message>
+    <message>
+        <source>Installing %1</source>
+        <translation>Установка %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Далее</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Назад</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>&amp;Установить</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Готово</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
+        <translation>Сейчас установку нельзя остановить: изменяются файлы и настройки. Она скоро закончится.</translation>
+    </message>
+    <message>
+        <source>Cancel the installation of %1?</source>
+        <translation>Отменить установку %1?</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was installed.</source>
+        <translation>Отменено: ничего не установлено.</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>Файл %1 отсутствует. Верните его в папку программы установки.</translation>
+    </message>
+    <message>
+        <source>%1 is installed</source>
+        <translation>Программа %1 установлена</translation>
+    </message>
+    <message>
+        <source>%1 could not be installed</source>
+        <translation>Не удалось установить %1</translation>
+    </message>
+    <message>
+        <source>Log file: %1</source>
+        <translation>Файл журнала: %1</translation>
+    </message>
+    <message>
+        <source>Everything is in its place. You can begin right away.</source>
+        <translation>Всё на своих местах. Можно начинать.</translation>
+    </message>
+    <message>
+        <source>How to install</source>
+        <translation>Параметры установки</translation>
+    </message>
+    <message>
+        <source>Install for</source>
+        <translation>Установить для</translation>
+    </message>
+    <message>
+        <source>Only for &amp;me</source>
+        <translation>Только для &amp;меня</translation>
+    </message>
+    <message>
+        <source>&amp;All users of this computer (administrator rights needed)</source>
+        <translation>&amp;Все пользователи этого компьютера (нужны права администратора)</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>Дополнительно</translation>
+    </message>
+    <message>
+        <source>Create &amp;shortcuts on the desktop and in the Start menu</source>
+        <translation>Создать &amp;ярлыки на рабочем столе и в меню «Пуск»</translation>
+    </message>
+    <message>
+        <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
+        <translation>«Конвертировать в» и «Открыть с помощью» в &amp;контекстном меню</translation>
+    </message>
+    <message>
+        <source>Start automatically when I &amp;log on</source>
+        <translation>Запускать автоматически при в&amp;ходе в систему</translation>
+    </message>
+    <message>
+        <source>Send anonymous &amp;usage statistics to improve the program</source>
+        <translation>Отправлять анонимную &amp;статистику для улучшения программы</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Свернуть</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Ход выполнения</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Подробности</translation>
+    </message>
+    <message>
+        <source>Hide &amp;details</source>
+        <translation>Скрыть &amp;подробности</translation>
+    </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>Показать &amp;подробности</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>Подготовка...</translation>
+    </message>
+    <message>
+        <source>&amp;Start %1 now</source>
+        <translation>&amp;Запустить %1 сейчас</translation>
+    </message>
+    <message>
+        <source>These files could not be copied:</source>
+        <translation>Не удалось скопировать эти файлы:</translation>
+    </message>
+    <message>
+        <source>Removing the previous version...</source>
+        <translation>Удаление предыдущей версии...</translation>
+    </message>
+    <message>
+        <source>Placing the files...</source>
+        <translation>Размещение файлов...</translation>
+    </message>
+    <message>
+        <source>Registering the program...</source>
+        <translation>Регистрация программы...</translation>
+    </message>
+    <message>
+        <source>Checking hardware acceleration...</source>
+        <translation>Проверка аппаратного ускорения...</translation>
+    </message>
+    <message>
+        <source>Downloading additional data...</source>
+        <translation>Загрузка дополнительных данных...</translation>
+    </message>
+    <message>
+        <source>Finishing...</source>
+        <translation>Завершение...</translation>
+    </message>
+    <message>
+        <source>Uninstalling %1</source>
+        <translation>Удаление %1</translation>
+    </message>
+    <message>
+        <source>%1 was uninstalled</source>
+        <translation>Программа %1 удалена</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;survey&quot;&gt;Расскажите, почему вы её удалили&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1 could not be uninstalled</source>
+        <translation>Не удалось удалить %1</translation>
+    </message>
+    <message>
+        <source>Welcome to %1</source>
+        <translation>Добро пожаловать в %1</translation>
+    </message>
+    <message>
+        <source>A few steps, and the program is ready to use.</source>
+        <translation>Несколько шагов, и программа готова к работе.</translation>
+    </message>
+    <message>
+        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
+        <translation>Эта или более новая версия уже установлена. При повторной установке она заменяется, настройки сохраняются.</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Язык:</translation>
+    </message>
+    <message>
+        <source>By installing you accept the &lt;a href=&quot;licence&quot;&gt;licence agreement&lt;/a&gt; and the &lt;a href=&quot;privacy&quot;&gt;privacy policy&lt;/a&gt;.</source>
+        <translation>Устанавливая программу, вы принимаете &lt;a href=&quot;licence&quot;&gt;лицензионное соглашение&lt;/a&gt; и &lt;a href=&quot;privacy&quot;&gt;политику конфиденциальности&lt;/a&gt;.</translation>
+    </message>
+</context>
+<context>
+    <name>Uninstaller</name>
+    <message>
+        <source>The program is installed in %1, not in %2: nothing was deleted. Start the uninstaller there.</source>
+        <translation>Программа установлена в %1, а не в %2: ничего не удалено. Запустите программу удаления там.</translation>
+    </message>
+    <message>
+        <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
+        <translation>Программа не установлена в %1: ничего не удалено. Удалите папку вручную, если она не нужна.</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>Отменено: ничего не удалено.</translation>
+    </message>
+    <message>
+        <source>Uninstall %1?</source>
+        <translation>Удалить %1?</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
+        <translation>Программа, её ярлыки и записи в Windows будут удалены. Ваши медиафайлы останутся.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete my settings</source>
+        <translation>Удалить &amp;мои настройки</translation>
+    </message>
+    <message>
+        <source>Delete the files beside this program all the same?</source>
+        <translation>Всё равно удалить файлы рядом с этой программой?</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall</source>
+        <translation>&amp;Удалить</translation>
+    </message>
+    <message>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
+        <translation>Сейчас удаление нельзя остановить: удаляются файлы и настройки. Оно скоро закончится.</translation>
+    </message>
+    <message>
+        <source>Thank you for having used it.</source>
+        <translation>Спасибо, что пользовались программой.</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Да</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Нет</translation>
+    </message>
+</context>
+<context>
+    <name>Vorlan::AlertBox</name>
+    <message>
+        <source>Retry</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
 </TS>

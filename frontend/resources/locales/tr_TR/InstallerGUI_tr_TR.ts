@@ -76,4 +76,308 @@
         <translation>Yeterli disk alanı yok</translation>
     </message>
 </context>
+<context>
+    <name>Wizard</name>
+    <message>
+        <source>The installation for all users needs the rights of an administrator: start the program as one.</source>
+        <translation>Tüm kullanıcılar için yükleme yönetici hakları gerektirir: programı yönetici olarak başlatın.</translation>
+    </message>
+    <message>
+        <source>The setup is damaged. Download it again.</source>
+        <translation>Kurulum programı bozuk. Yeniden indirin.</translation>
+    </message>
+    <message>
+        <source>Where to install</source>
+        <translation>Yükleme konumu</translation>
+    </message>
+    <message>
+        <source>The program gets a folder of its own. You can keep the proposed place.</source>
+        <translation>Programın kendi klasörü olur. Önerilen konumu kullanabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Klasör:</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>G&amp;özat...</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Klasör seçin</translation>
+    </message>
+    <message>
+        <source>Will be installed in: %1</source>
+        <translation>Yükleneceği konum: %1</translation>
+    </message>
+    <message>
+        <source>Space needed: %1. Free there: %2.</source>
+        <translation>Gereken alan: %1. Boş alan: %2.</translation>
+    </message>
+    <message>
+        <source>Installing %1</source>
+        <translation>%1 yükleniyor</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>İ&amp;leri</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>&amp;Geri</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>&amp;Yükle</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>B&amp;itir</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>&amp;Yeniden dene</translation>
+    </message>
+    <message>
+        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
+        <translation>Yükleme şu anda durdurulamaz: dosyalar ve ayarlar değiştiriliyor. Birazdan bitecek.</translation>
+    </message>
+    <message>
+        <source>Cancel the installation of %1?</source>
+        <translation>%1 yüklemesi iptal edilsin mi?</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was installed.</source>
+        <translation>İptal edildi: hiçbir şey yüklenmedi.</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>%1 dosyası yok. Dosyayı kurulum programının yanına geri koyun.</translation>
+    </message>
+    <message>
+        <source>%1 is installed</source>
+        <translation>%1 yüklendi</translation>
+    </message>
+    <message>
+        <source>%1 could not be installed</source>
+        <translation>%1 yüklenemedi</translation>
+    </message>
+    <message>
+        <source>Log file: %1</source>
+        <translation>Günlük dosyası: %1</translation>
+    </message>
+    <message>
+        <source>Everything is in its place. You can begin right away.</source>
+        <translation>Her şey yerinde. Hemen başlayabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>How to install</source>
+        <translation>Yükleme seçenekleri</translation>
+    </message>
+    <message>
+        <source>Install for</source>
+        <translation>Kimin için</translation>
+    </message>
+    <message>
+        <source>Only for &amp;me</source>
+        <translation>Yalnızca &amp;benim için</translation>
+    </message>
+    <message>
+        <source>&amp;All users of this computer (administrator rights needed)</source>
+        <translation>&amp;Tüm kullanıcılar için (yönetici hakları gerekir)</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>Ayrıca</translation>
+    </message>
+    <message>
+        <source>Create &amp;shortcuts on the desktop and in the Start menu</source>
+        <translation>Masaüstünde ve Başlat menüsünde &amp;kısayol oluştur</translation>
+    </message>
+    <message>
+        <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
+        <translation>Ortam dosyalarının &amp;sağ tık menüsünde &quot;Dönüştür&quot; ve &quot;Birlikte aç&quot; göster</translation>
+    </message>
+    <message>
+        <source>Start automatically when I &amp;log on</source>
+        <translation>&amp;Oturum açıldığında otomatik başlat</translation>
+    </message>
+    <message>
+        <source>Send anonymous &amp;usage statistics to improve the program</source>
+        <translation>Programı geliştirmek için &amp;anonim kullanım istatistikleri gönder</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Simge durumuna küçült</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>İlerleme</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Ayrıntılar</translation>
+    </message>
+    <message>
+        <source>Hide &amp;details</source>
+        <translation>&amp;Ayrıntıları gizle</translation>
+    </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>&amp;Ayrıntıları göster</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>Hazırlanıyor...</translation>
+    </message>
+    <message>
+        <source>&amp;Start %1 now</source>
+        <translation>%1 programını şimdi &amp;başlat</translation>
+    </message>
+    <message>
+        <source>These files could not be copied:</source>
+        <translation>Bu dosyalar kopyalanamadı:</translation>
+    </message>
+    <message>
+        <source>Removing the previous version...</source>
+        <translation>Önceki sürüm kaldırılıyor...</translation>
+    </message>
+    <message>
+        <source>Placing the files...</source>
+        <translation>Dosyalar yerleştiriliyor...</translation>
+    </message>
+    <message>
+        <source>Registering the program...</source>
+        <translation>Program kaydediliyor...</translation>
+    </message>
+    <message>
+        <source>Checking hardware acceleration...</source>
+        <translation>Donanım hızlandırma denetleniyor...</translation>
+    </message>
+    <message>
+        <source>Downloading additional data...</source>
+        <translation>Ek veriler indiriliyor...</translation>
+    </message>
+    <message>
+        <source>Finishing...</source>
+        <translation>Tamamlanıyor...</translation>
+    </message>
+    <message>
+        <source>Uninstalling %1</source>
+        <translation>%1 kaldırılıyor</translation>
+    </message>
+    <message>
+        <source>%1 was uninstalled</source>
+        <translation>%1 kaldırıldı</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;survey&quot;&gt;Neden kaldırdığınızı bize anlatın&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1 could not be uninstalled</source>
+        <translation>%1 kaldırılamadı</translation>
+    </message>
+    <message>
+        <source>Welcome to %1</source>
+        <translation>%1 kurulumuna hoş geldiniz</translation>
+    </message>
+    <message>
+        <source>A few steps, and the program is ready to use.</source>
+        <translation>Birkaç adım sonra program kullanıma hazır.</translation>
+    </message>
+    <message>
+        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
+        <translation>Bu sürüm veya daha yenisi zaten yüklü. Yeniden yükleme onun yerini alır ve ayarlarınızı korur.</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>&amp;Dil:</translation>
+    </message>
+    <message>
+        <source>By installing you accept the &lt;a href=&quot;licence&quot;&gt;licence agreement&lt;/a&gt; and the &lt;a href=&quot;privacy&quot;&gt;privacy policy&lt;/a&gt;.</source>
+        <translation>Yükleyerek &lt;a href=&quot;licence&quot;&gt;lisans sözleşmesini&lt;/a&gt; ve &lt;a href=&quot;privacy&quot;&gt;gizlilik politikasını&lt;/a&gt; kabul etmiş olursunuz.</translation>
+    </message>
+</context>
+<context>
+    <name>Uninstaller</name>
+    <message>
+        <source>The program is installed in %1, not in %2: nothing was deleted. Start the uninstaller there.</source>
+        <translation>Program %2 konumunda değil, %1 konumunda yüklü: hiçbir şey silinmedi. Kaldırma programını orada başlatın.</translation>
+    </message>
+    <message>
+        <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
+        <translation>Program %1 konumunda yüklü değil: hiçbir şey silinmedi. Gerekmiyorsa klasörü elle silin.</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>İptal edildi: hiçbir şey silinmedi.</translation>
+    </message>
+    <message>
+        <source>Uninstall %1?</source>
+        <translation>%1 kaldırılsın mı?</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
+        <translation>Program, kısayolları ve Windows&apos;taki kayıtları kaldırılır. Ortam dosyalarınız kalır.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete my settings</source>
+        <translation>A&amp;yarlarımı sil</translation>
+    </message>
+    <message>
+        <source>Delete the files beside this program all the same?</source>
+        <translation>Yine de bu programın yanındaki dosyalar silinsin mi?</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall</source>
+        <translation>&amp;Kaldır</translation>
+    </message>
+    <message>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
+        <translation>Kaldırma şu anda durdurulamaz: dosyalar ve ayarlar kaldırılıyor. Birazdan bitecek.</translation>
+    </message>
+    <message>
+        <source>Thank you for having used it.</source>
+        <translation>Kullandığınız için teşekkür ederiz.</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Evet</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Hayır</translation>
+    </message>
+</context>
+<context>
+    <name>Vorlan::AlertBox</name>
+    <message>
+        <source>Retry</source>
+        <translation>Yeniden dene</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+</context>
 </TS>

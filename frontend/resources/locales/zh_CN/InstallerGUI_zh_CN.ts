@@ -76,4 +76,308 @@
         <translation>磁盘空间不足</translation>
     </message>
 </context>
+<context>
+    <name>Wizard</name>
+    <message>
+        <source>The installation for all users needs the rights of an administrator: start the program as one.</source>
+        <translation>为所有用户安装需要管理员权限：请以管理员身份启动程序。</translation>
+    </message>
+    <message>
+        <source>The setup is damaged. Download it again.</source>
+        <translation>安装程序已损坏。请重新下载。</translation>
+    </message>
+    <message>
+        <source>Where to install</source>
+        <translation>安装位置</translation>
+    </message>
+    <message>
+        <source>The program gets a folder of its own. You can keep the proposed place.</source>
+        <translation>程序会有自己的文件夹。您可以保留建议的位置。</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>文件夹(&amp;F):</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>浏览(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>选择文件夹</translation>
+    </message>
+    <message>
+        <source>Will be installed in: %1</source>
+        <translation>将安装到：%1</translation>
+    </message>
+    <message>
+        <source>Space needed: %1. Free there: %2.</source>
+        <translation>所需空间：%1。可用空间：%2。</translation>
+    </message>
+    <message>
+        <source>Installing %1</source>
+        <translation>正在安装 %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>下一步(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>上一步(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>安装(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>完成(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>重试(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
+        <translation>正在更改文件和设置，现在不能停止安装。马上就会完成。</translation>
+    </message>
+    <message>
+        <source>Cancel the installation of %1?</source>
+        <translation>要取消安装 %1 吗？</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was installed.</source>
+        <translation>已取消：没有安装任何内容。</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>缺少文件 %1。请把它放回安装程序旁边。</translation>
+    </message>
+    <message>
+        <source>%1 is installed</source>
+        <translation>%1 已安装</translation>
+    </message>
+    <message>
+        <source>%1 could not be installed</source>
+        <translation>无法安装 %1</translation>
+    </message>
+    <message>
+        <source>Log file: %1</source>
+        <translation>日志文件：%1</translation>
+    </message>
+    <message>
+        <source>Everything is in its place. You can begin right away.</source>
+        <translation>一切就绪。您可以马上开始使用。</translation>
+    </message>
+    <message>
+        <source>How to install</source>
+        <translation>安装选项</translation>
+    </message>
+    <message>
+        <source>Install for</source>
+        <translation>安装给</translation>
+    </message>
+    <message>
+        <source>Only for &amp;me</source>
+        <translation>仅我自己(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;All users of this computer (administrator rights needed)</source>
+        <translation>此计算机的所有用户(需要管理员权限)(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>此外</translation>
+    </message>
+    <message>
+        <source>Create &amp;shortcuts on the desktop and in the Start menu</source>
+        <translation>在桌面和“开始”菜单中创建快捷方式(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
+        <translation>在媒体文件的右键菜单中显示“转换为”和“打开方式”(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Start automatically when I &amp;log on</source>
+        <translation>登录时自动启动(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Send anonymous &amp;usage statistics to improve the program</source>
+        <translation>发送匿名使用统计以改进程序(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>进度</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>详细信息</translation>
+    </message>
+    <message>
+        <source>Hide &amp;details</source>
+        <translation>隐藏详细信息(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>显示详细信息(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>正在准备...</translation>
+    </message>
+    <message>
+        <source>&amp;Start %1 now</source>
+        <translation>立即启动 %1(&amp;S)</translation>
+    </message>
+    <message>
+        <source>These files could not be copied:</source>
+        <translation>以下文件无法复制:</translation>
+    </message>
+    <message>
+        <source>Removing the previous version...</source>
+        <translation>正在删除以前的版本...</translation>
+    </message>
+    <message>
+        <source>Placing the files...</source>
+        <translation>正在放置文件...</translation>
+    </message>
+    <message>
+        <source>Registering the program...</source>
+        <translation>正在注册程序...</translation>
+    </message>
+    <message>
+        <source>Checking hardware acceleration...</source>
+        <translation>正在检查硬件加速...</translation>
+    </message>
+    <message>
+        <source>Downloading additional data...</source>
+        <translation>正在下载附加数据...</translation>
+    </message>
+    <message>
+        <source>Finishing...</source>
+        <translation>正在完成...</translation>
+    </message>
+    <message>
+        <source>Uninstalling %1</source>
+        <translation>正在卸载 %1</translation>
+    </message>
+    <message>
+        <source>%1 was uninstalled</source>
+        <translation>%1 已卸载</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;survey&quot;&gt;请告诉我们卸载的原因&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1 could not be uninstalled</source>
+        <translation>无法卸载 %1</translation>
+    </message>
+    <message>
+        <source>Welcome to %1</source>
+        <translation>欢迎使用 %1</translation>
+    </message>
+    <message>
+        <source>A few steps, and the program is ready to use.</source>
+        <translation>只需几步，即可开始使用。</translation>
+    </message>
+    <message>
+        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
+        <translation>此版本或更新的版本已经安装。重新安装会替换它，并保留您的设置。</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>语言(&amp;L):</translation>
+    </message>
+    <message>
+        <source>By installing you accept the &lt;a href=&quot;licence&quot;&gt;licence agreement&lt;/a&gt; and the &lt;a href=&quot;privacy&quot;&gt;privacy policy&lt;/a&gt;.</source>
+        <translation>安装即表示您接受&lt;a href=&quot;licence&quot;&gt;许可协议&lt;/a&gt;和&lt;a href=&quot;privacy&quot;&gt;隐私政策&lt;/a&gt;。</translation>
+    </message>
+</context>
+<context>
+    <name>Uninstaller</name>
+    <message>
+        <source>The program is installed in %1, not in %2: nothing was deleted. Start the uninstaller there.</source>
+        <translation>程序安装在 %1，而不是 %2:没有删除任何内容。请在那里启动卸载程序。</translation>
+    </message>
+    <message>
+        <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
+        <translation>程序未安装在 %1：没有删除任何内容。如果不需要该文件夹，请手动删除。</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>已取消：没有删除任何内容。</translation>
+    </message>
+    <message>
+        <source>Uninstall %1?</source>
+        <translation>要卸载 %1 吗？</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
+        <translation>程序、快捷方式以及它在 Windows 中的记录将被删除。您的媒体文件会保留。</translation>
+    </message>
+    <message>
+        <source>&amp;Delete my settings</source>
+        <translation>删除我的设置(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delete the files beside this program all the same?</source>
+        <translation>仍要删除此程序旁边的文件吗？</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall</source>
+        <translation>卸载(&amp;U)</translation>
+    </message>
+    <message>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
+        <translation>正在删除文件和设置，现在不能停止卸载。马上就会完成。</translation>
+    </message>
+    <message>
+        <source>Thank you for having used it.</source>
+        <translation>感谢您的使用。</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>是(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>否(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>Vorlan::AlertBox</name>
+    <message>
+        <source>Retry</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
 </TS>

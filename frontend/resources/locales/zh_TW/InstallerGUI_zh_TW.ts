@@ -76,4 +76,308 @@
         <translation>磁碟空間不足</translation>
     </message>
 </context>
+<context>
+    <name>Wizard</name>
+    <message>
+        <source>The installation for all users needs the rights of an administrator: start the program as one.</source>
+        <translation>為所有使用者安裝需要系統管理員權限：請以系統管理員身分啟動程式。</translation>
+    </message>
+    <message>
+        <source>The setup is damaged. Download it again.</source>
+        <translation>安裝程式已損毀。請重新下載。</translation>
+    </message>
+    <message>
+        <source>Where to install</source>
+        <translation>安裝位置</translation>
+    </message>
+    <message>
+        <source>The program gets a folder of its own. You can keep the proposed place.</source>
+        <translation>程式會有自己的資料夾。您可以保留建議的位置。</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>資料夾(&amp;F):</translation>
+    </message>
+    <message>
+        <source>B&amp;rowse...</source>
+        <translation>瀏覽(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>選擇資料夾</translation>
+    </message>
+    <message>
+        <source>Will be installed in: %1</source>
+        <translation>將安裝到：%1</translation>
+    </message>
+    <message>
+        <source>Space needed: %1. Free there: %2.</source>
+        <translation>所需空間：%1。可用空間：%2。</translation>
+    </message>
+    <message>
+        <source>Installing %1</source>
+        <translation>正在安裝 %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>下一步(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Back</source>
+        <translation>上一步(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Install</source>
+        <translation>安裝(&amp;I)</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>完成(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>&amp;Try again</source>
+        <translation>重試(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
+        <translation>正在變更檔案和設定，現在無法停止安裝。很快就會完成。</translation>
+    </message>
+    <message>
+        <source>Cancel the installation of %1?</source>
+        <translation>要取消安裝 %1 嗎？</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was installed.</source>
+        <translation>已取消：沒有安裝任何內容。</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>缺少檔案 %1。請將它放回安裝程式旁邊。</translation>
+    </message>
+    <message>
+        <source>%1 is installed</source>
+        <translation>%1 已安裝</translation>
+    </message>
+    <message>
+        <source>%1 could not be installed</source>
+        <translation>無法安裝 %1</translation>
+    </message>
+    <message>
+        <source>Log file: %1</source>
+        <translation>記錄檔：%1</translation>
+    </message>
+    <message>
+        <source>Everything is in its place. You can begin right away.</source>
+        <translation>一切就緒。您可以立即開始使用。</translation>
+    </message>
+    <message>
+        <source>How to install</source>
+        <translation>安裝選項</translation>
+    </message>
+    <message>
+        <source>Install for</source>
+        <translation>安裝給</translation>
+    </message>
+    <message>
+        <source>Only for &amp;me</source>
+        <translation>只有我自己(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;All users of this computer (administrator rights needed)</source>
+        <translation>此電腦的所有使用者(需要系統管理員權限)(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Also</source>
+        <translation>此外</translation>
+    </message>
+    <message>
+        <source>Create &amp;shortcuts on the desktop and in the Start menu</source>
+        <translation>在桌面和「開始」功能表中建立捷徑(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Offer &quot;Convert to&quot; and &quot;Open with&quot; in the &amp;context menu of media files</source>
+        <translation>在媒體檔案的快顯功能表中顯示「轉換成」和「開啟檔案」(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Start automatically when I &amp;log on</source>
+        <translation>登入時自動啟動(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Send anonymous &amp;usage statistics to improve the program</source>
+        <translation>傳送匿名使用統計以改進程式(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進度</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細資料</translation>
+    </message>
+    <message>
+        <source>Hide &amp;details</source>
+        <translation>隱藏詳細資料(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Show &amp;details</source>
+        <translation>顯示詳細資料(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Preparing...</source>
+        <translation>正在準備...</translation>
+    </message>
+    <message>
+        <source>&amp;Start %1 now</source>
+        <translation>立即啟動 %1(&amp;S)</translation>
+    </message>
+    <message>
+        <source>These files could not be copied:</source>
+        <translation>無法複製下列檔案:</translation>
+    </message>
+    <message>
+        <source>Removing the previous version...</source>
+        <translation>正在移除先前的版本...</translation>
+    </message>
+    <message>
+        <source>Placing the files...</source>
+        <translation>正在放置檔案...</translation>
+    </message>
+    <message>
+        <source>Registering the program...</source>
+        <translation>正在註冊程式...</translation>
+    </message>
+    <message>
+        <source>Checking hardware acceleration...</source>
+        <translation>正在檢查硬體加速...</translation>
+    </message>
+    <message>
+        <source>Downloading additional data...</source>
+        <translation>正在下載其他資料...</translation>
+    </message>
+    <message>
+        <source>Finishing...</source>
+        <translation>正在完成...</translation>
+    </message>
+    <message>
+        <source>Uninstalling %1</source>
+        <translation>正在解除安裝 %1</translation>
+    </message>
+    <message>
+        <source>%1 was uninstalled</source>
+        <translation>%1 已解除安裝</translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
+        <translation>&lt;a href=&quot;survey&quot;&gt;請告訴我們解除安裝的原因&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1 could not be uninstalled</source>
+        <translation>無法解除安裝 %1</translation>
+    </message>
+    <message>
+        <source>Welcome to %1</source>
+        <translation>歡迎使用 %1</translation>
+    </message>
+    <message>
+        <source>A few steps, and the program is ready to use.</source>
+        <translation>只需幾個步驟，即可開始使用。</translation>
+    </message>
+    <message>
+        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
+        <translation>此版本或更新的版本已經安裝。重新安裝會取代它，並保留您的設定。</translation>
+    </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation>語言(&amp;L):</translation>
+    </message>
+    <message>
+        <source>By installing you accept the &lt;a href=&quot;licence&quot;&gt;licence agreement&lt;/a&gt; and the &lt;a href=&quot;privacy&quot;&gt;privacy policy&lt;/a&gt;.</source>
+        <translation>安裝即表示您接受&lt;a href=&quot;licence&quot;&gt;授權合約&lt;/a&gt;和&lt;a href=&quot;privacy&quot;&gt;隱私權政策&lt;/a&gt;。</translation>
+    </message>
+</context>
+<context>
+    <name>Uninstaller</name>
+    <message>
+        <source>The program is installed in %1, not in %2: nothing was deleted. Start the uninstaller there.</source>
+        <translation>程式安裝在 %1，而不是 %2:沒有刪除任何內容。請在那裡啟動解除安裝程式。</translation>
+    </message>
+    <message>
+        <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
+        <translation>程式未安裝在 %1：沒有刪除任何內容。如果不需要該資料夾，請手動刪除。</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing was deleted.</source>
+        <translation>已取消：沒有刪除任何內容。</translation>
+    </message>
+    <message>
+        <source>Uninstall %1?</source>
+        <translation>要解除安裝 %1 嗎？</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
+        <translation>程式、捷徑以及它在 Windows 中的記錄將被移除。您的媒體檔案會保留。</translation>
+    </message>
+    <message>
+        <source>&amp;Delete my settings</source>
+        <translation>刪除我的設定(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delete the files beside this program all the same?</source>
+        <translation>仍要刪除此程式旁邊的檔案嗎？</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall</source>
+        <translation>解除安裝(&amp;U)</translation>
+    </message>
+    <message>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
+        <translation>正在移除檔案和設定，現在無法停止解除安裝。很快就會完成。</translation>
+    </message>
+    <message>
+        <source>Thank you for having used it.</source>
+        <translation>感謝您的使用。</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>是(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>否(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>Vorlan::AlertBox</name>
+    <message>
+        <source>Retry</source>
+        <translation>重試</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+</context>
 </TS>

@@ -1,0 +1,16 @@
+#pragma once
+
+// The values of a setting with three states: only `chosen` switches it on.
+namespace Vorlan::FrontEnd::TriState
+{
+
+constexpr int notAsked = 0;
+constexpr int declined = 1;
+constexpr int chosen = 2;
+
+constexpr int Of(bool isChosen)
+{
+    return isChosen ? chosen : declined;
+}
+
+} // namespace Vorlan::FrontEnd::TriState

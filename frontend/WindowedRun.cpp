@@ -1,0 +1,93 @@
+#include "WindowedRun.h"
+
+#include "InstallOptions.h"
+#include "MachineAccess.h"
+#include "MediatorRun.h"
+#include "OwnFolder.h"
+#include "installer/ProductProfile.h"
+#include "widgets/AlertBox.h"
+#include "wizard/InstallWizard.h"
+#include "wizard/Texts.h"
+#include "wizard/UninstallWizard.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QTranslator>
+
+#include <stdexcept>
+
+namespace Vorlan::FrontEnd
+{
+namespace
+{
+
+// Before there is a mediator to propose one: the language that was asked for, or the system's.
+QString FirstLanguage(const CommandLine& options)
+{
+    const QString system = QLocale(QLocale().uiLanguages().value(0)).name();
+    const QString language = options.language.isEmpty() ? system : options.language;
+    return ProductProfile::SupportedLocales().contains(language)
+               ? language
+               : QString(ProductProfile::defaultLocale);
+}
+
+Outcome ShowFailure(const QString& error)
+{
+    AlertBox::error(nullptr, error, false);
+    return {ExitCode::Failed, error};
+}
+
+} // namespace
+
+Outcome InstallWithWindow(const CommandLine& options, const EventSink& sink)
+{
+    const auto translator = InstallTranslation(FirstLanguage(options));
+    try
+    {
+        InstallWizard wizard(options, sink);
+        if (!HasArchive()) // the engine has told so in a box
+        {
+            return {ExitCode::Failed, QString("The archive %1 is missing: put it beside the setup "
+                                              "program.")
+                                          .arg(QDir::toNativeSeparators(ArchivePath()))};
+        }
+        return wizard.Run();
+    }
+    catch (const std::exception& error)
+    {
+        qWarning("%s", error.what());
+        return ShowFailure(WizardText("The setup is damaged. Download it again."));
+    }
+}
+
+Outcome UninstallWithWindow(const CommandLine& options, const EventSink& sink)
+{
+    const auto translator = InstallTranslation(FirstLanguage(options));
+    const QString folder = QCoreApplication::applicationDirPath();
+    const OwnFolder own = ExamineOwnFolder(folder, options.Scope());
+    if (own.scope == QSettings::SystemScope && !CanChangeMachine())
+    {
+        return RelaunchElevated(QCoreApplication::arguments().mid(1))
+                   ? Outcome{}
+                   : ShowFailure(MachineRightsMissing());
+    }
+    UninstallWizard wizard(folder, own, options, sink);
+    if (!wizard.AskAboutFolder())
+    {
+        return {ExitCode::Cancelled, UninstallText("Cancelled: nothing was deleted.")};
+    }
+    return wizard.Run();
+}
+
+void TellAnotherSetupRuns(const CommandLine& options)
+{
+    const auto translator = InstallTranslation(FirstLanguage(options));
+    AlertBox::error(nullptr,
+        QCoreApplication::translate("Vorlan::InstallerMediator",
+            "A Setup or Uninstall window is currently running and needs to be closed before "
+            "starting %1.")
+            .arg(ProductTitle()),
+        false);
+}
+
+} // namespace Vorlan::FrontEnd

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QFrame>
+
+class QPushButton;
+
+namespace Vorlan
+{
+class ButtonWithIcon;
+}
+
+namespace Vorlan::FrontEnd
+{
+
+// The row of buttons at the bottom of a window: back, cancel, and the one that leads on, which
+// Enter presses. A button without a text is not shown. "&" marks the letter that presses a button.
+class ButtonBar : public QFrame
+{
+public:
+    explicit ButtonBar(QWidget* parent);
+
+    struct Labels
+    {
+        QString back;
+        QString cancel;
+        QString forward;
+    };
+    void SetLabels(const Labels& labels);
+
+    QPushButton* Back() const { return back; }
+    QPushButton* Cancel() const { return cancel; }
+    ButtonWithIcon* Forward() const { return forward; }
+
+private:
+    void SetForwardLabel(const QString& text);
+
+    QPushButton* back;
+    QPushButton* cancel;
+    ButtonWithIcon* forward;
+};
+
+} // namespace Vorlan::FrontEnd

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "wizard/Page.h"
+
+class QCheckBox;
+class QRadioButton;
+
+namespace Vorlan::FrontEnd
+{
+
+// What the page offers beside what is always asked.
+struct OfferedOptions
+{
+    bool autoLaunch; // the product has a program that can start at logon
+    bool statistics; // the person has not been asked on this machine before
+};
+
+// For whom to install, and what else to set up.
+class OptionsPage : public Page
+{
+public:
+    // The proposals are those of the settings.
+    OptionsPage(const InstallationSettings& settings, OfferedOptions offered);
+
+    void Retranslate(const QString& locale) override;
+    void Apply(InstallationSettings& settings) const override;
+    QWidget* FirstControl() const override;
+
+    QSettings::Scope Scope() const;
+
+private:
+    QRadioButton* AddRadio(const char* name, bool isChosen);
+    QCheckBox* AddCheck(const char* name, bool isChosen, bool isOffered = true);
+
+    OfferedOptions offered;
+    QLabel* heading;
+    QLabel* scopeLabel;
+    QRadioButton* currentUser;
+    QRadioButton* allUsers;
+    QLabel* extrasLabel;
+    QCheckBox* shortcuts;
+    QCheckBox* contextMenu;
+    QCheckBox* autoLaunch;
+    QCheckBox* statistics;
+};
+
+} // namespace Vorlan::FrontEnd

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "wizard/Page.h"
+
+class QCheckBox;
+
+namespace Vorlan::FrontEnd
+{
+
+// Says what is about to be removed, and asks about the person's settings.
+class UninstallStartPage : public Page
+{
+public:
+    UninstallStartPage(const QString& folder, bool isDeletingSettings);
+
+    void Retranslate(const QString& locale) override;
+
+    bool IsDeletingSettings() const;
+
+private:
+    QString folder;
+    QLabel* heading;
+    QLabel* intro;
+    QLabel* place;
+    QCheckBox* deleteSettings;
+};
+
+} // namespace Vorlan::FrontEnd

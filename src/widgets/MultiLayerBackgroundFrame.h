@@ -1,0 +1,57 @@
+#pragma once
+
+#include "installer/Export.h"
+
+#include <QFrame>
+#include <QPixmap>
+#include <QStringList>
+
+namespace Vorlan
+{
+
+// The pictures of the front ends' pages: folders of resources, the background first. A folder's
+// text ends with "/"; it holds a picture for each language, "<locale>.png", "en_US.png" for all
+// others.
+namespace LayerSets
+{
+
+inline const QStringList installerWithTaglines{":/Installer/Backgrounds/", ":/Installer/Taglines/"};
+inline const QStringList installProgress{":/Installer/InstallProgress/"};
+inline const QStringList uninstallStart{":/Installer/UninstallStart/"};
+inline const QStringList uninstallProgress{":/Installer/UninstallProgress/"};
+
+} // namespace LayerSets
+
+// Shows a picture that is composed of layers in one language: a background, what lies over it, and
+// the maker's logo. A frame of a front end derives from it and calls SetGraphicsLocale before it is
+// shown.
+class INSTALLER_EXPORT MultiLayerBackgroundFrame : public QFrame
+{
+public:
+    MultiLayerBackgroundFrame(const QStringList& folders, QWidget* parent);
+    MultiLayerBackgroundFrame(const QString& folder, QWidget* parent);
+
+protected:
+    // Composes the picture anew. A layer that is missing or damaged is left out; white stands for
+    // a background that is.
+    void SetGraphicsLocale(const QString& locale);
+
+    // The picture of a folder for a language, or the one with the fallback's name, which may be
+    // missing; empty for no folder.
+    QString GetLocalizedImage(
+        const QString& folder, const QString& locale, const QString& fallbackName);
+
+    QPixmap GetBackPixmap() const;
+
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QPixmap LoadBackground(const QString& locale);
+
+    QString baseFolder;
+    QStringList overlayFolders;
+    QPixmap backPicture;
+    QPixmap logo;
+};
+
+} // namespace Vorlan

@@ -1,0 +1,278 @@
+#include "wizard/InstallWizard.h"
+#include "support/ArchiveBesideProgram.h"
+#include "support/Machine.h"
+#include "support/WizardDriver.h"
+#include "widgets/ButtonWithIcon.h"
+#include "wizard/ProgressPage.h"
+#include "wizard/ResultPage.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProgressBar>
+#include <QTest>
+#include <QTimer>
+
+using namespace Vorlan;
+using namespace Vorlan::FrontEnd;
+
+namespace
+{
+
+// A wizard over a payload that lies beside the test program, with a machine of its own.
+class InstallWizardTest : public testing::Test
+{
+protected:
+    InstallWizardTest() { options.folder = machine.Path("target"); }
+
+    void Start(const char* payload = "small.7z")
+    {
+        const QString made = machine.Path(payload);
+        archive =
+            std::make_unique<ArchiveBesideProgram>(QFile::exists(made) ? made : Payload(payload));
+        wizard = std::make_unique<InstallWizard>(
+            options, [this](const RunEvent& event) { events << event.signal; });
+        driver = std::make_unique<WizardDriver>(*wizard);
+    }
+
+    QString Folder() const { return machine.Path("target/Vorlan Quillax"); }
+
+    void GoToOptions()
+    {
+        driver->Press(Qt::Key_Return);
+        ASSERT_EQ(driver->PageName(), "destinationPage");
+        driver->Press(Qt::Key_Return);
+        ASSERT_EQ(driver->PageName(), "optionsPage");
+    }
+
+    // What the person sees below the field after typing a folder.
+    QString ErrorFor(const QString& folder)
+    {
+        driver->Press(Qt::Key_A, Qt::ControlModifier);
+        driver->Type(folder);
+        const auto* error = driver->Find<QLabel>("error");
+        const bool isOpen = driver->Find<ButtonWithIcon>("forward")->isEnabled();
+        EXPECT_EQ(isOpen, !error->isVisible()) << folder.toStdString();
+        return error->isVisible() ? error->text() : QString();
+    }
+
+    Machine machine;
+    CommandLine options;
+    QStringList events;
+    std::unique_ptr<ArchiveBesideProgram> archive;
+    std::unique_ptr<InstallWizard> wizard;
+    std::unique_ptr<WizardDriver> driver;
+};
+
+TEST_F(InstallWizardTest, IsWalkedAndFinishedByKeysAlone)
+{
+    Start();
+    EXPECT_EQ(driver->PageName(), "welcomePage");
+    GoToOptions();
+    EXPECT_TRUE(driver->TabTo("shortcuts"));
+    driver->Press(Qt::Key_Space);
+    EXPECT_TRUE(driver->TabTo("contextMenu"));
+    driver->Press(Qt::Key_Space);
+    EXPECT_TRUE(driver->TabTo("back"));
+    driver->Press(Qt::Key_Space);
+    EXPECT_EQ(driver->PageName(), "destinationPage");
+    driver->Press(Qt::Key_Return);
+    EXPECT_FALSE(driver->Find<QCheckBox>("shortcuts")->isChecked()) << "choices stay";
+    EXPECT_EQ(driver->Find<QCheckBox>("autoLaunch")->isVisible(), false)
+        << "this product has no program for it";
+    driver->Press(Qt::Key_Return); // returns when the run is over
+    EXPECT_EQ(driver->PageName(), "resultPage");
+    EXPECT_EQ(events.count("InstallationFinished"), 1);
+    EXPECT_TRUE(QFile::exists(Folder() + "/uninst.exe"));
+    EXPECT_TRUE(driver->TabTo("startNow"));
+    driver->Press(Qt::Key_Space);
+    driver->Press(Qt::Key_Return);
+    EXPECT_TRUE(wizard->IsOver());
+    EXPECT_EQ(wizard->Result().code, ExitCode::Done);
+    EXPECT_EQ(events.count("ApplicationStarted"), 0);
+}
+
+TEST_F(InstallWizardTest, ADoubleClickInstallsOnceAndTheWindowStaysAlive)
+{
+    Start("many-blocks.7z");
+    GoToOptions();
+    int repaints = 0;
+    QTimer alive;
+    QObject::connect(&alive, &QTimer::timeout, [&] { ++repaints; });
+    alive.start(1);
+    auto* forward = driver->Find<ButtonWithIcon>("forward");
+    QTimer::singleShot(0, forward, [&] { QTest::mouseClick(forward, Qt::LeftButton); });
+    driver->Click("forward");
+    EXPECT_EQ(events.count("InstallationStarted"), 1);
+    EXPECT_EQ(driver->PageName(), "resultPage");
+    EXPECT_GT(repaints, 0);
+}
+
+TEST_F(InstallWizardTest, ClosingAsksBeforeTheRunAndIsDeclinedDuringIt)
+{
+    Start("many-blocks.7z");
+    const QString question = "Cancel the installation of Vorlan Quillax?";
+    for (const char* page : {"welcomePage", "destinationPage", "optionsPage"})
+    {
+        ASSERT_EQ(driver->PageName(), page);
+        EXPECT_EQ(driver->WithBox([this] { driver->Press(Qt::Key_Escape); }), question);
+        EXPECT_EQ(driver->WithBox([this] { wizard->Window().close(); }), question);
+        EXPECT_EQ(driver->WithBox([this] { driver->Click("closeWindow"); }), question);
+        EXPECT_FALSE(wizard->IsOver());
+        if (std::string(page) != "optionsPage")
+            driver->Press(Qt::Key_Return);
+    }
+    QStringList declined;
+    QTimer::singleShot(0, &wizard->Window(),
+        [&]
+        {
+            ASSERT_EQ(driver->PageName(), "progressPage");
+            declined << driver->WithBox([this] { driver->Press(Qt::Key_Escape); });
+            declined << driver->WithBox([this] { wizard->Window().close(); });
+        });
+    driver->Press(Qt::Key_Return);
+    ASSERT_EQ(declined.size(), 2);
+    EXPECT_TRUE(declined[0].startsWith("The installation cannot be stopped now"));
+    EXPECT_EQ(declined[1], declined[0]);
+    EXPECT_EQ(events.count("InstallationFinished"), 1);
+    driver->Press(Qt::Key_Escape);
+    EXPECT_TRUE(wizard->IsOver());
+    EXPECT_EQ(wizard->Result().code, ExitCode::Done);
+}
+
+TEST_F(InstallWizardTest, CancellingEndsWithItsExitCode)
+{
+    Start();
+    driver->WithBox([this] { driver->Click("cancel"); }, [](QWidget& box)
+        { QTest::mouseClick(box.findChild<QWidget*>("confirmationButton"), Qt::LeftButton); });
+    EXPECT_TRUE(wizard->IsOver());
+    EXPECT_EQ(wizard->Result().code, ExitCode::Cancelled);
+    EXPECT_FALSE(QDir(Folder()).exists());
+}
+
+TEST_F(InstallWizardTest, TheFolderIsCheckedAsThePersonTypes)
+{
+    WriteFile(machine.Path("a file"), "content");
+    Start();
+    driver->Press(Qt::Key_Return);
+    const QString refused = "Can't access the specified destination folder";
+    EXPECT_EQ(ErrorFor(machine.Path("a file")), refused);
+    EXPECT_EQ(ErrorFor("relative"), refused);
+    driver->Find<QLineEdit>("folder")->setText(machine.Path(QString("long/").repeated(3000)));
+    EXPECT_FALSE(driver->Find<QLabel>("error")->isVisible());
+    EXPECT_EQ(driver->Find<QLabel>("target")->width(), 590) << "a long path is shortened";
+    const QString rightToLeft = machine.Path(QString::fromUtf8("תיקייה ותוכנה"));
+    EXPECT_EQ(ErrorFor(rightToLeft), QString());
+    EXPECT_TRUE(driver->Find<QLabel>("target")->text().contains(
+        QChar(0x2066) + QDir::toNativeSeparators(rightToLeft + "/Vorlan Quillax")));
+    EXPECT_EQ(wizard->Window().width(), 670);
+}
+
+TEST_F(InstallWizardTest, ThereMustBeRoomForThePayload)
+{
+    Start("huge.7z");
+    driver->Press(Qt::Key_Return);
+    EXPECT_EQ(driver->Find<QLabel>("error")->text(), "There is not enough disk space");
+    EXPECT_FALSE(driver->Find<ButtonWithIcon>("forward")->isEnabled());
+    driver->Press(Qt::Key_Return);
+    EXPECT_EQ(driver->PageName(), "destinationPage");
+}
+
+TEST_F(InstallWizardTest, AnArchiveThatIsGoneAtTheLastMomentCanBePutBack)
+{
+    Start();
+    GoToOptions();
+    archive->Remove();
+    const QString text = driver->WithBox([this] { driver->Press(Qt::Key_Return); });
+    EXPECT_TRUE(text.contains("InstallerData.7z")) << text.toStdString();
+    EXPECT_EQ(driver->PageName(), "optionsPage");
+    driver->WithBox([this] { driver->Press(Qt::Key_Return); },
+        [this](QWidget& box)
+        {
+            archive->Put(Payload("small.7z"));
+            QTest::mouseClick(box.findChild<QWidget*>("retryButton"), Qt::LeftButton);
+        });
+    EXPECT_EQ(events.count("InstallationFinished"), 1);
+}
+
+TEST_F(InstallWizardTest, TheFolderIsCheckedOnceMoreBeforeTheRun)
+{
+    Start();
+    GoToOptions();
+    WriteFile(machine.Path("target"), "in the way");
+    driver->Press(Qt::Key_Return);
+    EXPECT_EQ(driver->PageName(), "destinationPage");
+    EXPECT_EQ(events, QStringList());
+}
+
+TEST_F(InstallWizardTest, AFailureIsToldAndCanBeTriedAgain)
+{
+    QByteArray damaged = ReadFile(Payload("small.7z"));
+    damaged.replace(5000, 100, QByteArray(100, 'x'));
+    WriteFile(machine.Path("damaged.7z"), damaged);
+    options.logFile = "the.log";
+    Start("damaged.7z");
+    for (int attempt = 1; attempt <= 2; ++attempt)
+    {
+        GoToOptions();
+        driver->Press(Qt::Key_Return);
+        ASSERT_EQ(driver->PageName(), "resultPage");
+        EXPECT_EQ(events.count("InstallationError"), attempt);
+        EXPECT_TRUE(driver->Find<QLabel>("resultText")->text().contains("the.log"));
+        EXPECT_FALSE(driver->Find<QCheckBox>("startNow")->isVisible());
+        driver->Press(attempt == 1 ? Qt::Key_Return : Qt::Key_Escape);
+        if (attempt == 1)
+        {
+            EXPECT_EQ(driver->PageName(), "destinationPage");
+            driver->Click("back");
+        }
+    }
+    EXPECT_TRUE(wizard->IsOver());
+    EXPECT_EQ(wizard->Result().code, ExitCode::Failed);
+}
+
+TEST(ProgressPageTest, CountsStepsAndKeepsWhatCouldNotBeCopied)
+{
+    ProgressPage page(QStringList(), "Installing %1");
+    page.Retranslate("en_US");
+    page.Show({"ProcessStarted", {{"process", "EXTRACT_FILES"}}});
+    page.Show({"InstallationProgress", {{"p", 0.456}, {"title", ""}, {"progressText", ""}}});
+    EXPECT_EQ(page.findChild<QLabel*>("step")->text(), "Placing the files...");
+    EXPECT_EQ(page.findChild<QLabel*>("percent")->text(), "46 %");
+    EXPECT_EQ(page.findChild<QProgressBar*>("bar")->value(), 456);
+    page.Show({"InstallationProgress", {{"p", 7.0}, {"title", "Data"}, {"progressText", ""}}});
+    EXPECT_EQ(page.findChild<QProgressBar*>("bar")->value(), 1000);
+    page.Show({"CopyFileError", {{"fileName", "a.dll"}, {"reason", "in use"}}});
+    EXPECT_EQ(page.CopyErrors(), QStringList("a.dll: in use"));
+    const auto* details = page.findChild<QListWidget*>("details");
+    EXPECT_EQ(details->item(details->count() - 1)->text(), "a.dll: in use");
+
+    ResultTexts texts;
+    texts.copyErrors = page.CopyErrors();
+    const ResultPage result(QStringList(), texts);
+    EXPECT_EQ(result.findChild<QListWidget*>("copyErrors")->item(0)->text(), "a.dll: in use");
+}
+
+TEST_F(InstallWizardTest, TheLanguageChangesEveryTextAtOnceAndIsInstalled)
+{
+    const QString german = "resources/locales/de_DE/InstallerGUI_de_DE.qm";
+    QDir().mkpath(QFileInfo(german).path());
+    WriteFile(german, ReadFile(QString(FRONTEND_FOLDER "/") + german));
+    Start();
+    auto* languages = driver->Find<QComboBox>("languages");
+    languages->setCurrentIndex(languages->findData("fr_FR")); // its translation is missing
+    EXPECT_EQ(driver->Find<QLabel>("heading")->text(), "Welcome to Vorlan Quillax");
+    languages->setCurrentIndex(languages->findData("de_DE"));
+    EXPECT_EQ(driver->Find<QLabel>("heading")->text(), "Willkommen bei Vorlan Quillax");
+    EXPECT_EQ(driver->Find<QLabel>("buttonLabel")->text(), "&Weiter");
+    driver->Press(Qt::Key_Return);
+    EXPECT_EQ(driver->Find<QLabel>("heading")->text(), "Installationsort");
+}
+
+} // namespace
