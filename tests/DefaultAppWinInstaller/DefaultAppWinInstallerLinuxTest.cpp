@@ -2,7 +2,9 @@
 
 #include "platform/Exception.h"
 #include "support/Machine.h"
+#include "support/MediatorAccess.h"
 #include "support/PalMachine.h"
+#include "support/SignalLog.h"
 #include "support/UiAutomationFakes.h"
 
 #include <QDir>
@@ -141,4 +143,29 @@ TEST_F(DefaultAppLinuxTest, UnknownTypeThrowsBeforeAnythingIsOpened)
     EXPECT_THROW(SetDefault(static_cast<AppType>(3)), Exception);
     EXPECT_EQ(Requests(), QStringList());
     EXPECT_EQ(automation.handler, nullptr);
+}
+
+TEST_F(DefaultAppLinuxTest, InstallationThatSomebodyWatchesEndsWithIt)
+{
+    RunOn("6.1.7601");
+    const QString name = "setup.exe";
+    for (const bool unattended : {true, false})
+    {
+        InstallerMediator mediator({name, false, unattended, QSettings::UserScope, false});
+        MediatorAccess access{mediator};
+        access.Profile().extensionAssociations = {{}, {}};
+        access.Profile().extensionAssociations[0].extensions = QStringList({".mp4", ".mkv"});
+        access.Profile().extensionAssociations[1].extensions = QStringList(".wmv");
+        access.Profile().defaultAppType = static_cast<int>(AppType::Video);
+        access.Settings().defaultApps = 2;
+        access.Settings().installDir = machine.Path("apps/Vorlan Quillax/");
+        access.OpenArchive(Payload("small.7z"));
+        access.SkipWaits();
+        SignalLog calls(mediator);
+        mediator.StartInstallation();
+        calls.WaitForEnd();
+        access.Join();
+        EXPECT_EQ(calls.Calls().last(), "InstallationFinished");
+        EXPECT_EQ(Requests().size(), unattended ? 0 : 3);
+    }
 }
