@@ -131,7 +131,8 @@ private:
                                         .filter(" = ");
         // Windows notes there where the folders that it was asked for lie, and Wine what fonts and
         // network cards it finds.
-        return records.filter(QRegularExpression("^(?!.*\\\\Shell Folders:|Wine\\\\|.*\\\\NetworkCards\\\\)"));
+        return records.filter(
+            QRegularExpression("^(?!.*\\\\Shell Folders:|Wine\\\\|.*\\\\NetworkCards\\\\)"));
     }
 
     const QStringList formerRecords = AllRecords();
