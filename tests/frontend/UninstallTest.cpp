@@ -129,9 +129,10 @@ private:
         const QStringList records = (RegistryTree("HKEY_CURRENT_USER", "Software") +
                                      RegistryTree("HKEY_LOCAL_MACHINE", "Software"))
                                         .filter(" = ");
-        // Windows notes there where the folders that it was asked for lie, and Wine what fonts it
-        // has.
-        return records.filter(QRegularExpression("^(?!.*\\\\Shell Folders:|Wine\\\\)"));
+        // Windows notes there where the folders that it was asked for lie, and Wine what fonts and
+        // network cards it finds.
+        return records.filter(
+            QRegularExpression("^(?!.*\\\\Shell Folders:|Wine\\\\|.*\\\\NetworkCards\\\\)"));
     }
 
     const QStringList formerRecords = AllRecords();
