@@ -1,7 +1,7 @@
 #include "platform/CoreChecker.h"
 
 #include "platform/BoundedProcess.h"
-#include "platform/BrokenList.h"
+#include "platform/KnownBroken.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -12,8 +12,6 @@
 #include <atomic>
 #include <future>
 #include <mutex>
-#include <optional>
-#include <stdexcept>
 #include <thread>
 
 namespace Vorlan::Proc
@@ -65,79 +63,6 @@ constexpr int sharesOfLimit = 4;        // a single probe gets one of them
 constexpr std::size_t maxOutput = 4096; // bytes; an answer is one line
 constexpr char notTried[] = "not tried";
 constexpr char knownBroken[] = "known broken";
-
-// What the known-broken files hold; a file that cannot be used is as good as none.
-class KnownBroken
-{
-public:
-    template <typename OnError>
-    KnownBroken(const ioPath& codecsPath, const ioPath& pluginsPath, const OnError& onError)
-        : codecs(Open(BrokenList::Kind::Codecs, codecsPath, onError)),
-          plugins(Open(BrokenList::Kind::Plugins, pluginsPath, onError))
-    {
-    }
-
-    ImplsOfCodec Codecs() const
-    {
-        return codecs ? ReadBrokenCodecs(codecs->Lines()) : ImplsOfCodec();
-    }
-    std::set<std::string> Plugins() const
-    {
-        return plugins ? ReadBrokenPlugins(plugins->Lines()) : std::set<std::string>();
-    }
-
-    // Adds what was found.
-    template <typename OnError>
-    void Add(const std::map<std::string, std::vector<std::string>>& foundCodecs,
-        const std::vector<std::string>& foundPlugins, const OnError& onError) const
-    {
-        ImplsOfCodec allCodecs = Codecs();
-        for (const auto& [codec, impls] : foundCodecs)
-            allCodecs[codec].insert(impls.begin(), impls.end());
-        std::vector<std::string> lines;
-        for (const auto& [codec, impls] : allCodecs)
-            lines.push_back(
-                Proc::ModuleOptionsToString({{codec, {impls.begin(), impls.end()}}}, true));
-        Write(codecs, lines, onError);
-        std::set<std::string> allPlugins = Plugins();
-        allPlugins.insert(foundPlugins.begin(), foundPlugins.end());
-        Write(plugins, {allPlugins.begin(), allPlugins.end()}, onError);
-    }
-
-private:
-    template <typename OnError>
-    static std::optional<BrokenList> Open(
-        BrokenList::Kind kind, const ioPath& path, const OnError& onError)
-    {
-        try
-        {
-            return BrokenList(kind, path);
-        }
-        catch (const std::runtime_error& error)
-        {
-            onError(error.what());
-            return std::nullopt;
-        }
-    }
-
-    template <typename OnError>
-    static void Write(const std::optional<BrokenList>& list, const std::vector<std::string>& lines,
-        const OnError& onError)
-    {
-        try
-        {
-            if (list)
-                list->Write(lines);
-        }
-        catch (const std::runtime_error& error)
-        {
-            onError(error.what());
-        }
-    }
-
-    std::optional<BrokenList> codecs;
-    std::optional<BrokenList> plugins;
-};
 
 // The parts of the probe's one line, or no match.
 QRegularExpressionMatch ReadAnswer(const std::string& output)
@@ -196,13 +121,13 @@ void CoreCheckerLauncher::StartCheck(CheckType type)
         AddError("There is no probe program " + probe.toStdString() + ": nothing was checked");
         return;
     }
-    const auto onError = [this](const std::string& text) { AddError(text); };
-    const KnownBroken known(brokenCodecsPath, brokenPluginsPath, onError);
+    const KnownBroken known(
+        brokenCodecsPath, brokenPluginsPath, [this](const std::string& text) { AddError(text); });
     MakePairs(known.Codecs(), known.Plugins());
     TryPairs(start + limit);
     CollectBroken(type);
     CollectStatistics(Clock::now() - start);
-    known.Add(brokenCodecs, brokenPlugins, onError);
+    known.Add(brokenCodecs, brokenPlugins);
 }
 
 const std::map<std::string, std::map<std::string, std::string>>&
