@@ -7,8 +7,8 @@ namespace Vorlan::FrontEnd
 bool IsOutputTerminal();
 
 // Lets what the program prints reach the console that it was started from, where the system gives a
-// program with windows none. Standard output that goes elsewhere already stays as it is. To be called
-// before anything is printed.
+// program with windows none. Standard output that goes elsewhere already stays as it is. To be
+// called before anything is printed.
 void ConnectToConsole();
 
 } // namespace Vorlan::FrontEnd

@@ -14,6 +14,7 @@ extern "C"
 #define SW_SHOW 5
 
 #define SEE_MASK_NOCLOSEPROCESS 0x00000040
+#define SEE_MASK_FLAG_NO_UI 0x00000400
 
     typedef struct _SHELLEXECUTEINFOW
     {

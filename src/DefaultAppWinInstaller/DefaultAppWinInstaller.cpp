@@ -125,7 +125,8 @@ void RunAssociationRegistrator(const QString& installDir, bool remove)
     const std::wstring program = Platform::WideFromText(GetAssociationRegistratorPath(installDir));
     SHELLEXECUTEINFOW info = {};
     info.cbSize = sizeof info;
-    info.fMask = SEE_MASK_NOCLOSEPROCESS;
+    // Without the second flag Windows would show a box where the program is missing.
+    info.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI;
     info.lpVerb = L"runas";
     info.lpFile = program.c_str();
     info.lpParameters = remove ? removalArgument : L"";

@@ -1,12 +1,12 @@
 #include "archive/ArchiveExtractor.h"
 
+#include "archive/ArchiveStream.h"
+#include "archive/BlockDecoder.h"
 #include "archive/EntryName.h"
-#include "archive/SevenZip.h"
 #include "installer/ExtractSettings.h"
 #include "platform/Path.h"
 
 #include <algorithm>
-#include <array>
 #include <stdexcept>
 
 namespace Vorlan
@@ -16,23 +16,12 @@ namespace
 {
 
 constexpr ISzAlloc heap = {SzAlloc, SzFree};
-constexpr std::size_t inputBufferSize = 256 * 1024;
 
 void ThrowUnless(bool condition, const char* error)
 {
     if (!condition)
         throw std::runtime_error(error);
 }
-
-// The block of the archive that was decoded last; entries of one block follow each other.
-struct DecodedBlock
-{
-    ~DecodedBlock() { ISzAlloc_Free(&heap, data); }
-
-    UInt32 index = 0xFFFFFFFF;
-    Byte* data = nullptr;
-    std::size_t size = 0;
-};
 
 // A file to be written; closed at the latest when the object goes.
 class OutputFile
@@ -89,16 +78,8 @@ bool IsSelected(const ExtractSettings& selection, const std::wstring& key)
 
 struct ArchiveExtractor::State
 {
-    State()
-    {
-        File_Construct(&stream.file);
-        SzArEx_Init(&database);
-    }
-    ~State()
-    {
-        SzArEx_Free(&database, &heap);
-        File_Close(&stream.file);
-    }
+    State() { SzArEx_Init(&database); }
+    ~State() { SzArEx_Free(&database, &heap); }
     State(const State&) = delete;
     State& operator=(const State&) = delete;
 
@@ -110,29 +91,22 @@ struct ArchiveExtractor::State
 
     void Open(const std::wstring& archivePath);
     void ReadNames();
-    Data Decode(UInt32 index, DecodedBlock& block);
+    bool HasData(UInt32 index) const { return SzArEx_GetFileSize(&database, index) != 0; }
+    std::vector<UInt32> BlocksOf(const std::vector<UInt32>& entries) const;
+    Data Read(UInt32 index, BlockDecoder& decoder, BlockDecoder::Block*& block);
 
-    CFileInStream stream = {};
-    CLookToRead2 look = {};
+    std::wstring path;
+    ArchiveStream stream;
     CSzArEx database = {};
-    std::array<Byte, inputBufferSize> buffer;
     std::vector<std::wstring> names;
 };
 
 void ArchiveExtractor::State::Open(const std::wstring& archivePath)
 {
-    ThrowUnless(InFile_OpenW(&stream.file, Platform::PathForCall(archivePath).c_str()) == 0,
-        "Failed to open input file");
-
-    FileInStream_CreateVTable(&stream);
-    LookToRead2_CreateVTable(&look, False);
-    look.realStream = &stream.vt;
-    look.buf = buffer.data();
-    look.bufSize = buffer.size();
-    LookToRead2_INIT(&look)
-
-        CrcGenerateTable();
-    ThrowUnless(SzArEx_Open(&database, &look.vt, &heap, &heap) == SZ_OK,
+    path = archivePath;
+    ThrowUnless(stream.Open(path), "Failed to open input file");
+    CrcGenerateTable();
+    ThrowUnless(SzArEx_Open(&database, stream.Get(), &heap, &heap) == SZ_OK,
         "Failed read archive data, maybe file is corrupted");
 }
 
@@ -155,19 +129,34 @@ void ArchiveExtractor::State::ReadNames()
         allNamed && AreEntryNamesSafe(names), "Failed read archive data, maybe file is corrupted");
 }
 
-ArchiveExtractor::State::Data ArchiveExtractor::State::Decode(UInt32 index, DecodedBlock& block)
+// The blocks that hold these entries' data. Entries of one block follow each other.
+std::vector<UInt32> ArchiveExtractor::State::BlocksOf(const std::vector<UInt32>& entries) const
 {
-    // An entry without data belongs to no block. Asked for it, the decoder would drop the block
-    // that the entries around it share, and decode that once more.
-    if (SzArEx_GetFileSize(&database, index) == 0)
-        return {};
+    std::vector<UInt32> blocks;
+    for (const UInt32 index : entries)
+    {
+        const UInt32 block = database.FileToFolder[index];
+        if (HasData(index) && (blocks.empty() || blocks.back() != block))
+            blocks.push_back(block);
+    }
+    return blocks;
+}
 
+// block: the one of the entry read before.
+ArchiveExtractor::State::Data ArchiveExtractor::State::Read(
+    UInt32 index, BlockDecoder& decoder, BlockDecoder::Block*& block)
+{
+    if (!HasData(index))
+        return {}; // it belongs to no block
+    if (!block || block->index != database.FileToFolder[index])
+        block = decoder.Next();
     std::size_t offset = 0;
     std::size_t size = 0;
-    ThrowUnless(SzArEx_Extract(&database, &look.vt, index, &block.index, &block.data, &block.size,
-                    &offset, &size, &heap, &heap) == SZ_OK,
+    // Finds the block decoded, and compares the entry's checksum.
+    ThrowUnless(block && SzArEx_Extract(&database, stream.Get(), index, &block->index, &block->data,
+                             &block->size, &offset, &size, &heap, &heap) == SZ_OK,
         "Failed to extract file data!");
-    return {block.data + offset, size};
+    return {block->data + offset, size};
 }
 
 ArchiveExtractor::ArchiveExtractor(const std::wstring& archivePath)
@@ -202,17 +191,22 @@ uint64_t ArchiveExtractor::GetTotalUnpackedSize() const
 void ArchiveExtractor::Unpack(
     const ExtractSettings& selection, const std::wstring& destination, Progress progress)
 {
-    DecodedBlock block;
-    uint64_t total = 0;
+    std::vector<UInt32> entries;
     for (UInt32 index = 0; index < state->names.size(); ++index)
     {
         const std::wstring& name = state->names[index];
-        const std::wstring key = EntryKey(name);
-        if (name.empty() || !IsSelected(selection, key))
-            continue;
+        if (!name.empty() && IsSelected(selection, EntryKey(name)))
+            entries.push_back(index);
+    }
 
-        const State::Data data = state->Decode(index, block);
-        const auto renamed = selection.rename.find(key);
+    BlockDecoder decoder(state->database, state->stream, state->path, state->BlocksOf(entries));
+    BlockDecoder::Block* block = nullptr;
+    uint64_t total = 0;
+    for (const UInt32 index : entries)
+    {
+        const std::wstring& name = state->names[index];
+        const State::Data data = state->Read(index, decoder, block);
+        const auto renamed = selection.rename.find(EntryKey(name));
         const std::wstring& outputName = renamed == selection.rename.end() ? name : renamed->second;
         CreateFolders(destination, outputName);
 

@@ -42,10 +42,11 @@ public:
     uint64_t GetTotalUnpackedSize() const;
 
     // Writes the selected entries below `destination`, which ends with a separator, in archive
-    // order. Existing files are overwritten. Memory: one decoded block of the archive. Throws
-    // std::runtime_error: "Failed to extract file data!", "Failed to create directory", "Cannot
-    // open destination file for write", "Cannot write output file" or "Cannot close output file".
-    // What was written before stays.
+    // order. Existing files are overwritten. The calling thread writes, while other threads, as
+    // many as there are cores, decode blocks ahead: at most the larger of two blocks and 256 MiB
+    // lie in memory. Throws std::runtime_error: "Failed to extract file data!", "Failed to create
+    // directory", "Cannot open destination file for write", "Cannot write output file" or "Cannot
+    // close output file". What was written before stays.
     void Unpack(
         const ExtractSettings& selection, const std::wstring& destination, Progress progress);
 

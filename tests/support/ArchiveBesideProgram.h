@@ -24,7 +24,8 @@ public:
         Remove();
         EXPECT_TRUE(QFile::copy(source, path)) << source.toStdString();
     }
-    void Remove() const { QFile::remove(path); }
+    // False where it is open and the system keeps such a file.
+    bool Remove() const { return QFile::remove(path); }
 
 private:
     const QString path = QCoreApplication::applicationDirPath() + "/InstallerData.7z";

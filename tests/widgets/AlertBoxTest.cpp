@@ -72,6 +72,11 @@ struct Variant
     int result;
 };
 
+void PrintTo(const Variant& variant, std::ostream* out)
+{
+    *out << variant.name;
+}
+
 class AlertBoxVariants : public testing::TestWithParam<Variant>
 {
 };

@@ -26,7 +26,7 @@ DWORD CheckExecution(const SHELLEXECUTEINFOW* info)
     if (!info || info->cbSize != sizeof(SHELLEXECUTEINFOW))
         return ERROR_INVALID_PARAMETER;
     const bool wantsMore = info->lpIDList || info->lpClass || info->hkeyClass || info->dwHotKey;
-    if (wantsMore || (info->fMask & ~ULONG{SEE_MASK_NOCLOSEPROCESS}) ||
+    if (wantsMore || (info->fMask & ~ULONG{SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI}) ||
         !IsKnownVerb(info->lpVerb) || (info->nShow != SW_HIDE && info->nShow != SW_SHOW))
         return ERROR_NOT_SUPPORTED;
     return info->lpFile ? ERROR_SUCCESS : ERROR_FILE_NOT_FOUND;
@@ -70,6 +70,7 @@ DWORD Execute(SHELLEXECUTEINFOW& info)
 // Starts a program, or a ".bat" with /bin/sh, that may outlive this process.
 // Keeps:   lpFile is looked for as CreateProcessW looks for a program; the arguments are cut from
 //          lpParameters by the Windows rules; hProcess is set with SEE_MASK_NOCLOSEPROCESS only.
+//          SEE_MASK_FLAG_NO_UI changes nothing, because no box is ever shown.
 // Differs: "runas" asks nobody and changes no rights; a test stands for the refusal with an
 //          injected ERROR_CANCELLED. The program has no standard streams and a session of its own,
 //          hidden or shown. hInstApp stays as it is.
