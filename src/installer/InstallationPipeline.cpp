@@ -1,7 +1,7 @@
 #include "installer/InstallerMediator.h"
 
 #include "archive/ArchiveExtractor.h"
-#include "checks/StubAccelerationChecker.h"
+#include "checks/AccelerationChecker.h"
 #include "installer/ProcessTermination.h"
 #include "network/QtDownloader.h"
 #include "network/WebConfigRequest.h"
@@ -77,7 +77,7 @@ void InstallerMediator::RunInstallation()
         throw std::runtime_error("There is no payload archive to install from");
 
     RequestWebConfig(settings, *this);
-    const auto checker = std::make_unique<Installer::StubAccelerationChecker>();
+    const std::shared_ptr<Installer::IAccelerationChecker> checker = makeChecker();
     StartCapabilityCheck(*checker);
     const double downloadShare = WillDownloadAdditionalData() ? downloadRange : 0.0;
     const double placementShare = 1.0 - downloadShare;
@@ -125,6 +125,11 @@ void InstallerMediator::BeginStage(const char* stageId, const char* logText)
 bool InstallerMediator::WillDownloadAdditionalData() const
 {
     return settings.downloadAdditionalData == 2 && !profile.additionalData.empty();
+}
+
+std::shared_ptr<Installer::IAccelerationChecker> InstallerMediator::MakeChecker()
+{
+    return std::make_shared<Installer::AccelerationChecker>();
 }
 
 void InstallerMediator::StartCapabilityCheck(Installer::IAccelerationChecker& checker) const

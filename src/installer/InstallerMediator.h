@@ -191,6 +191,7 @@ private:
     void ReportFailure();
     void BeginStage(const char* stageId, const char* logText);
     bool WillDownloadAdditionalData() const;
+    static std::shared_ptr<Installer::IAccelerationChecker> MakeChecker();
     void StartCapabilityCheck(Installer::IAccelerationChecker& checker) const;
     void StopRunningPrograms();
     void PlaceFiles(const QStringList& reservedNames, double weight);
@@ -254,6 +255,7 @@ private:
     int copyErrorCount = 0;
     std::atomic<InstallationState> state{InstallationState::NotStarted};
     std::unique_ptr<WaitClock> waitClock; // passes the time while an old uninstaller works
+    std::function<std::shared_ptr<Installer::IAccelerationChecker>()> makeChecker = MakeChecker;
 };
 
 } // namespace Vorlan

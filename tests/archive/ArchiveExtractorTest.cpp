@@ -241,3 +241,23 @@ TEST_F(ArchiveExtractorTest, DamagedCompressedDataIsNoticed)
     EmptyOutput();
     EXPECT_EQ(Unpack(Payload("small.7z")), "");
 }
+
+TEST_F(ArchiveExtractorTest, DamagedBlockLosesNothingThatStandsBeforeIt)
+{
+    ASSERT_EQ(Unpack(Payload("many-blocks.7z")), "");
+    const QStringList whole = progress;
+    const QMap<QString, QByteArray> original = ReadTree(output);
+
+    EmptyOutput();
+    QByteArray damaged = ReadFile(Payload("many-blocks.7z"));
+    const int middle = damaged.size() / 2;
+    damaged[middle] = static_cast<char>(~damaged[middle]);
+    WriteFile(archive, damaged);
+    EXPECT_EQ(Unpack(archive), "Failed to extract file data!");
+    EXPECT_GT(progress.size(), 1);
+    EXPECT_EQ(progress, whole.mid(0, progress.size()));
+    const QMap<QString, QByteArray> written = ReadTree(output);
+    EXPECT_EQ(written.size(), progress.size());
+    for (const QString& name : written.keys())
+        EXPECT_EQ(written[name], original[name]) << name.toStdString();
+}

@@ -1,7 +1,9 @@
 #include "installer/InstallerMediator.h"
 
+#include "checks/StubAccelerationChecker.h"
 #include "platform/System.h"
 #include "registry/RegistrySettings.h"
+#include "support/CodecProbe.h"
 #include "support/Machine.h"
 #include "support/MediatorAccess.h"
 #include "support/SignalLog.h"
@@ -30,6 +32,7 @@ protected:
         mediator.SetSettings(settings);
         access.OpenArchive(Payload("small.7z"));
         access.SkipWaits();
+        access.UseProbe(noProbe);
     }
 
     void Install()
@@ -57,6 +60,7 @@ protected:
 
     Machine machine;
     const QString name = "setup.exe";
+    const QString noProbe = machine.Path("corechecker.exe");
     const QString installDir = machine.Path("\u30A2\u30D7\u30EA folder/Vorlan Quillax/");
     InstallerMediator mediator{{name, false, true, QSettings::UserScope, true}};
     MediatorAccess access{mediator};
@@ -94,13 +98,57 @@ TEST_F(InstallationPipelineTest, EachStageLeavesItsLines)
     EXPECT_EQ(log.mid(0, 12),
         QStringList({"Request web config...", "Web config requested with  2",
             "Start search broken plugins and(or) codecs...", "Core timeout:  0 s",
-            "Using verifiable codec impls by default :  \"\"",
-            "Using verifiable codecs by default :  \"\"", "Broken plugins path:  \"\"",
-            "Broken codecs path:  \"\"", "Reserving necessary files",
+            "Using verifiable codec impls by default :  \"QSV, MEDIA_FOUNDATION, VIDEO_TOOLBOX_HW, "
+            "VIDEO_TOOLBOX_SW, AUDIO_TOOLBOX, NVENC, NVDEC, AMF, DIRECTX\"",
+            "Using verifiable codecs by default :  \"AAC, AC3, H264, H265, WMV3\"",
+            "Broken plugins path:  \"\"", "Broken codecs path:  \"\"", "Reserving necessary files",
             "Removing previous versions...", "Skipping  \"\"", "Extracting files..."}));
     EXPECT_EQ(placement.mid(placement.indexOf("Files are extracted") + 2),
         QStringList({"Updating registry...", "Searching for broken plugins and(or) codecs",
-            "No broken plugins", "No broken codecs", "Creating shortcuts...", "Done!"}));
+            "No broken plugins", "No broken codecs",
+            "CoreChecker error info:  " +
+                Quoted("There is no probe program " + noProbe + ": nothing was checked"),
+            "Creating shortcuts...", "Done!"}));
+}
+
+TEST_F(InstallationPipelineTest, WhatIsBrokenIsLoggedStoredAndTold)
+{
+    const CodecProbe probe(noProbe);
+    access.Settings().verifiableCodecImpls = "exit, usable,silent";
+    access.Settings().verifiableCodecs = "A,B";
+    access.Settings().coreCheckTimeout = 60;
+    std::map<std::string, std::map<std::string, std::string>> statistics;
+    QObject::connect(
+        &mediator, &InstallerMediator::TrackCoreStatistics, &mediator,
+        [&](const auto& info) { statistics = info; }, Qt::DirectConnection);
+    Install();
+    access.Join();
+    EXPECT_EQ(statistics["codec.B"]["silent"], "no valid answer");
+    EXPECT_EQ(statistics["check"]["broken"], "4");
+    const QStringList log = machine.Log();
+    for (const char* line :
+        {"Core timeout:  60 s", "Verifiable codec impls:  \"exit, usable,silent\"",
+            "Verifiable codec:  \"A,B\"", "Broken plugins:  \"exit, silent\"",
+            "Broken codecs:  \"A=exit,silent;B=exit,silent\""})
+        EXPECT_TRUE(log.contains(line)) << log.join('\n').toStdString();
+    EXPECT_TRUE(log.filter("CoreChecker error info").isEmpty());
+    RegistrySettings key(QSettings::UserScope, "Vorlan", "Quillax24");
+    EXPECT_EQ(key.value("BrokenPlugins").toString(), "exit,silent");
+    EXPECT_EQ(key.value("BrokenCodecs").toString(), "A=exit,silent;B=exit,silent");
+}
+
+TEST_F(InstallationPipelineTest, FailedCheckDoesNotStopTheRun)
+{
+    struct FailingChecker : Installer::StubAccelerationChecker
+    {
+        void WaitForCheck() override { throw std::runtime_error("check failed"); }
+    };
+    access.UseChecker([] { return std::make_shared<FailingChecker>(); });
+    Install();
+    EXPECT_EQ(signalLog.Calls().last(), "InstallationFinished");
+    EXPECT_EQ(signalLog.Count("TrackCoreStatistics"), 0);
+    EXPECT_TRUE(machine.Log().contains("Error  check failed  while searching of broken plugins"));
+    EXPECT_TRUE(ReadFile(Platform::LogFolder() + "/exceptions.jsonl").contains("check failed"));
 }
 
 TEST_F(InstallationPipelineTest, ProductKeyHoldsWhatWasInstalled)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "archive/ArchiveExtractor.h"
+#include "checks/AccelerationChecker.h"
 #include "installer/InstalledUninstallers.h"
 #include "installer/InstallerMediator.h"
 #include "platform/Path.h"
@@ -24,6 +25,15 @@ struct MediatorAccess
     {
         auto time = std::make_shared<std::chrono::steady_clock::time_point>();
         *mediator.waitClock = {[time] { return *time += std::chrono::seconds(61); }, [] {}};
+    }
+    // Lets runs check the codecs with that program, or in that way.
+    void UseProbe(const QString& program)
+    {
+        UseChecker([program] { return std::make_shared<Installer::AccelerationChecker>(program); });
+    }
+    void UseChecker(std::function<std::shared_ptr<Installer::IAccelerationChecker>()> make)
+    {
+        mediator.makeChecker = std::move(make);
     }
     // Waits for the whole run, what follows its end signal included.
     void Join() { mediator.worker.join(); }
