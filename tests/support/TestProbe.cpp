@@ -28,7 +28,7 @@ void Flood()
 }
 
 const std::map<std::string, const char*> answers{{"usable", "usable\n"},
-    {"unusable", "unusable: no memory\r\n"}, {"absent", "not present"}, {"exit", "usable\n"},
+    {"unusable", "unusable: no memory\n"}, {"absent", "not present"}, {"exit", "usable\n"},
     {"rubbish", "\x01\xff?"}, {"twice", "usable\nusable\n"}, {"silent", ""}};
 
 } // namespace
