@@ -184,7 +184,7 @@ TEST_F(CoreCheckerTest, WithoutAProbeThatStartsThereIsOneErrorAndNoResult)
 
 TEST_F(CoreCheckerTest, ShippedProbeAnswersForEveryPair)
 {
-    launcher = CoreCheckerLauncher();
+    launcher = CoreCheckerLauncher(FRONTEND_FOLDER "/probe/corechecker.exe");
     Check({"AAC", "H264", "unknown"},
         {"QSV", "MEDIA_FOUNDATION", "VIDEO_TOOLBOX_HW", "NVENC", "NVDEC", "AMF", "DIRECTX", "X"},
         120);
