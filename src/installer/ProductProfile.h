@@ -13,25 +13,38 @@
 namespace Vorlan::ProductProfile
 {
 
-inline constexpr QLatin1String companyName{"Vorlan"};    ///< publisher, and the company's key
-inline constexpr QLatin1String brandName{"vorlan"};      ///< in names of resources and addresses
-inline constexpr QLatin1String applicationId{"quillax"}; ///< known to the vendor's services
-inline constexpr QLatin1String productName{
-    "Quillax"};                                    ///< for people, where "settings.ini" has none
-inline constexpr QLatin1String shortName{"quill"}; ///< of the main application, between programs
-inline constexpr QLatin1String versionMajor{"24"}; ///< first number of versionText
-inline constexpr QLatin1String versionMinor{VORLAN_VERSION_MINOR};      ///< the others
-inline constexpr QLatin1String versionText{"24." VORLAN_VERSION_MINOR}; ///< that of project() too
-inline constexpr QLatin1String applicationKey{"Quillax24"};         ///< product key, folder of logs
-inline constexpr QLatin1String productFullName{"Vorlan Quillax"};   ///< folder, shortcuts, list
-inline constexpr QLatin1String archiveFileName{"InstallerData.7z"}; ///< beside the program
-inline constexpr QLatin1String uninstallerFileName{"uninst.exe"}; ///< name of the placed front end
-inline constexpr QLatin1String mainExecutable{"quill.exe"};       ///< what is started and linked to
+/// Publisher, and the key of the company in the registry.
+inline constexpr QLatin1String companyName{"Vorlan"};
+/// The company in names of resources.
+inline constexpr QLatin1String brandName{"vorlan"};
+/// The product for the vendor's services and for programs that depend on it.
+inline constexpr QLatin1String applicationId{"quillax"};
+/// The product for people, where "settings.ini" has no other name.
+inline constexpr QLatin1String productName{"Quillax"};
+/// The main application for other programs.
+inline constexpr QLatin1String shortName{"quill"};
+/// First number of the version.
+inline constexpr QLatin1String versionMajor{"24"};
+/// The other numbers of the version.
+inline constexpr QLatin1String versionMinor{VORLAN_VERSION_MINOR};
+/// The version; that of the build's project() is the same.
+inline constexpr QLatin1String versionText{"24." VORLAN_VERSION_MINOR};
+/// Name of the product key, and of the folder of logs.
+inline constexpr QLatin1String applicationKey{"Quillax24"};
+/// Name of the installation folder, the shortcuts and the entry in the list of programs.
+inline constexpr QLatin1String productFullName{"Vorlan Quillax"};
+/// The payload, beside the front end.
+inline constexpr QLatin1String archiveFileName{"InstallerData.7z"};
+/// The front end in the installation folder.
+inline constexpr QLatin1String uninstallerFileName{"uninst.exe"};
+/// What shortcuts and the end of an installation start.
+inline constexpr QLatin1String mainExecutable{"quill.exe"};
 /// Program that starts at logon; this product has none.
 inline constexpr QLatin1String autoLaunchExecutable{""};
-inline constexpr QLatin1String vendorDomain{"vorlan.example"}; ///< of all addresses
-inline constexpr QLatin1String defaultLocale{
-    "en_US"}; ///< for a system whose language is not supported
+/// What the addresses of pages and services end in.
+inline constexpr QLatin1String vendorDomain{"vorlan.example"};
+/// For a system whose language is not supported.
+inline constexpr QLatin1String defaultLocale{"en_US"};
 
 /// The languages that the product is translated into, in the order of preference.
 inline QStringList SupportedLocales()
