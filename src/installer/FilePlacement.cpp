@@ -54,6 +54,14 @@ void CreateDirectoryTree(const std::vector<std::wstring>& names, const ExtractSe
     qInfo() << "Directory tree've been created";
 }
 
+bool MoveOver(const QString& source, const QString& destination)
+{
+    if (QFile::exists(destination))
+        QFile::remove(destination);
+    QDir().mkpath(QFileInfo(destination).path());
+    return QFile::rename(source, destination);
+}
+
 } // namespace
 
 QStringList InstallerMediator::ReserveFilesForReinstall()
@@ -235,12 +243,9 @@ void InstallerMediator::UpdateProgramData()
         const QString& name = entry.key();
         const QString& target = entry.value();
         const QString source = settings.installDir + name;
-        const QString destination = GetStandardLocation(StandardLocation::CommonAppData) +
-                                    QDir::separator() + Platform::ToNativePath(target);
-        if (QFile::exists(destination))
-            QFile::remove(destination);
-        QDir().mkpath(QFileInfo(destination).path());
-        const bool isMoved = QFile::rename(source, destination);
+        const QString allUsers = GetStandardLocation(StandardLocation::CommonAppData);
+        const QString destination = allUsers + QDir::separator() + Platform::ToNativePath(target);
+        const bool isMoved = !allUsers.isEmpty() && MoveOver(source, destination);
         qInfo() << "Moved " << source << " to " << destination << " successfully: " << isMoved;
         if (!isMoved)
             HandleCopyFileError(name,
