@@ -1,5 +1,6 @@
 #include "MachineAccess.h"
 
+#include "installer/ProductProfile.h"
 #include "platform/Handle.h"
 
 #include <QCoreApplication>
@@ -12,7 +13,12 @@ namespace Vorlan::FrontEnd
 namespace
 {
 
-constexpr wchar_t lockName[] = L"Global\\VorlanQuillaxSetup";
+// "Global\\VorlanQuillaxSetup" for the product "Vorlan Quillax".
+std::wstring LockName()
+{
+    return ("Global\\" + QString(ProductProfile::productFullName).remove(' ') + "Setup")
+        .toStdWString();
+}
 
 } // namespace
 
@@ -60,7 +66,7 @@ struct SetupLock::State
 
 SetupLock::SetupLock() : state(std::make_unique<State>())
 {
-    state->mutex = Platform::UniqueObject(CreateMutexW(nullptr, FALSE, lockName));
+    state->mutex = Platform::UniqueObject(CreateMutexW(nullptr, FALSE, LockName().c_str()));
     state->isHeld = state->mutex && GetLastError() != ERROR_ALREADY_EXISTS;
 }
 

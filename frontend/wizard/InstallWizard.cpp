@@ -26,8 +26,11 @@ namespace
 {
 
 // The vendor's page with the licence; the engine fills in the places.
-constexpr char licenceTemplate[] = "https://links.vorlan.example/license/"
-                                   "?app=<APP>&module=installer&version=<VERSION>&lang=<LANG>";
+QString LicenceTemplate()
+{
+    return QStringLiteral("https://links.") + ProductProfile::vendorDomain +
+           QStringLiteral("/license/?app=<APP>&module=installer&version=<VERSION>&lang=<LANG>");
+}
 
 } // namespace
 
@@ -152,7 +155,7 @@ void InstallWizard::RequestClose()
 void InstallWizard::FollowLink(const QString& target) const
 {
     if (target == "licence")
-        mediator->OpenUrl(QString(licenceTemplate));
+        mediator->OpenUrl(LicenceTemplate());
     else
         mediator->OpenUrl(InstallerMediator::URL::PrivacyPolicy);
 }

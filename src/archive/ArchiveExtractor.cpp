@@ -27,15 +27,15 @@ void ThrowUnless(bool condition, const char* error)
 class OutputFile
 {
 public:
-    explicit OutputFile(const std::wstring& path)
-    {
-        File_Construct(&file);
-        ThrowUnless(OutFile_OpenW(&file, Platform::PathForCall(path).c_str()) == 0,
-            "Cannot open destination file for write");
-    }
+    OutputFile() { File_Construct(&file); }
     ~OutputFile() { File_Close(&file); }
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
+
+    bool Open(const std::wstring& path)
+    {
+        return OutFile_OpenW(&file, Platform::PathForCall(path).c_str()) == 0;
+    }
 
     void Write(const Byte* data, std::size_t size)
     {
@@ -56,16 +56,30 @@ bool IsFolder(const std::wstring& path)
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
-// Creates every folder that the name of an output file goes through.
-void CreateFolders(const std::wstring& destination, std::wstring name)
+// Creates the folders that the name of an output file goes through and that are missing. Returns
+// whether there were any.
+bool CreateMissingFolders(const std::wstring& destination, std::wstring name)
 {
+    bool areCreated = false;
     for (auto slash = name.find(L'/'); slash != std::wstring::npos; slash = name.find(L'/', slash))
     {
         const std::wstring folder = Platform::PathForCall(destination + name.substr(0, slash));
-        ThrowUnless(IsFolder(folder) || CreateDirectoryW(folder.c_str(), nullptr),
-            "Failed to create directory");
+        if (!IsFolder(folder))
+        {
+            ThrowUnless(CreateDirectoryW(folder.c_str(), nullptr), "Failed to create directory");
+            areCreated = true;
+        }
         name[slash] = L'\\';
     }
+    return areCreated;
+}
+
+// Most files have their folder already: it is looked for only where the file cannot be opened.
+void OpenOutput(OutputFile& file, const std::wstring& destination, const std::wstring& name)
+{
+    const bool isOpen = file.Open(destination + name) ||
+                        (CreateMissingFolders(destination, name) && file.Open(destination + name));
+    ThrowUnless(isOpen, "Cannot open destination file for write");
 }
 
 bool IsSelected(const ExtractSettings& selection, const std::wstring& key)
@@ -208,9 +222,8 @@ void ArchiveExtractor::Unpack(
         const State::Data data = state->Read(index, decoder, block);
         const auto renamed = selection.rename.find(EntryKey(name));
         const std::wstring& outputName = renamed == selection.rename.end() ? name : renamed->second;
-        CreateFolders(destination, outputName);
-
-        OutputFile file(destination + outputName);
+        OutputFile file;
+        OpenOutput(file, destination, outputName);
         total += data.size;
         file.Write(data.bytes, data.size);
         file.Close();

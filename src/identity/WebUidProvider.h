@@ -15,21 +15,26 @@ namespace Vorlan
 
 class InstallerMediator;
 
-// Chooses the web user id of an installation.
+/// Chooses the web user id of an installation, which goes into InstallationSettings::userInfo: that
+/// of the user's key, the product's, the command line, the installer's file name, else a new one.
 struct WebUidProvider
 {
-    // What each source held, by the source's name: the id, with "NOT_VALID_" before it when it is
-    // empty or no id. "API_WEBUID" is the answer of the identity service as it came, and
-    // "MERGE_WEBUID_RESULT" is "not attempted", "success" or "fail".
+    /// What each source held, by the source's name: the id, with "NOT_VALID_" before it when it is
+    /// empty or no id. "API_WEBUID" is the answer of the identity service as it came, and
+    /// "MERGE_WEBUID_RESULT" is "not attempted", "success" or "fail".
     using WebUidResults = std::map<std::string, std::string>;
 
-    // The id to use, empty when there is none, and what was found. Writes nothing; may ask the
-    // identity service and blocks meanwhile. What the manager throws goes on to the caller.
-    //   arguments             the host's; "/WEBUID=<id>" counts in this spelling only
-    //   installerFileName     may hold an id, as in "setup_W<id>_.exe"
-    //   useStoredId           the stored id of the product and nothing else, without results
-    //   preferCommandLineId   a valid id among the arguments wins over every other source
-    //   bundleName            told to the identity service
+    /// Writes nothing. Asks the identity service at most once, for a new id or to merge several,
+    /// and blocks meanwhile up to `parameters.limit`: call it on a thread that shows no window.
+    /// Throws nothing of its own; a service that does not answer is no error.
+    /// @param mediator what reads the stored ids; unchanged
+    /// @param arguments the host's; "/WEBUID=<id>" counts in this spelling only
+    /// @param installerFileName may hold an id, as in "setup_W<id>_.exe"
+    /// @param useStoredId the stored id of the product and nothing else, without results
+    /// @param preferCommandLineId a valid id among the arguments wins over every other source
+    /// @param parameters of the requests to the service
+    /// @param bundleName told to the identity service
+    /// @return the id to use, empty when there is none, and what was found
     INSTALLER_EXPORT static std::pair<QString, WebUidResults> GetWebUid(
         const InstallerMediator& mediator, const QStringList& arguments,
         const QString& installerFileName, bool useStoredId, bool preferCommandLineId,

@@ -2,8 +2,10 @@
 
 #include <QtGlobal>
 
-// Marks what the shared library offers to front ends. Programs that link the library's object files
-// directly (InstallerCore) see nothing here.
+/// @file
+
+/// Marks what the shared library offers to front ends. Programs that link the library's object
+/// files directly (InstallerCore) see nothing here.
 #if defined(INSTALLER_BUILD)
 #define INSTALLER_EXPORT Q_DECL_EXPORT
 #elif defined(INSTALLER_SHARED)

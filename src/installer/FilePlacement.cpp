@@ -19,6 +19,7 @@
 #include <chrono>
 #include <set>
 #include <stdexcept>
+#include <unordered_set>
 
 namespace Vorlan
 {
@@ -60,6 +61,21 @@ bool MoveOver(const QString& source, const QString& destination)
         QFile::remove(destination);
     QDir().mkpath(QFileInfo(destination).path());
     return QFile::rename(source, destination);
+}
+
+// The names that are to be copied, each once: two copies at a time must not meet in one file.
+std::vector<CopyJob> DistinctJobs(const std::vector<std::wstring>& names,
+    const ExtractSettings& selection, const QString& installDir)
+{
+    std::vector<CopyJob> jobs;
+    std::unordered_set<std::wstring> keys;
+    for (const std::wstring& name : names)
+    {
+        CopyJob job = CreateCopyJob(selection, name, installDir);
+        if (job.valid && keys.insert(job.key).second)
+            jobs.push_back(std::move(job));
+    }
+    return jobs;
 }
 
 } // namespace
@@ -191,17 +207,9 @@ InstallerMediator::CopyOperationInfo InstallerMediator::ParallelCopyExistingFile
     }
 
     CopyOperationInfo info;
+    const std::vector<CopyJob> jobs = DistinctJobs(names, selection, settings.installDir);
+    info.skippedFiles = names.size() - jobs.size();
     QString errors;
-    const auto nextJob = [&, name = names.begin()]() mutable
-    {
-        CopyJob job;
-        while (!job.valid && name != names.end())
-        {
-            job = CreateCopyJob(selection, *name++, settings.installDir);
-            info.skippedFiles += job.valid ? 0 : 1;
-        }
-        return job;
-    };
     const auto collect = [&](const CopyJob& job, const CopyFileOperationStatus& status)
     {
         errors += status.error;
@@ -218,9 +226,8 @@ InstallerMediator::CopyOperationInfo InstallerMediator::ParallelCopyExistingFile
             progress(info.copiedBytes);
             selection.exclude.insert(job.key);
         }
-        return errors.isEmpty();
     };
-    RunCopies(threadCount, nextJob, collect);
+    RunCopies(threadCount, jobs, collect);
     if (!errors.isEmpty())
         throw std::runtime_error(errors.toStdString());
     qInfo() << "Copy is completed, thread id:" << QThread::currentThreadId();

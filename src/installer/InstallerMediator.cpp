@@ -8,6 +8,7 @@
 #include "platform/Browser.h"
 #include "platform/Path.h"
 #include "platform/Version.h"
+#include "registry/CreateProductProfile.h"
 #include "registry/SettingsManager.h"
 #include "widgets/AlertBox.h"
 

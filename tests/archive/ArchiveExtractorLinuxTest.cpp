@@ -33,7 +33,7 @@ TEST(ArchiveExtractorFaults, EveryFailingCallEndsWithItsTextAndNoOpenFile)
     const QString archive = machine.Path("test.7z");
     const QString output = machine.Path("out/");
     QDir().mkpath(output);
-    WriteFile(archive, CreateArchive({{"libs/a.txt", "content"}}));
+    WriteFile(archive, CreateArchive({{"a.txt", "content"}, {"libs/b.txt", "content"}}));
 
     const FaultCase faults[] = {
         {"WriteFile", ERROR_DISK_FULL, "Cannot write output file"},

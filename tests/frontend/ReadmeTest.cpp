@@ -20,9 +20,9 @@ TEST(ReadmeTest, QuotesTheEmbeddingExampleAsItIs)
                     .contains("```cpp\n" + TextOf("tests/support/EmbeddingExample.cpp") + "```\n"));
 }
 
-TEST(ReadmeTest, NamesEveryOptionAndExitCodeOfTheHelp)
+TEST(ReadmeTest, ThePageOfTheCommandLineNamesEveryOptionAndExitCodeOfTheHelp)
 {
-    const QString readme = TextOf("README.md");
+    const QString page = TextOf("docs/command-line.md");
     const QString help = Vorlan::FrontEnd::HelpText();
     auto names = QRegularExpression("^  (/[A-Z_?]+=?|\\d+)", QRegularExpression::MultilineOption)
                      .globalMatch(help);
@@ -31,7 +31,7 @@ TEST(ReadmeTest, NamesEveryOptionAndExitCodeOfTheHelp)
     {
         const QString name = names.next().captured(1);
         const QString quoted = name.startsWith('/') ? '`' + name : "| " + name + " |";
-        EXPECT_TRUE(readme.contains(quoted)) << name.toStdString();
+        EXPECT_TRUE(page.contains(quoted)) << name.toStdString();
     }
     EXPECT_EQ(count, 17 + 7);
 }

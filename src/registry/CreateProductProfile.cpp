@@ -1,4 +1,4 @@
-#include "registry/RegistrationProfile.h"
+#include "registry/CreateProductProfile.h"
 
 #include "installer/ProductProfile.h"
 
