@@ -17,6 +17,17 @@ namespace
 
 constexpr ISzAlloc heap = {SzAlloc, SzFree};
 
+// The catalogue's largest table has 8 bytes for each entry: room for eight million, and an archive
+// that claims more takes no memory for them.
+constexpr std::size_t largestTable = std::size_t{64} << 20; // bytes
+
+void* AllocateTable(ISzAllocPtr allocator, std::size_t size)
+{
+    return size > largestTable ? nullptr : SzAlloc(allocator, size);
+}
+
+constexpr ISzAlloc catalogueHeap = {AllocateTable, SzFree};
+
 void ThrowUnless(bool condition, const char* error)
 {
     if (!condition)
@@ -120,7 +131,7 @@ void ArchiveExtractor::State::Open(const std::wstring& archivePath)
     path = archivePath;
     ThrowUnless(stream.Open(path), "Failed to open input file");
     CrcGenerateTable();
-    ThrowUnless(SzArEx_Open(&database, stream.Get(), &heap, &heap) == SZ_OK,
+    ThrowUnless(SzArEx_Open(&database, stream.Get(), &catalogueHeap, &catalogueHeap) == SZ_OK,
         "Failed read archive data, maybe file is corrupted");
 }
 

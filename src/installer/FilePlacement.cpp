@@ -55,6 +55,14 @@ void CreateDirectoryTree(const std::vector<std::wstring>& names, const ExtractSe
     qInfo() << "Directory tree've been created";
 }
 
+bool MoveOver(const QString& source, const QString& destination)
+{
+    if (QFile::exists(destination))
+        QFile::remove(destination);
+    QDir().mkpath(QFileInfo(destination).path());
+    return QFile::rename(source, destination);
+}
+
 // The names that are to be copied, each once: two copies at a time must not meet in one file.
 std::vector<CopyJob> DistinctJobs(const std::vector<std::wstring>& names,
     const ExtractSettings& selection, const QString& installDir)
@@ -242,12 +250,9 @@ void InstallerMediator::UpdateProgramData()
         const QString& name = entry.key();
         const QString& target = entry.value();
         const QString source = settings.installDir + name;
-        const QString destination = GetStandardLocation(StandardLocation::CommonAppData) +
-                                    QDir::separator() + Platform::ToNativePath(target);
-        if (QFile::exists(destination))
-            QFile::remove(destination);
-        QDir().mkpath(QFileInfo(destination).path());
-        const bool isMoved = QFile::rename(source, destination);
+        const QString allUsers = GetStandardLocation(StandardLocation::CommonAppData);
+        const QString destination = allUsers + QDir::separator() + Platform::ToNativePath(target);
+        const bool isMoved = !allUsers.isEmpty() && MoveOver(source, destination);
         qInfo() << "Moved " << source << " to " << destination << " successfully: " << isMoved;
         if (!isMoved)
             HandleCopyFileError(name,

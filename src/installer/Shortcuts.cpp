@@ -227,12 +227,16 @@ void InstallerMediator::CreateShortcuts() const
 
 void InstallerMediator::RemoveShortcuts()
 {
+    // Where the machine does not tell such a folder, its path is empty, and a path below it would
+    // be one below the current folder.
     const QString root = StartMenuRoot(settings.scope);
     const QString menuBase = CreateMenuBasePath(root);
     // A name such as "" or ".." would take away the whole Start menu, or more.
-    if (QDir::cleanPath(menuBase).startsWith(QDir::fromNativeSeparators(root)))
+    if (!root.isEmpty() && QDir::cleanPath(menuBase).startsWith(QDir::fromNativeSeparators(root)))
         RemoveMenuFolder(menuBase);
-    RemoveDesktopLink(DesktopRoot(settings.scope) + settings.previousFolderName + ".lnk");
+    const QString desktop = DesktopRoot(settings.scope);
+    if (!desktop.isEmpty())
+        RemoveDesktopLink(desktop + settings.previousFolderName + ".lnk");
 }
 
 } // namespace Vorlan
