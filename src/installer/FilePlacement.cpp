@@ -4,6 +4,7 @@
 #include "installer/FileCopy.h"
 #include "installer/ProgressThrottle.h"
 #include "installer/Shortcuts.h"
+#include "platform/Links.h"
 #include "platform/Path.h"
 #include "platform/System.h"
 #include "registry/SettingsManager.h"
@@ -11,7 +12,9 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
+#include <QSet>
 #include <QThread>
 #include <QThreadPool>
 
@@ -53,6 +56,35 @@ void CreateDirectoryTree(const std::vector<std::wstring>& names, const ExtractSe
             throw std::runtime_error("Couldn't create directory " + folder.toStdString());
     }
     qInfo() << "Directory tree've been created";
+}
+
+QSet<QString> FileLinksBelow(const QString& folder)
+{
+    QSet<QString> links;
+    QDirIterator file(
+        folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+    while (file.hasNext())
+    {
+        const QString path = file.next();
+        if (file.fileInfo().isSymLink())
+            links.insert(path);
+    }
+    return links;
+}
+
+// The files to be placed take the place of links, and what lies behind these stays as it is.
+void RemoveLinksInTheWay(const std::vector<std::wstring>& names, const ExtractSettings& selection,
+    const QString& installDir)
+{
+    const QSet<QString> links = FileLinksBelow(QDir::cleanPath(installDir));
+    if (links.isEmpty())
+        return;
+    for (const std::wstring& name : names)
+    {
+        const CopyJob job = CreateCopyJob(selection, name, installDir);
+        if (job.valid && links.contains(QDir::cleanPath(job.destination)))
+            Platform::RemoveFileLink(job.destination);
+    }
 }
 
 bool MoveOver(const QString& source, const QString& destination)
@@ -154,6 +186,7 @@ InstallerMediator::CopyOperationInfo InstallerMediator::CopyExistingFiles(
     std::vector<std::wstring> names = extractor->GetEntryNames();
     for (const QString& name : reservedNames)
         names.push_back(Platform::WideFromText(name));
+    RemoveLinksInTheWay(names, selection, settings.installDir);
     CreateDirectoryTree(names, selection, settings.installDir);
 
     const int threads = std::max(1, static_cast<int>(std::thread::hardware_concurrency()));

@@ -215,7 +215,8 @@ INSTANTIATE_TEST_SUITE_P(Sweeps, FaultSweepTest,
         Sweep{"ReinstallationIsKilled", "kill", "install", true, 11},
         Sweep{"UninstallationIsKilled", "kill", "uninstall", true, 11},
         Sweep{"DiskIsFullInFirstInstallation", "full", "install", false, 11},
-        Sweep{"DiskIsFullInReinstallation", "full", "install", true, 11}),
+        Sweep{"DiskIsFullInReinstallation", "full", "install", true, 11},
+        Sweep{"DiskIsFullInUninstallation", "full", "uninstall", true, 11}),
     [](const auto& sweep) { return std::string(sweep.param.name); });
 
 } // namespace
