@@ -15,8 +15,9 @@ target_include_directories(LzmaSdk SYSTEM PUBLIC "${LZMA_SDK_DIR}")
 target_compile_definitions(LzmaSdk PUBLIC Z7_PPMD_SUPPORT)
 target_compile_options(LzmaSdk PRIVATE -w $<$<NOT:$<CONFIG:Debug>>:-O3>)
 if(VORLAN_SANITIZE)
-    # The SDK reads unaligned numbers on processors that allow it.
-    target_compile_options(LzmaSdk PRIVATE -fno-sanitize=alignment)
+    # The SDK reads unaligned numbers on processors that allow it, and adds 0 to a null pointer where
+    # there is nothing to read.
+    target_compile_options(LzmaSdk PRIVATE -fno-sanitize=alignment,pointer-overflow)
 endif()
 if(NOT WIN32)
     # The SDK knows wide file names only with Windows file calls: it gets those of our own layer,

@@ -21,12 +21,8 @@ namespace Pal
 OpenFile::OpenFile(int descriptor, std::string path, DWORD access, DWORD shareMode)
     : m_descriptor(descriptor), m_path(std::move(path)), m_access(access), m_shareMode(shareMode)
 {
-    struct stat status = {};
-    if (fstat(descriptor, &status) == 0)
-    {
-        m_device = status.st_dev;
-        m_inode = status.st_ino;
-    }
+    if (fstat(descriptor, &m_status) != 0)
+        m_status = {};
 }
 
 OpenFile::~OpenFile()
@@ -50,7 +46,7 @@ bool OpenFile::Excludes(const OpenFile& other) const
         return (second.Allows(GENERIC_READ) && !(first.m_shareMode & FILE_SHARE_READ)) ||
                (second.Allows(GENERIC_WRITE) && !(first.m_shareMode & FILE_SHARE_WRITE));
     };
-    return m_device == other.m_device && m_inode == other.m_inode &&
+    return m_status.st_dev == other.m_status.st_dev && m_status.st_ino == other.m_status.st_ino &&
            (forbids(*this, other) || forbids(other, *this));
 }
 
@@ -114,12 +110,6 @@ int OpenDescriptor(const std::string& path, int flags)
     return descriptor;
 }
 
-mode_t ModeOf(int descriptor)
-{
-    struct stat status = {};
-    return fstat(descriptor, &status) == 0 ? status.st_mode : 0;
-}
-
 // The content goes only after the share modes have been asked.
 HANDLE EnterFile(const std::shared_ptr<OpenFile>& file, DWORD disposition)
 {
@@ -131,7 +121,8 @@ HANDLE EnterFile(const std::shared_ptr<OpenFile>& file, DWORD disposition)
     const HANDLE handle = HandleTable::Instance().AddUnless(excludes, file);
     if (!handle)
         return FailedOpen(ERROR_SHARING_VIOLATION);
-    const bool mustEmpty = Truncates(disposition) && S_ISREG(ModeOf(file->Descriptor()));
+    const struct stat& status = file->Status();
+    const bool mustEmpty = Truncates(disposition) && S_ISREG(status.st_mode) && status.st_size != 0;
     if (mustEmpty && ftruncate(file->Descriptor(), 0) != 0)
     {
         const DWORD error = ErrorFromErrno(errno);
@@ -153,7 +144,7 @@ HANDLE OpenNativeFile(const std::string& path, const OpenRequest& request)
     }
     const auto file =
         std::make_shared<OpenFile>(descriptor, path, request.access, request.shareMode);
-    if (S_ISDIR(ModeOf(descriptor)))
+    if (S_ISDIR(file->Status().st_mode))
         return FailedOpen(ERROR_ACCESS_DENIED);
     const HANDLE handle = EnterFile(file, request.disposition);
     const bool foundInstead =

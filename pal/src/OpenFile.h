@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include <sys/types.h>
+#include <sys/stat.h>
 
 #include "HandleTable.h"
 
@@ -27,14 +27,15 @@ public:
 
     bool Allows(DWORD access) const { return (m_access & access) != 0; }
     int Descriptor() const { return m_descriptor; }
+    // As it was when it was opened; all zero where the system did not tell.
+    const struct stat& Status() const { return m_status; }
 
 private:
     int m_descriptor;
     const std::string m_path;
     const DWORD m_access;
     const DWORD m_shareMode;
-    dev_t m_device = 0;
-    ino_t m_inode = 0;
+    struct stat m_status = {};
 };
 
 } // namespace Pal

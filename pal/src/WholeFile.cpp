@@ -2,7 +2,10 @@
 
 #include <atomic>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
+#include <filesystem>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -16,11 +19,33 @@ namespace Pal
 namespace
 {
 
+namespace fs = std::filesystem;
+
+// What the names of temporary files for this one begin with; the process's number follows.
+std::string TemporaryPrefix(const std::string& path)
+{
+    return path + ".tmp-";
+}
+
 // A name of its own in the same folder, for each call of each process.
 std::string TemporaryName(const std::string& path)
 {
     static std::atomic<unsigned> number = 0;
-    return path + ".tmp-" + std::to_string(getpid()) + "-" + std::to_string(++number);
+    return TemporaryPrefix(path) + std::to_string(getpid()) + "-" + std::to_string(++number);
+}
+
+// Deletes what processes that were killed left unfinished.
+void RemoveLeftovers(const std::string& path)
+{
+    const std::string prefix = TemporaryPrefix(path);
+    std::error_code ignored;
+    for (const auto& entry : fs::directory_iterator(fs::path(path).parent_path(), ignored))
+    {
+        const std::string& name = entry.path().native();
+        const int owner = name.rfind(prefix, 0) == 0 ? std::atoi(name.c_str() + prefix.size()) : 0;
+        if (owner > 0 && kill(owner, 0) != 0 && errno == ESRCH)
+            unlink(name.c_str());
+    }
 }
 
 DWORD WriteAll(int descriptor, const std::string& bytes)
@@ -46,6 +71,7 @@ DWORD WriteNewFile(const std::string& path, const std::string& bytes)
 
 DWORD WriteWholeFile(const std::string& path, const std::string& bytes)
 {
+    RemoveLeftovers(path);
     const std::string temporary = TemporaryName(path);
     DWORD error = WriteNewFile(temporary, bytes);
     if (error == ERROR_SUCCESS && rename(temporary.c_str(), path.c_str()) != 0)

@@ -17,6 +17,17 @@ namespace
 
 constexpr ISzAlloc heap = {SzAlloc, SzFree};
 
+// The catalogue's largest table has 8 bytes for each entry: room for eight million, and an archive
+// that claims more takes no memory for them.
+constexpr std::size_t largestTable = std::size_t{64} << 20; // bytes
+
+void* AllocateTable(ISzAllocPtr allocator, std::size_t size)
+{
+    return size > largestTable ? nullptr : SzAlloc(allocator, size);
+}
+
+constexpr ISzAlloc catalogueHeap = {AllocateTable, SzFree};
+
 void ThrowUnless(bool condition, const char* error)
 {
     if (!condition)
@@ -27,15 +38,15 @@ void ThrowUnless(bool condition, const char* error)
 class OutputFile
 {
 public:
-    explicit OutputFile(const std::wstring& path)
-    {
-        File_Construct(&file);
-        ThrowUnless(OutFile_OpenW(&file, Platform::PathForCall(path).c_str()) == 0,
-            "Cannot open destination file for write");
-    }
+    OutputFile() { File_Construct(&file); }
     ~OutputFile() { File_Close(&file); }
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
+
+    bool Open(const std::wstring& path)
+    {
+        return OutFile_OpenW(&file, Platform::PathForCall(path).c_str()) == 0;
+    }
 
     void Write(const Byte* data, std::size_t size)
     {
@@ -56,16 +67,30 @@ bool IsFolder(const std::wstring& path)
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
-// Creates every folder that the name of an output file goes through.
-void CreateFolders(const std::wstring& destination, std::wstring name)
+// Creates the folders that the name of an output file goes through and that are missing. Returns
+// whether there were any.
+bool CreateMissingFolders(const std::wstring& destination, std::wstring name)
 {
+    bool areCreated = false;
     for (auto slash = name.find(L'/'); slash != std::wstring::npos; slash = name.find(L'/', slash))
     {
         const std::wstring folder = Platform::PathForCall(destination + name.substr(0, slash));
-        ThrowUnless(IsFolder(folder) || CreateDirectoryW(folder.c_str(), nullptr),
-            "Failed to create directory");
+        if (!IsFolder(folder))
+        {
+            ThrowUnless(CreateDirectoryW(folder.c_str(), nullptr), "Failed to create directory");
+            areCreated = true;
+        }
         name[slash] = L'\\';
     }
+    return areCreated;
+}
+
+// Most files have their folder already: it is looked for only where the file cannot be opened.
+void OpenOutput(OutputFile& file, const std::wstring& destination, const std::wstring& name)
+{
+    const bool isOpen = file.Open(destination + name) ||
+                        (CreateMissingFolders(destination, name) && file.Open(destination + name));
+    ThrowUnless(isOpen, "Cannot open destination file for write");
 }
 
 bool IsSelected(const ExtractSettings& selection, const std::wstring& key)
@@ -106,7 +131,7 @@ void ArchiveExtractor::State::Open(const std::wstring& archivePath)
     path = archivePath;
     ThrowUnless(stream.Open(path), "Failed to open input file");
     CrcGenerateTable();
-    ThrowUnless(SzArEx_Open(&database, stream.Get(), &heap, &heap) == SZ_OK,
+    ThrowUnless(SzArEx_Open(&database, stream.Get(), &catalogueHeap, &catalogueHeap) == SZ_OK,
         "Failed read archive data, maybe file is corrupted");
 }
 
@@ -208,9 +233,8 @@ void ArchiveExtractor::Unpack(
         const State::Data data = state->Read(index, decoder, block);
         const auto renamed = selection.rename.find(EntryKey(name));
         const std::wstring& outputName = renamed == selection.rename.end() ? name : renamed->second;
-        CreateFolders(destination, outputName);
-
-        OutputFile file(destination + outputName);
+        OutputFile file;
+        OpenOutput(file, destination, outputName);
         total += data.size;
         file.Write(data.bytes, data.size);
         file.Close();

@@ -25,8 +25,9 @@ public:
     // written.
     using Progress = std::function<void(uint64_t, std::wstring)>;
 
-    // Opens the archive and reads its catalogue. Throws std::runtime_error: "Failed to open input
-    // file", or "Failed read archive data, maybe file is corrupted".
+    // Opens the archive and reads its catalogue, of at most eight million entries. Throws
+    // std::runtime_error: "Failed to open input file", or "Failed read archive data, maybe file is
+    // corrupted".
     explicit ArchiveExtractor(const std::wstring& archivePath);
     ~ArchiveExtractor();
     ArchiveExtractor(const ArchiveExtractor&) = delete;

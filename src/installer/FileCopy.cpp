@@ -2,17 +2,24 @@
 
 #include "archive/EntryName.h"
 #include "installer/ExtractSettings.h"
+#include "platform/CopyFile.h"
 #include "platform/Path.h"
 
 #include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QFutureSynchronizer>
+#include <QScopeGuard>
 #include <QtConcurrent>
 
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
 #include <exception>
-#include <list>
-#include <thread>
+#include <mutex>
+#include <vector>
 
 namespace Vorlan
 {
@@ -30,32 +37,76 @@ QString ReplaceFile(QFile& source, QFile& destination)
     if (destination.exists() && !destination.remove())
         return QString("Failed to remove existing file from destination %1 error %2")
             .arg(destination.fileName(), destination.errorString());
-    if (!source.copy(destination.fileName()))
+    if (!Platform::CopyToNewFile(source, destination.fileName()))
         return QString("Failed to copy file %1 error %2")
             .arg(source.fileName(), source.errorString());
     return QString();
 }
 
-struct RunningCopy
-{
-    CopyJob job;
-    QFuture<CopyFileOperationStatus> future;
-};
+// To wake the collecting thread for each file would take longer than to copy most of them.
+constexpr std::chrono::milliseconds collectInterval{5};
 
-CopyFileOperationStatus TakeStatus(QFuture<CopyFileOperationStatus>& future)
+// Jobs on their way to the threads that copy, and results on their way back.
+class CopyQueue
 {
-    try
+public:
+    CopyQueue(const std::vector<CopyJob>& jobsToDo, int threads) : jobs(jobsToDo), working(threads)
     {
-        return future.result();
     }
-    catch (const std::exception& exception)
+
+    // Copies until there is no job left or a copy failed.
+    void Work()
     {
-        qInfo() << "Copy exception:" << exception.what();
+        const auto atTheEnd = qScopeGuard([this] { End(); });
+        for (std::size_t index = next++; index < jobs.size() && !isStopped; index = next++)
+        {
+            const CopyFileOperationStatus status =
+                CopyOneFile(jobs[index].source, jobs[index].destination);
+            if (!status.error.isEmpty())
+                isStopped = true;
+            const std::lock_guard lock(mutex);
+            results.push_back({index, status});
+        }
+    }
+
+    // Hands out the results until every thread has ended.
+    void Collect(const CopyCollector& collect)
+    {
+        for (bool isWorking = true; isWorking;)
+        {
+            std::vector<Result> finished;
+            {
+                std::unique_lock lock(mutex);
+                isWorking = !ended.wait_for(lock, collectInterval, [this] { return working == 0; });
+                finished.swap(results);
+            }
+            for (const Result& result : finished)
+                collect(jobs[result.index], result.status);
+        }
+    }
+
+private:
+    struct Result
+    {
+        std::size_t index;
         CopyFileOperationStatus status;
-        status.error = exception.what();
-        return status;
+    };
+
+    void End()
+    {
+        const std::lock_guard lock(mutex);
+        --working;
+        ended.notify_one();
     }
-}
+
+    const std::vector<CopyJob>& jobs;
+    std::atomic<std::size_t> next = 0;
+    std::atomic<bool> isStopped = false;
+    std::mutex mutex; // guards what follows
+    std::condition_variable ended;
+    std::vector<Result> results;
+    int working;
+};
 
 } // namespace
 
@@ -84,7 +135,7 @@ CopyFileOperationStatus CopyOneFile(const QString& source, const QString& destin
         QFile destinationFile(destination);
         if (source.isEmpty() || destination.isEmpty() || !sourceFile.exists())
             return status;
-        if (!IsSameFile(source, destination))
+        if (!destinationFile.exists() || !IsSameFile(source, destination))
             status.error = ReplaceFile(sourceFile, destinationFile);
         if (!status.error.isEmpty())
             return status;
@@ -102,35 +153,14 @@ CopyFileOperationStatus CopyOneFile(const QString& source, const QString& destin
     return status;
 }
 
-void RunCopies(int threadCount, const std::function<CopyJob()>& nextJob,
-    const std::function<bool(const CopyJob&, const CopyFileOperationStatus&)>& collect)
+void RunCopies(int threadCount, const std::vector<CopyJob>& jobs, const CopyCollector& collect)
 {
-    std::list<RunningCopy> running;
-    const auto launch = [&]
-    {
-        const CopyJob job = nextJob();
-        if (job.valid)
-            running.push_back({job, QtConcurrent::run(CopyOneFile, job.source, job.destination)});
-    };
-
-    for (int launched = 0; launched < threadCount; ++launched)
-        launch();
-    while (!running.empty())
-    {
-        for (auto copy = running.begin(); copy != running.end();)
-        {
-            if (!copy->future.isFinished())
-            {
-                ++copy;
-                continue;
-            }
-            const bool mayGoOn = collect(copy->job, TakeStatus(copy->future));
-            copy = running.erase(copy);
-            if (mayGoOn)
-                launch();
-        }
-        std::this_thread::yield();
-    }
+    const int useful = static_cast<int>(std::min<std::size_t>(jobs.size(), threadCount));
+    CopyQueue queue(jobs, useful);
+    QFutureSynchronizer<void> threads;
+    for (int thread = 0; thread < useful; ++thread)
+        threads.addFuture(QtConcurrent::run([&queue] { queue.Work(); }));
+    queue.Collect(collect);
 }
 
 } // namespace Vorlan

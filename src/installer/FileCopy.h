@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 struct ExtractSettings;
 
@@ -34,10 +35,11 @@ struct CopyFileOperationStatus
 // a source that is the destination itself counts as copied. Throws nothing; any thread.
 CopyFileOperationStatus CopyOneFile(const QString& source, const QString& destination);
 
-// Runs CopyOneFile for job after job on the global thread pool, `threadCount` at a time. `nextJob`
-// gives the next job, or an invalid one when there is none left; `collect` gets each result and
-// says whether new copies may be started. Both are called on the caller's thread only.
-void RunCopies(int threadCount, const std::function<CopyJob()>& nextJob,
-    const std::function<bool(const CopyJob&, const CopyFileOperationStatus&)>& collect);
+using CopyCollector = std::function<void(const CopyJob&, const CopyFileOperationStatus&)>;
+
+// Runs CopyOneFile for the jobs, in order, on `threadCount` threads of the global pool; starts no
+// further copy once one has failed. `collect` gets the result of each copy that was made, on the
+// caller's thread.
+void RunCopies(int threadCount, const std::vector<CopyJob>& jobs, const CopyCollector& collect);
 
 } // namespace Vorlan

@@ -4,6 +4,7 @@
 #include "installer/FileCopy.h"
 #include "installer/ProgressThrottle.h"
 #include "installer/Shortcuts.h"
+#include "platform/Links.h"
 #include "platform/Path.h"
 #include "platform/System.h"
 #include "registry/SettingsManager.h"
@@ -11,7 +12,9 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
+#include <QSet>
 #include <QThread>
 #include <QThreadPool>
 
@@ -19,6 +22,7 @@
 #include <chrono>
 #include <set>
 #include <stdexcept>
+#include <unordered_set>
 
 namespace Vorlan
 {
@@ -52,6 +56,58 @@ void CreateDirectoryTree(const std::vector<std::wstring>& names, const ExtractSe
             throw std::runtime_error("Couldn't create directory " + folder.toStdString());
     }
     qInfo() << "Directory tree've been created";
+}
+
+QSet<QString> FileLinksBelow(const QString& folder)
+{
+    QSet<QString> links;
+    QDirIterator file(
+        folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+    while (file.hasNext())
+    {
+        const QString path = file.next();
+        if (file.fileInfo().isSymbolicLink())
+            links.insert(path);
+    }
+    return links;
+}
+
+// The files to be placed take the place of links, and what lies behind these stays as it is.
+void RemoveLinksInTheWay(const std::vector<std::wstring>& names, const ExtractSettings& selection,
+    const QString& installDir)
+{
+    const QSet<QString> links = FileLinksBelow(QDir::cleanPath(installDir));
+    if (links.isEmpty())
+        return;
+    for (const std::wstring& name : names)
+    {
+        const CopyJob job = CreateCopyJob(selection, name, installDir);
+        if (job.valid && links.contains(QDir::cleanPath(job.destination)))
+            Platform::RemoveFileLink(job.destination);
+    }
+}
+
+bool MoveOver(const QString& source, const QString& destination)
+{
+    if (QFile::exists(destination))
+        QFile::remove(destination);
+    QDir().mkpath(QFileInfo(destination).path());
+    return QFile::rename(source, destination);
+}
+
+// The names that are to be copied, each once: two copies at a time must not meet in one file.
+std::vector<CopyJob> DistinctJobs(const std::vector<std::wstring>& names,
+    const ExtractSettings& selection, const QString& installDir)
+{
+    std::vector<CopyJob> jobs;
+    std::unordered_set<std::wstring> keys;
+    for (const std::wstring& name : names)
+    {
+        CopyJob job = CreateCopyJob(selection, name, installDir);
+        if (job.valid && keys.insert(job.key).second)
+            jobs.push_back(std::move(job));
+    }
+    return jobs;
 }
 
 } // namespace
@@ -130,6 +186,7 @@ InstallerMediator::CopyOperationInfo InstallerMediator::CopyExistingFiles(
     std::vector<std::wstring> names = extractor->GetEntryNames();
     for (const QString& name : reservedNames)
         names.push_back(Platform::WideFromText(name));
+    RemoveLinksInTheWay(names, selection, settings.installDir);
     CreateDirectoryTree(names, selection, settings.installDir);
 
     const int threads = std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
@@ -183,17 +240,9 @@ InstallerMediator::CopyOperationInfo InstallerMediator::ParallelCopyExistingFile
     }
 
     CopyOperationInfo info;
+    const std::vector<CopyJob> jobs = DistinctJobs(names, selection, settings.installDir);
+    info.skippedFiles = names.size() - jobs.size();
     QString errors;
-    const auto nextJob = [&, name = names.begin()]() mutable
-    {
-        CopyJob job;
-        while (!job.valid && name != names.end())
-        {
-            job = CreateCopyJob(selection, *name++, settings.installDir);
-            info.skippedFiles += job.valid ? 0 : 1;
-        }
-        return job;
-    };
     const auto collect = [&](const CopyJob& job, const CopyFileOperationStatus& status)
     {
         errors += status.error;
@@ -210,9 +259,8 @@ InstallerMediator::CopyOperationInfo InstallerMediator::ParallelCopyExistingFile
             progress(info.copiedBytes);
             selection.exclude.insert(job.key);
         }
-        return errors.isEmpty();
     };
-    RunCopies(threadCount, nextJob, collect);
+    RunCopies(threadCount, jobs, collect);
     if (!errors.isEmpty())
         throw std::runtime_error(errors.toStdString());
     qInfo() << "Copy is completed, thread id:" << QThread::currentThreadId();
@@ -235,12 +283,9 @@ void InstallerMediator::UpdateProgramData()
         const QString& name = entry.key();
         const QString& target = entry.value();
         const QString source = settings.installDir + name;
-        const QString destination = GetStandardLocation(StandardLocation::CommonAppData) +
-                                    QDir::separator() + Platform::ToNativePath(target);
-        if (QFile::exists(destination))
-            QFile::remove(destination);
-        QDir().mkpath(QFileInfo(destination).path());
-        const bool isMoved = QFile::rename(source, destination);
+        const QString allUsers = GetStandardLocation(StandardLocation::CommonAppData);
+        const QString destination = allUsers + QDir::separator() + Platform::ToNativePath(target);
+        const bool isMoved = !allUsers.isEmpty() && MoveOver(source, destination);
         qInfo() << "Moved " << source << " to " << destination << " successfully: " << isMoved;
         if (!isMoved)
             HandleCopyFileError(name,

@@ -75,6 +75,8 @@ void InstallerMediator::RunInstallation()
 {
     if (!extractor)
         throw std::runtime_error("There is no payload archive to install from");
+    if (settings.installDir.isEmpty())
+        throw std::runtime_error("There is no folder to install into");
 
     RequestWebConfig(settings, *this);
     const std::shared_ptr<Installer::IAccelerationChecker> checker = makeChecker();

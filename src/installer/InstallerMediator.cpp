@@ -94,8 +94,9 @@ void InstallerMediator::FillSettings(const Initializer& initializer)
     settings.profileModeFlag = profile.mode == 1;
     settings.isNewerVersion = IsNewerThanInstalled();
     settings.previousFolderName = PreviousFolderName();
-    settings.installDir = GetStandardLocation(StandardLocation::AppData) + separator +
-                          settings.productFolderName + separator;
+    const QString appData = GetStandardLocation(StandardLocation::AppData);
+    if (!appData.isEmpty()) // else nothing is proposed, rather than the root of a drive
+        settings.installDir = appData + separator + settings.productFolderName + separator;
     settings.statisticsKeyExists = settingsManager->StatisticsKeyExists();
     DetermineLocale();
 

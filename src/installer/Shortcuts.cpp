@@ -3,6 +3,7 @@
 #include "installer/InstallerMediator.h"
 #include "installer/ProductProfile.h"
 #include "platform/Com.h"
+#include "platform/Links.h"
 #include "platform/Path.h"
 #include "platform/System.h"
 
@@ -115,7 +116,7 @@ void RemoveMenuFolder(const QString& folder)
     qInfo() << "Removing " << folder;
     for (const QString& link : FilesBelow(folder))
         qDebug() << "existing link=" << link;
-    if (!QDir(folder).removeRecursively())
+    if (!Platform::RemoveFolder(folder))
         qInfo() << "Failed to remove " << folder << ", error=" << GetLastError();
     for (const QString& link : FilesBelow(folder))
         qInfo() << "Error! remaining link=" << link;
@@ -160,6 +161,7 @@ bool CreateShortCut(const QString& link, const QString& target, const QStringLis
 
 bool CreateUrlLink(const QString& file, const std::string& url)
 {
+    Platform::RemoveFileLink(file);
     QFile urlFile(file);
     if (!urlFile.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return false;
@@ -227,12 +229,16 @@ void InstallerMediator::CreateShortcuts() const
 
 void InstallerMediator::RemoveShortcuts()
 {
+    // Where the machine does not tell such a folder, its path is empty, and a path below it would
+    // be one below the current folder.
     const QString root = StartMenuRoot(settings.scope);
     const QString menuBase = CreateMenuBasePath(root);
     // A name such as "" or ".." would take away the whole Start menu, or more.
-    if (QDir::cleanPath(menuBase).startsWith(QDir::fromNativeSeparators(root)))
+    if (!root.isEmpty() && QDir::cleanPath(menuBase).startsWith(QDir::fromNativeSeparators(root)))
         RemoveMenuFolder(menuBase);
-    RemoveDesktopLink(DesktopRoot(settings.scope) + settings.previousFolderName + ".lnk");
+    const QString desktop = DesktopRoot(settings.scope);
+    if (!desktop.isEmpty())
+        RemoveDesktopLink(desktop + settings.previousFolderName + ".lnk");
 }
 
 } // namespace Vorlan

@@ -2,6 +2,7 @@
 
 #include "installer/DelayedDelete.h"
 #include "platform/ApplicationRegistry.h"
+#include "platform/Links.h"
 #include "platform/System.h"
 
 #include <QCoreApplication>
@@ -138,7 +139,7 @@ void InstallerMediator::RemoveFiles(const QFileInfoList& files, unsigned long lo
 void InstallerMediator::RemoveLogs()
 {
     const QString folder = GetLocationLogs();
-    if (QDir(folder).exists() && !QDir(folder).removeRecursively())
+    if (QDir(folder).exists() && !Platform::RemoveFolder(folder))
         qInfo() << "Failed to remove logs " << folder << ", error=" << GetLastError();
 }
 
@@ -156,7 +157,9 @@ void InstallerMediator::CreateInstallerMessageScript() const
     const QString script =
         "MsgBox \"" + message + "\", vbCritical+vbOKOnly+vbSystemModal, \"" + name + '"';
 
-    QFile file(settings.installDir + "InstallerMessage.vbs");
+    const QString path = settings.installDir + "InstallerMessage.vbs";
+    Platform::RemoveFileLink(path);
+    QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return;
     for (const QChar unit : script)

@@ -57,6 +57,16 @@ bool IsProgIdOf(
     return command.isEmpty() || program == association.executable;
 }
 
+// Whether the verb starts this program. One without a command is what a registration or removal
+// that was cut off has left, and is told by its icon.
+bool IsVerbOf(const QString& executablePath, const RegistrySettings& settings, const QString& verb)
+{
+    const QString program = WithBackslashes(executablePath);
+    const QString command = WithBackslashes(settings.value(verb + "/Command/Default").toString());
+    const QString icon = WithBackslashes(settings.value(verb + "/Icon").toString());
+    return command.isEmpty() ? icon == program : command.startsWith(Quoted(program));
+}
+
 } // namespace
 
 QString SettingsManager::RootName(QSettings::Scope scope)
@@ -241,13 +251,11 @@ void SettingsManager::RemoveContextMenu(const QString& label, const QString& exe
     RegistrySettings settings(QString(fileAssociationsKey).arg(RootName(scope)));
     if (label.isEmpty() || extensions.isEmpty())
         return;
-    const QString marker = WithBackslashes(Quoted(executablePath));
     qInfo() << "Removing " << settings.fileName();
     for (const QString& extension : extensions)
     {
         const QString verb = QString("%1/Shell/%2").arg(extension, label);
-        const QString command = settings.value(verb + "/Command/Default").toString();
-        if (!WithBackslashes(command).startsWith(marker))
+        if (!IsVerbOf(executablePath, settings, verb))
             continue;
         settings.remove(verb);
         qInfo() << "Remove key " << verb;

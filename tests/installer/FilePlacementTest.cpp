@@ -135,6 +135,9 @@ TEST_F(FilePlacementTest, ParallelCopyPlacesEveryFileOnce)
         names.push_back(Platform::WideFromText(file));
         QDir().mkpath(installDir + file.section('/', 0, 0));
     }
+    names.insert(names.end(), 20, L"libs0/file0.dll"); // would meet in one file
+    const auto permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    QFile::setPermissions("libs1/file1.dll", permissions);
     const int former = QThreadPool::globalInstance()->maxThreadCount();
     QThreadPool::globalInstance()->setMaxThreadCount(4);
     access.CopyInParallel(names, 8);
@@ -144,6 +147,8 @@ TEST_F(FilePlacementTest, ParallelCopyPlacesEveryFileOnce)
     QThreadPool::globalInstance()->setMaxThreadCount(former);
 
     EXPECT_EQ(ReadTree(installDir), ReadTree("."));
+    EXPECT_EQ(
+        QFile::permissions(installDir + "libs1/file1.dll"), QFile::permissions("libs1/file1.dll"));
     EXPECT_EQ(machine.Log().filter("The pool parameter is changed to: 8").size(), 1);
     EXPECT_EQ(machine.Log().filter("Copy is completed, thread id: ").size(), 2);
 }

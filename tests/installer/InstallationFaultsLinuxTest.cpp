@@ -88,3 +88,24 @@ TEST_F(InstallationFaultsTest, DamagedRegistryIsReportedAndSetAside)
     EXPECT_EQ(machine.Log().filter("Registry file is damaged and was set aside").size(), 1);
     EXPECT_EQ(nextAccess.Registry().GetInstallLocation(), machine.Path("Vorlan Quillax/"));
 }
+
+TEST_F(InstallationFaultsTest, MachineWithoutShellFoldersGetsNothingIntoTheRootOfItsDrive)
+{
+    {
+        const Pal::ScopedFault missing("SHGetSpecialFolderPathW", ERROR_FILE_NOT_FOUND);
+        const InstallerMediator next({name, false, true, QSettings::UserScope, false});
+        EXPECT_EQ(next.GetSettings().installDir, "");
+        mediator.SetSettings(next.GetSettings());
+    }
+    Install();
+    EXPECT_EQ(signalLog.Count("InstallationError"), 1);
+    EXPECT_TRUE(machine.Log().contains(
+        "Error  There is no folder to install into  in InstallerMediator::Extract()"));
+
+    access.Settings().installDir = machine.Path("Vorlan Quillax/");
+    const Pal::ScopedFault missing("SHGetSpecialFolderPathW", ERROR_FILE_NOT_FOUND);
+    access.ExtractFiles({});
+    access.UpdateProgramData();
+    EXPECT_EQ(signalLog.Count("CopyFileError(fonts.conf, Failed to move file"), 1);
+    EXPECT_TRUE(QFile::exists(machine.Path("Vorlan Quillax/fonts.conf")));
+}

@@ -75,3 +75,18 @@ TEST(RegistrationFaults, ShellFolderThatIsNotThereGetsNoLinkAndTheOtherOnesDo)
     EXPECT_EQ(LinksMadeWhile(shellFolder, ERROR_FILE_NOT_FOUND, 2, machine).size(), 3);
     EXPECT_FALSE(QFile::exists("/Vorlan Quillax.lnk"));
 }
+
+TEST(RegistrationFaults, RemovalOfShortcutsFromAMissingFolderLeavesTheCurrentOneAlone)
+{
+    for (const unsigned missing : {1u, 2u}) // the Start menu, the desktop
+    {
+        const Machine machine;
+        WriteFile("kept/file.txt", "stays");
+        WriteFile("Vorlan Quillax.lnk", "stays");
+        const QString name = "setup.exe";
+        InstallerMediator mediator({name, false, true, QSettings::UserScope, false});
+        const Pal::ScopedFault fault("SHGetSpecialFolderPathW", ERROR_FILE_NOT_FOUND, missing);
+        MediatorAccess{mediator}.RemoveShortcuts();
+        EXPECT_EQ(ListTree("."), QStringList({"Vorlan Quillax.lnk", "kept/", "kept/file.txt"}));
+    }
+}

@@ -171,6 +171,17 @@ TEST_F(ShellRecordsTest, ContextMenuVerbOfAnotherProgramStays)
             ".mp4\\Shell\\Convert to\\Command: @ = REG_SZ \"C:\\Other\\o.exe\" \"%1\""}));
 }
 
+TEST_F(ShellRecordsTest, VerbWithoutCommandGoesWhenItsIconIsTheProgram)
+{
+    const QString key = QString("HKEY_CURRENT_USER\\") + classes + "\\SystemFileAssociations";
+    const QString icon = "/Shell/Convert to/Icon";
+    RegistrySettings(key).setValue(".avi" + icon, "C:/Q/quill.exe");
+    RegistrySettings(key).setValue(".mp4" + icon, "C:/Other/o.exe");
+    SettingsManager::RemoveContextMenu("Convert to", "C:\\Q\\quill.exe", {".avi", ".mp4"}, user);
+    EXPECT_FALSE(RegistrySettings(key).contains(".avi" + icon));
+    EXPECT_TRUE(RegistrySettings(key).contains(".mp4" + icon));
+}
+
 TEST_F(ShellRecordsTest, RunValueThatPointsElsewhereStays)
 {
     SettingsManager::AddToAutoRun("Quill", "C:\\Q\\quill.exe", "-min", allUsers);

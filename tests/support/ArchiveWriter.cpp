@@ -101,7 +101,7 @@ QByteArray FilesInfo(const std::vector<ArchiveEntry>& entries)
 
 QByteArray CreateArchive(const std::vector<ArchiveEntry>& entries)
 {
-    CrcGenerateTable();
+    CrcGenerateTable(); // for the checksums of the contents
     std::vector<QByteArray> contents;
     QByteArray packed;
     for (const ArchiveEntry& entry : entries)
@@ -115,6 +115,12 @@ QByteArray CreateArchive(const std::vector<ArchiveEntry>& entries)
         header += StreamsInfo(contents, packed);
     header += FilesInfo(entries) + kEnd;
 
+    return AssembleArchive(packed, header);
+}
+
+QByteArray AssembleArchive(const QByteArray& packed, const QByteArray& header)
+{
+    CrcGenerateTable();
     const QByteArray start = LittleEndian(static_cast<quint64>(packed.size())) +
                              LittleEndian(static_cast<quint64>(header.size())) +
                              LittleEndian(Crc(header));

@@ -16,3 +16,6 @@ struct ArchiveEntry
 // A 7z archive in the published format (7zFormat.txt of the LZMA SDK): one uncompressed block, an
 // uncompressed header, all checksums right.
 QByteArray CreateArchive(const std::vector<ArchiveEntry>& entries);
+
+// An archive of this packed data and this header, which may say what a test wants.
+QByteArray AssembleArchive(const QByteArray& packed, const QByteArray& header);

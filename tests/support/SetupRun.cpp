@@ -76,13 +76,19 @@ SetupRun::Result SetupRun::StartFrom(
     const QString& folder, const QString& program, const QStringList& arguments)
 {
     QProcess process;
-    process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(WorkFolder());
-    process.start(QDir(folder).filePath(program), arguments);
+    Launch(process, QDir(folder).filePath(program), arguments);
     EXPECT_TRUE(process.waitForFinished(timeLimitMs)) << process.errorString().toStdString();
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     return {process.exitCode(), TextOf(process.readAllStandardOutput()),
         TextOf(process.readAllStandardError())};
+}
+
+void SetupRun::Launch(
+    QProcess& process, const QString& programPath, const QStringList& arguments) const
+{
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(WorkFolder());
+    process.start(programPath, arguments);
 }
 
 QString SetupRun::WorkFolder() const

@@ -34,6 +34,9 @@ public:
     Result StartFrom(const QString& folder, const QString& program, const QStringList& arguments);
     Result Start(const QStringList& arguments) { return Start("installergui.exe", arguments); }
 
+    // Starts a program and does not wait for its end.
+    void Launch(QProcess& process, const QString& programPath, const QStringList& arguments) const;
+
     // Copies a file of the build's program folder into the setup folder, under the same path.
     void AddProgram(const QString& fileName);
 

@@ -1,0 +1,77 @@
+#include "platform/CopyFile.h"
+
+#include <QFileInfo>
+
+#include <string>
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/sendfile.h>
+#include <unistd.h>
+
+namespace Vorlan::Platform
+{
+
+namespace
+{
+
+class Descriptor
+{
+public:
+    Descriptor(const QString& path, int flags)
+        : descriptor(open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, 0600))
+    {
+    }
+    ~Descriptor()
+    {
+        if (IsOpen())
+            close(descriptor);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    bool IsOpen() const { return descriptor >= 0; }
+    int Get() const { return descriptor; }
+
+private:
+    int descriptor;
+};
+
+// Shares the blocks where the file system can do so, and copies them otherwise.
+bool CopyContent(int source, int destination)
+{
+    constexpr std::size_t most = 0x7ffff000; // bytes that one call transfers, see sendfile(2)
+    if (ioctl(destination, FICLONE, source) == 0)
+        return true;
+    ssize_t copied = 0;
+    do
+        copied = sendfile(destination, source, nullptr, most);
+    while (copied > 0);
+    return copied == 0;
+}
+
+// The new file has no name until it is complete. False where something fails, or where the file
+// system has no files without a name.
+bool CopyUnnamed(const QFile& source, const QString& destination)
+{
+    const Descriptor from(source.fileName(), O_RDONLY);
+    const Descriptor to(QFileInfo(destination).path(), O_WRONLY | O_TMPFILE);
+    if (!from.IsOpen() || !to.IsOpen() || !CopyContent(from.Get(), to.Get()))
+        return false;
+    const std::string unnamed = "/proc/self/fd/" + std::to_string(to.Get()); // see open(2)
+    return linkat(AT_FDCWD, unnamed.c_str(), AT_FDCWD, QFile::encodeName(destination).constData(),
+               AT_SYMLINK_FOLLOW) == 0;
+}
+
+} // namespace
+
+bool CopyToNewFile(QFile& source, const QString& destination)
+{
+    if (!CopyUnnamed(source, destination))
+        return source.copy(destination);
+    QFile::setPermissions(destination, source.permissions());
+    return true;
+}
+
+} // namespace Vorlan::Platform
