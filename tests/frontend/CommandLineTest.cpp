@@ -23,15 +23,6 @@ QString ErrorOf(const QStringList& arguments)
     return ParseCommandLine(arguments).error;
 }
 
-TEST(CommandLineTest, NothingIsChosenByDefault)
-{
-    const CommandLine options = Parsed({});
-    EXPECT_FALSE(options.silent || options.uninstall || options.help || options.autoLaunch);
-    EXPECT_FALSE(options.removeAll || options.deleteSettings || options.noShortcuts);
-    EXPECT_EQ(options.Scope(), QSettings::UserScope);
-    EXPECT_TRUE(options.folder.isEmpty());
-}
-
 struct FlagRow
 {
     const char* word;

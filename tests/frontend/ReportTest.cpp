@@ -1,4 +1,3 @@
-#include "JsonReport.h"
 #include "ProgressReport.h"
 
 #include <gtest/gtest.h>
@@ -67,23 +66,6 @@ TEST(ProgressReportTest, ProblemsAndUnknownStagesAreTold)
                                {"ProcessStarted", {{"process", "NEW_STAGE"}}},
                                {"WebConfigLoaderStarted", {}}}),
         "Problem: a.dll: no room\nNEW_STAGE...\n");
-}
-
-TEST(JsonReportTest, EachEventIsALine)
-{
-    std::ostringstream out;
-    WriteJsonEvent(out, extracting);
-    WriteJsonEvent(out, {"InstallationFinished", {}});
-    EXPECT_EQ(out.str(), "{\"process\":\"EXTRACT_FILES\",\"signal\":\"ProcessStarted\"}\n"
-                         "{\"signal\":\"InstallationFinished\"}\n");
-}
-
-TEST(JsonReportTest, TheOutcomeHoldsTheWholeExitCode)
-{
-    std::ostringstream out;
-    WriteJsonOutcome(out, {});
-    WriteJsonOutcome(out, {ExitCode::Failed, "a \"b\""});
-    EXPECT_EQ(out.str(), "{\"exitCode\":0}\n{\"error\":\"a \\\"b\\\"\",\"exitCode\":1603}\n");
 }
 
 } // namespace

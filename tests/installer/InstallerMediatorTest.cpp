@@ -144,16 +144,6 @@ TEST_F(InstallerMediatorTest, SettingsAreReplacedAsAWhole)
     EXPECT_EQ(mediator->GetSettings().browser, "chrome.exe");
 }
 
-TEST_F(InstallerMediatorTest, WebIdsAreThoseOfTheRegistry)
-{
-    Store("WEBUID", "of-product");
-    RegistrySettings(QSettings::UserScope, "Vorlan", "User").setValue("WEBUID", "of-user");
-    const auto mediator = Create();
-    EXPECT_EQ(mediator->GetWebUID(), "of-user");
-    EXPECT_EQ(mediator->GetWebUIDFromUserKey(), "of-user");
-    EXPECT_EQ(mediator->GetWebUIDFromProductKey(), "of-product");
-}
-
 TEST_F(InstallerMediatorTest, ArchiveTellsTheSpaceThatIsNeeded)
 {
     {

@@ -207,14 +207,3 @@ TEST_F(SettingsManagerTest, RegistryHelperGivesTheFirstPlaceThatHasTheValue)
                   .GetValue("Value"),
         "machine");
 }
-
-TEST_F(SettingsManagerTest, GroupGuardRestoresTheGroup)
-{
-    RegistrySettings settings("HKEY_CURRENT_USER\\Software\\Vorlan");
-    settings.setValue("A/b", 1);
-    {
-        const App::QSettingsGroupGuard guard(settings, "A");
-        EXPECT_EQ(settings.childKeys(), QStringList("b"));
-    }
-    EXPECT_EQ(settings.group(), "");
-}
