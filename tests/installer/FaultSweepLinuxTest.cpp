@@ -27,7 +27,12 @@ const std::vector<ArchiveEntry> payload = {
     {"quill.exe", QByteArray(3000, 'q')},
     {"fonts.conf", "fonts"},
     {"libs/codec.dll", QByteArray(70000, 'c')},
-    {"beside.txt", "lies beside the setup, too"},
+};
+// Lie beside the setup, too, and are copied from there in parallel.
+const std::vector<ArchiveEntry> besideSetup = {
+    {"plug-in 1.dll", QByteArray(50000, '1')},
+    {"libs/plug-in 2.dll", QByteArray(50000, '2')},
+    {"libs/more/plug-in 3.dll", QByteArray(50000, '3')},
 };
 
 struct Sweep
@@ -55,9 +60,17 @@ public:
             EXPECT_TRUE(QDir().mkpath(QFileInfo(Path("setup/" + name)).path()));
             EXPECT_TRUE(QFile::copy(FRONTEND_FOLDER "/" + name, Path("setup/" + name)));
         }
-        WriteFile(Path("setup/InstallerData.7z"), CreateArchive(payload));
-        WriteFile(Path("setup/beside.txt"), "lies beside the setup, too");
-        EXPECT_TRUE(QDir().mkpath(Path("machine")));
+        WriteFile(Path("setup/InstallerData.7z"), CreateArchive(Entries()));
+        for (const ArchiveEntry& entry : besideSetup)
+            WriteFile(Path("setup/" + entry.name), entry.content);
+        WriteFile(Path("machine/machine.ini"), "solidState=true\n");
+    }
+
+    static std::vector<ArchiveEntry> Entries()
+    {
+        std::vector<ArchiveEntry> entries = payload;
+        entries.insert(entries.end(), besideSetup.begin(), besideSetup.end());
+        return entries;
     }
 
     // The line that the child prints; "killed" when it did not come so far.
@@ -171,7 +184,7 @@ protected:
 
     void ExpectWholeFiles() const
     {
-        for (const ArchiveEntry& entry : payload)
+        for (const ArchiveEntry& entry : Scene::Entries())
         {
             const QString name = entry.name == "installergui.exe" ? "uninst.exe" : entry.name;
             if (name != "fonts.conf") // moved away
