@@ -176,13 +176,13 @@ ParsedCommandLine ParseCommandLine(const QStringList& arguments)
     ParsedCommandLine parsed;
     for (const QString& word : arguments)
     {
-        parsed.error = ApplyWord(word, parsed.options);
-        if (!parsed.error.isEmpty())
-        {
-            return parsed;
-        }
+        const QString error = ApplyWord(word, parsed.options);
+        parsed.error = parsed.error.isEmpty() ? error : parsed.error;
     }
-    parsed.error = FindConflict(parsed.options);
+    if (parsed.error.isEmpty())
+    {
+        parsed.error = FindConflict(parsed.options);
+    }
     return parsed;
 }
 

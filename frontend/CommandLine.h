@@ -44,7 +44,7 @@ struct CommandLine
 struct ParsedCommandLine
 {
     CommandLine options;
-    QString error; // one line that names the word at fault; empty when there is none
+    QString error; // one line that names the first word at fault; empty when there is none
 };
 
 // The arguments in `words`, the whole command line of the process: without the leading words that

@@ -92,7 +92,7 @@ Outcome RunRole(Role role, const CommandLine& options, int argc, char** argv)
     return isOnlySetup ? RunSilently(role, options, argc, argv) : anotherSetup;
 }
 
-// Keeps a log meanwhile; a failure names it.
+// Keeps a log meanwhile; a failure names it. Throws std::runtime_error where it cannot be kept.
 Outcome RunLogged(Role role, CommandLine options, int argc, char** argv)
 {
     const QString action = role == Role::Uninstaller ? "uninstall" : "install";
@@ -100,21 +100,14 @@ Outcome RunLogged(Role role, CommandLine options, int argc, char** argv)
     {
         options.logFile = LogFile::DefaultPath(action, QDateTime::currentDateTime());
     }
-    try
+    const LogFile log(options.logFile);
+    Outcome outcome = RunRole(role, options, argc, argv);
+    if (outcome.code != ExitCode::Done)
     {
-        const LogFile log(options.logFile);
-        Outcome outcome = RunRole(role, options, argc, argv);
-        if (outcome.code != ExitCode::Done)
-        {
-            qCritical("%s", qUtf8Printable(outcome.error));
-            outcome.error += " (log file: " + log.Path() + ")";
-        }
-        return outcome;
+        qCritical("%s", qUtf8Printable(outcome.error));
+        outcome.error += " (log file: " + log.Path() + ")";
     }
-    catch (const std::exception& error)
-    {
-        return {ExitCode::Failed, error.what()};
-    }
+    return outcome;
 }
 
 int Finish(const Outcome& outcome, const CommandLine& options)
@@ -130,25 +123,42 @@ int Finish(const Outcome& outcome, const CommandLine& options)
     return static_cast<int>(outcome.code);
 }
 
+// Ends before or without a run: the person is told in a box where nothing that is printed is seen.
+int Refuse(const Outcome& outcome, const CommandLine& options, bool isHeard)
+{
+    if (!isHeard && !options.silent)
+    {
+        ShowBox(outcome.error);
+    }
+    return Finish(outcome, options);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
-    ConnectToConsole();
+    const bool isHeard = ConnectToConsole();
     const Invocation invocation = ReadInvocation(argc, argv);
     const ParsedCommandLine parsed =
         ParseCommandLine(DropProgramPath(invocation.words, invocation.programPath));
     if (!parsed.error.isEmpty())
     {
-        return Finish({ExitCode::BadCommandLine, parsed.error}, parsed.options);
+        return Refuse({ExitCode::BadCommandLine, parsed.error}, parsed.options, isHeard);
     }
     if (parsed.options.help)
     {
-        std::cout << HelpText().toStdString();
-        return static_cast<int>(ExitCode::Done);
+        std::cout << HelpText().toStdString() << std::flush;
+        return Refuse({ExitCode::Done, HelpText()}, {}, isHeard);
     }
     const CommandLine options = WithAbsolutePaths(parsed.options, QDir::current());
     const Role role = RoleOf(invocation.programPath, options);
     QDir::setCurrent(QFileInfo(invocation.programPath).absolutePath());
-    return Finish(RunLogged(role, options, argc, argv), options);
+    try
+    {
+        return Finish(RunLogged(role, options, argc, argv), options);
+    }
+    catch (const std::exception& error)
+    {
+        return Refuse({ExitCode::Failed, error.what()}, options, isHeard);
+    }
 }

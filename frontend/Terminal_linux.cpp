@@ -1,5 +1,7 @@
 #include "Terminal.h"
 
+#include <QString>
+
 #include <unistd.h>
 
 namespace Vorlan::FrontEnd
@@ -10,6 +12,11 @@ bool IsOutputTerminal()
     return isatty(STDOUT_FILENO) != 0;
 }
 
-void ConnectToConsole() {}
+bool ConnectToConsole()
+{
+    return true; // a program without a terminal writes to a log of the session
+}
+
+void ShowBox(const QString&) {}
 
 } // namespace Vorlan::FrontEnd

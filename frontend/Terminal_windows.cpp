@@ -1,5 +1,7 @@
 #include "Terminal.h"
 
+#include "installer/ProductProfile.h"
+
 #include <windows.h>
 
 #include <cstdio>
@@ -25,13 +27,13 @@ bool IsConnected(DWORD handleName)
 
 } // namespace
 
-void ConnectToConsole()
+bool ConnectToConsole()
 {
     const bool hasOutput = IsConnected(STD_OUTPUT_HANDLE);
     const bool hasErrors = IsConnected(STD_ERROR_HANDLE);
     if ((hasOutput && hasErrors) || !AttachConsole(ATTACH_PARENT_PROCESS))
     {
-        return;
+        return hasOutput || hasErrors;
     }
     if (!hasOutput)
     {
@@ -41,6 +43,13 @@ void ConnectToConsole()
     {
         std::freopen("CONOUT$", "w", stderr);
     }
+    return true;
+}
+
+void ShowBox(const QString& text)
+{
+    const std::wstring title = QString(ProductProfile::productFullName).toStdWString();
+    MessageBoxW(nullptr, text.toStdWString().c_str(), title.c_str(), MB_OK | MB_SETFOREGROUND);
 }
 
 } // namespace Vorlan::FrontEnd

@@ -66,7 +66,7 @@ QSet<QString> FileLinksBelow(const QString& folder)
     while (file.hasNext())
     {
         const QString path = file.next();
-        if (file.fileInfo().isSymLink())
+        if (file.fileInfo().isSymbolicLink())
             links.insert(path);
     }
     return links;

@@ -12,7 +12,7 @@ namespace
 
 bool IsLink(const QFileInfo& entry)
 {
-    return entry.isSymLink() || entry.isJunction();
+    return entry.isSymbolicLink() || entry.isJunction();
 }
 
 // On Windows a link to a folder is removed as a folder, and a read-only file not at all.
@@ -29,7 +29,7 @@ bool RemoveFileOrLink(const QString& path)
 
 void RemoveFileLink(const QString& path)
 {
-    if (QFileInfo(path).isSymLink())
+    if (QFileInfo(path).isSymbolicLink())
         QFile::remove(path);
 }
 

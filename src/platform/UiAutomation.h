@@ -35,18 +35,18 @@ protected:
 
 struct IUIAutomationElement : IUnknown
 {
-    virtual HRESULT WINAPI Unused3() = 0;
-    virtual HRESULT WINAPI Unused4() = 0;
-    virtual HRESULT WINAPI Unused5() = 0;
-    virtual HRESULT WINAPI Unused6() = 0;
-    virtual HRESULT WINAPI Unused7() = 0;
-    virtual HRESULT WINAPI Unused8() = 0;
-    virtual HRESULT WINAPI Unused9() = 0;
-    virtual HRESULT WINAPI Unused10() = 0;
+    virtual HRESULT WINAPI Unused3() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused4() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused5() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused6() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused7() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused8() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused9() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused10() { return E_NOTIMPL; }
     virtual HRESULT WINAPI GetCurrentPropertyValueEx(
         int property, BOOL ignoreDefaultValue, VARIANT* value) = 0;
-    virtual HRESULT WINAPI Unused12() = 0;
-    virtual HRESULT WINAPI Unused13() = 0;
+    virtual HRESULT WINAPI Unused12() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused13() { return E_NOTIMPL; }
     virtual HRESULT WINAPI GetCurrentPatternAs(int pattern, REFIID iid, void** object) = 0;
 
 protected:
@@ -65,42 +65,42 @@ struct IUIAutomationCacheRequest;
 
 struct IUIAutomation : IUnknown
 {
-    virtual HRESULT WINAPI Unused3() = 0;
-    virtual HRESULT WINAPI Unused4() = 0;
-    virtual HRESULT WINAPI Unused5() = 0;
-    virtual HRESULT WINAPI Unused6() = 0;
-    virtual HRESULT WINAPI Unused7() = 0;
-    virtual HRESULT WINAPI Unused8() = 0;
-    virtual HRESULT WINAPI Unused9() = 0;
-    virtual HRESULT WINAPI Unused10() = 0;
-    virtual HRESULT WINAPI Unused11() = 0;
-    virtual HRESULT WINAPI Unused12() = 0;
-    virtual HRESULT WINAPI Unused13() = 0;
-    virtual HRESULT WINAPI Unused14() = 0;
-    virtual HRESULT WINAPI Unused15() = 0;
-    virtual HRESULT WINAPI Unused16() = 0;
-    virtual HRESULT WINAPI Unused17() = 0;
-    virtual HRESULT WINAPI Unused18() = 0;
-    virtual HRESULT WINAPI Unused19() = 0;
-    virtual HRESULT WINAPI Unused20() = 0;
-    virtual HRESULT WINAPI Unused21() = 0;
-    virtual HRESULT WINAPI Unused22() = 0;
-    virtual HRESULT WINAPI Unused23() = 0;
-    virtual HRESULT WINAPI Unused24() = 0;
-    virtual HRESULT WINAPI Unused25() = 0;
-    virtual HRESULT WINAPI Unused26() = 0;
-    virtual HRESULT WINAPI Unused27() = 0;
-    virtual HRESULT WINAPI Unused28() = 0;
-    virtual HRESULT WINAPI Unused29() = 0;
-    virtual HRESULT WINAPI Unused30() = 0;
-    virtual HRESULT WINAPI Unused31() = 0;
-    virtual HRESULT WINAPI Unused32() = 0;
-    virtual HRESULT WINAPI Unused33() = 0;
-    virtual HRESULT WINAPI Unused34() = 0;
-    virtual HRESULT WINAPI Unused35() = 0;
-    virtual HRESULT WINAPI Unused36() = 0;
-    virtual HRESULT WINAPI Unused37() = 0;
-    virtual HRESULT WINAPI Unused38() = 0;
+    virtual HRESULT WINAPI Unused3() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused4() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused5() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused6() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused7() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused8() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused9() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused10() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused11() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused12() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused13() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused14() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused15() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused16() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused17() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused18() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused19() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused20() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused21() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused22() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused23() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused24() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused25() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused26() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused27() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused28() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused29() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused30() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused31() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused32() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused33() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused34() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused35() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused36() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused37() { return E_NOTIMPL; }
+    virtual HRESULT WINAPI Unused38() { return E_NOTIMPL; }
     virtual HRESULT WINAPI AddFocusChangedEventHandler(
         IUIAutomationCacheRequest* request, IUIAutomationFocusChangedEventHandler* handler) = 0;
     virtual HRESULT WINAPI RemoveFocusChangedEventHandler(

@@ -1,148 +1,23 @@
 #include "MachineAccess.h"
-#include "installer/Shortcuts.h"
 #include "platform/System.h"
 #include "registry/RegistrySettings.h"
-#include "support/ArchiveWriter.h"
-#include "support/ChildProgram.h"
 #include "support/FolderLink.h"
-#include "support/Machine.h"
+#include "support/InstalledProduct.h"
 #include "support/MediatorAccess.h"
-#include "support/RegistryTree.h"
-#include "support/SetupRun.h"
 #include "support/SignalLog.h"
 
-#include <gtest/gtest.h>
-
 #include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QDir>
-#include <QFile>
-#include <QRegularExpression>
-#include <QSysInfo>
-
-#include <thread>
+#include <QProcess>
 
 using namespace Vorlan;
 
 namespace
 {
 
-constexpr int timeLimitMs = 60000;
-const QString translation = "resources/locales/en_US/InstallerGUI_en_US.qm";
-// Folders stay, with what is in them; and on Windows the running program with its library.
-QStringList LeftFiles()
+class UninstallTest : public InstalledProduct
 {
-    QStringList files = {"libs/", "libs/codec.dll", "resources/", "resources/locales/",
-        "resources/locales/en_US/", translation};
-    if (QSysInfo::kernelType() == "winnt")
-        files += {ENGINE_FILE_NAME, "uninst.exe"};
-    files.sort();
-    return files;
-}
-
-class UninstallTest : public testing::Test
-{
-protected:
-    // The product as a setup would bring it, with the engine of that folder.
-    QByteArray Product(const QString& engineFolder, const QString& note) const
-    {
-        const QString bin = FRONTEND_FOLDER;
-        return CreateArchive({
-            {"installergui.exe", ReadFile(bin + "/installergui.exe")},
-            {ENGINE_FILE_NAME, ReadFile(engineFolder + '/' + ENGINE_FILE_NAME)},
-            {"quill.exe", ReadFile(bin + "/test-program.exe")},
-            {"fonts.conf", "fonts"},
-            {"libs/codec.dll", "codec of " + note.toUtf8()},
-            {note + ".txt", "note"},
-            {translation, ReadFile(bin + '/' + translation)},
-        });
-    }
-
-    void Install(const QString& engineFolder, const QString& note)
-    {
-        QFile::remove(setup.SetupFolder() + '/' + ENGINE_FILE_NAME);
-        ASSERT_TRUE(QFile::copy(
-            engineFolder + '/' + ENGINE_FILE_NAME, setup.SetupFolder() + '/' + ENGINE_FILE_NAME));
-        setup.AddArchiveContent(Product(engineFolder, note));
-        const auto result = setup.Start({"/S"});
-        ASSERT_EQ(result.exitCode, 0) << result.errors.toStdString();
-        ASSERT_TRUE(QDir(product).exists());
-    }
-    void InstallCurrent() { Install(FRONTEND_FOLDER, "new"); }
-
-    SetupRun::Result Uninstall(const QStringList& options)
-    {
-        return setup.StartFrom(product, "uninst.exe", QStringList("/S") + options);
-    }
-
-    // The files of the installed product without what is the same in every version.
-    QStringList Files() const
-    {
-        QStringList files = ListTree(product);
-        for (const QString& common :
-            files.filter(QRegularExpression("/$|^resources/|" ENGINE_FILE_NAME)))
-            files.removeAll(common);
-        return files;
-    }
-
-    static QStringList Entry()
-    {
-        return RegistryTree(
-            "HKEY_CURRENT_USER", "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall")
-            .filter("DisplayVersion");
-    }
-
-    // The values that this user's and all users' software has got since the test began, less the
-    // program's path.
-    QStringList Records() const
-    {
-        QStringList records = AllRecords();
-        for (const QString& former : formerRecords)
-            records.removeOne(former);
-        records.replaceInStrings(QDir::toNativeSeparators(product + "/quill.exe"), QString());
-        return records;
-    }
-
-    static QStringList Links()
-    {
-        return ListTree(GetStandardLocation(StandardLocation::Programs)) +
-               ListTree(GetStandardLocation(StandardLocation::Desktop));
-    }
-
-    bool ProductFolderGoes() const
-    {
-        const QDeadlineTimer deadline(timeLimitMs);
-        while (QDir(product).exists() && !deadline.hasExpired())
-            std::this_thread::yield();
-        return !QDir(product).exists();
-    }
-
-    Machine machine{Machine::Registry::OfStartedPrograms};
-    SetupRun setup;
-    const QString product =
-        QDir::fromNativeSeparators(GetStandardLocation(StandardLocation::AppData)) +
-        "/Vorlan Quillax";
-
-private:
-    static QStringList AllRecords()
-    {
-        const QStringList records = (RegistryTree("HKEY_CURRENT_USER", "Software") +
-                                     RegistryTree("HKEY_LOCAL_MACHINE", "Software"))
-                                        .filter(" = ");
-        // Windows notes there where the folders that it was asked for lie, and Wine what fonts and
-        // network cards it finds.
-        return records.filter(
-            QRegularExpression("^(?!.*\\\\Shell Folders:|Wine\\\\|.*\\\\NetworkCards\\\\)"));
-    }
-
-    const QStringList formerRecords = AllRecords();
 };
 
-const QStringList installedFiles = {"InstallerMessage.vbs", "Vorlan Quillax.url", "libs/codec.dll",
-    "new.txt", "quill.exe", "uninst.exe"};
-const QStringList allLinks = {"Vorlan Quillax/", "Vorlan Quillax/Site Vorlan Quillax.lnk",
-    "Vorlan Quillax/Uninstall Vorlan Quillax.lnk", "Vorlan Quillax/Vorlan Quillax.lnk",
-    "Vorlan Quillax.lnk"};
 // What an uninstallation leaves in the registry, next to the program's own values.
 const QStringList keptRecords = {
     "Vorlan\\Quillax24: BrokenCodecs = REG_SZ ",
@@ -172,9 +47,8 @@ TEST_F(UninstallTest, NewVersionTakesTheOldOnesPlace)
     key.setValue("PreferredBrowser", "of-the-person");
     WriteFile(product + "/libgallium_wgl.dll", "graphics");
     WriteFile(product + "/libs/plug-in.dll", "of the person");
-    WriteFile(product + "/quill.exe.does", "wait");
     QProcess quill;
-    quill.start(product + "/quill.exe", QStringList());
+    quill.start(product + "/quill.exe", {"wait"});
     ASSERT_TRUE(quill.waitForStarted());
 
     // The new one is installed by this process, so that the wait for the old folder can be cut

@@ -1,12 +1,7 @@
 #include "support/PalMachine.h"
 #include "support/RegistryCalls.h"
 
-#include <atomic>
-#include <functional>
-#include <thread>
-
 #include <Pal.h>
-#include <shlobj.h>
 
 namespace
 {
@@ -50,83 +45,6 @@ TEST_F(FaultsLinuxTest, TheNamedCallFailsAndNoOther)
     EXPECT_EQ(ValueNames(Key()), (std::vector<std::wstring>{L"first", L"third"}));
 }
 
-TEST_F(FaultsLinuxTest, EveryRegistryFunctionCanFail)
-{
-    HKEY key = nullptr;
-    wchar_t name[8] = {};
-    DWORD size = 8;
-    const std::vector<std::pair<const char*, std::function<LSTATUS()>>> calls = {
-        {"RegCreateKeyExW",
-            [&] {
-                return RegCreateKeyExW(
-                    Key(), L"a", 0, nullptr, 0, KEY_READ, nullptr, &key, nullptr);
-            }},
-        {"RegOpenKeyExW", [&] { return RegOpenKeyExW(Key(), L"", 0, KEY_READ, &key); }},
-        {"RegSetValueExW", [&] { return SetText(Key(), L"a", L"b"); }},
-        {"RegQueryValueExW",
-            [&] { return RegQueryValueExW(Key(), L"a", nullptr, nullptr, nullptr, &size); }},
-        {"RegDeleteValueW", [&] { return RegDeleteValueW(Key(), L"a"); }},
-        {"RegEnumValueW", [&]
-            { return RegEnumValueW(Key(), 0, name, &size, nullptr, nullptr, nullptr, nullptr); }},
-        {"RegEnumKeyExW", [&]
-            { return RegEnumKeyExW(Key(), 0, name, &size, nullptr, nullptr, nullptr, nullptr); }},
-        {"RegDeleteKeyExW", [&] { return RegDeleteKeyExW(Key(), L"a", 0, 0); }},
-        {"RegDeleteKeyW", [&] { return RegDeleteKeyW(Key(), L"a"); }},
-        {"RegQueryInfoKeyW",
-            [&]
-            {
-                return RegQueryInfoKeyW(Key(), nullptr, nullptr, nullptr, &size, nullptr, nullptr,
-                    nullptr, nullptr, nullptr, nullptr, nullptr);
-            }},
-        {"RegOverridePredefKey", [&] { return RegOverridePredefKey(HKEY_LOCAL_MACHINE, Key()); }},
-    };
-    for (const auto& [function, call] : calls)
-    {
-        const Pal::ScopedFault fault(function, ERROR_BADDB);
-        EXPECT_EQ(call(), ERROR_BADDB) << function;
-    }
-    EXPECT_EQ(key, nullptr);
-    EXPECT_TRUE(ValueNames(Key()).empty());
-}
-
-TEST_F(FaultsLinuxTest, EveryOtherFunctionFailsInItsOwnWayAndSetsTheLastError)
-{
-    const HANDLE file = Create(L"file");
-    char data[4] = {};
-    DWORD count = 77;
-    wchar_t path[MAX_PATH] = L"old";
-    const std::wstring name = PathOf(L"other");
-    const std::vector<std::pair<const char*, std::function<bool()>>> calls = {
-        {"CreateFileW", [&] { return Create(L"other") == INVALID_HANDLE_VALUE; }},
-        {"CreateFileA",
-            []
-            {
-                return CreateFileA("none", GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr) ==
-                       INVALID_HANDLE_VALUE;
-            }},
-        {"ReadFile", [&] { return !ReadFile(file, data, 4, &count, nullptr); }},
-        {"WriteFile", [&] { return !WriteFile(file, data, 4, &count, nullptr) && count == 0; }},
-        {"SetFilePointer", [&]
-            { return SetFilePointer(file, 1, nullptr, FILE_BEGIN) == INVALID_SET_FILE_POINTER; }},
-        {"GetFileSize", [&] { return GetFileSize(file, nullptr) == INVALID_FILE_SIZE; }},
-        {"CreateDirectoryW", [&] { return !CreateDirectoryW(name.c_str(), nullptr); }},
-        {"GetFileAttributesW",
-            [&] { return GetFileAttributesW(PathOf(L"file").c_str()) == INVALID_FILE_ATTRIBUTES; }},
-        {"SHGetSpecialFolderPathW",
-            [&] { return !SHGetSpecialFolderPathW(nullptr, path, CSIDL_SYSTEM, FALSE) && !*path; }},
-    };
-    for (const auto& [function, call] : calls)
-    {
-        const Pal::ScopedFault fault(function, ERROR_GEN_FAILURE);
-        SetLastError(ERROR_SUCCESS);
-        EXPECT_TRUE(call()) << function;
-        EXPECT_EQ(GetLastError(), DWORD{ERROR_GEN_FAILURE}) << function;
-    }
-    EXPECT_EQ(GetFileSize(file, nullptr), 0u);
-    EXPECT_EQ(GetFileAttributesW(name.c_str()), INVALID_FILE_ATTRIBUTES);
-    CloseHandle(file);
-}
-
 TEST_F(FaultsLinuxTest, AFailedCloseHasClosedAllTheSame)
 {
     const Strings before = Pal::OpenHandles();
@@ -163,24 +81,6 @@ TEST_F(FaultsLinuxTest, ASweepReachesEveryCallAndThenStaysUnused)
         failing += fired;
     }
     EXPECT_EQ(failing, 4u);
-}
-
-TEST_F(FaultsLinuxTest, CallsAreCountedOverAllThreads)
-{
-    const Pal::ScopedFault fault("RegSetValueExW", ERROR_DISK_FULL, 40);
-    std::atomic<int> failures = 0;
-    const auto write = [&]
-    {
-        for (int i = 0; i < 10; ++i)
-            failures += SetText(Key(), L"value", L"text") == ERROR_DISK_FULL;
-    };
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 4; ++i)
-        threads.emplace_back(write);
-    for (std::thread& thread : threads)
-        thread.join();
-    EXPECT_EQ(failures, 1);
-    EXPECT_TRUE(fault.Fired());
 }
 
 TEST_F(FaultsLinuxTest, AFaultThatNeverFiredIsReportedUnlessItMayStayUnused)

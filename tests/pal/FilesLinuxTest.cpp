@@ -67,17 +67,6 @@ TEST_F(FilesLinuxTest, AFullDiskIsToldAsSuch)
     CloseHandle(full);
 }
 
-TEST_F(FilesLinuxTest, APositionThatNeedsAHighPartIsNotReachedWithoutOne)
-{
-    const HANDLE file = Create(PathOf(L"file"));
-    EXPECT_EQ(SetFilePointer(file, 0x7FFFFFFF, nullptr, FILE_BEGIN), 0x7FFFFFFFu);
-    EXPECT_EQ(SetFilePointer(file, 0x7FFFFFFF, nullptr, FILE_CURRENT), 0xFFFFFFFEu);
-    EXPECT_EQ(SetFilePointer(file, 2, nullptr, FILE_CURRENT), INVALID_SET_FILE_POINTER);
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_INVALID_PARAMETER});
-    EXPECT_EQ(SetFilePointer(file, 0, nullptr, FILE_CURRENT), 0xFFFFFFFEu);
-    CloseHandle(file);
-}
-
 TEST_F(FilesLinuxTest, ShareModesHoldForEveryNameOfAFile)
 {
     const HANDLE file = Create(PathOf(L"file"));
@@ -107,36 +96,6 @@ TEST_F(FilesLinuxTest, AttributesTellWhatNobodyMayWrite)
     EXPECT_EQ(GetFileAttributesW(PathOf(L"file").c_str()), DWORD{FILE_ATTRIBUTE_NORMAL});
     fs::permissions(NativePathOf(L"file"), fs::perms::owner_read);
     EXPECT_EQ(GetFileAttributesW(PathOf(L"file").c_str()), DWORD{FILE_ATTRIBUTE_READONLY});
-}
-
-TEST_F(FilesLinuxTest, WhatTheLayerDoesNotHonourIsRefused)
-{
-    SECURITY_ATTRIBUTES* const attributes = reinterpret_cast<SECURITY_ATTRIBUTES*>(this);
-    const std::wstring path = PathOf(L"file");
-    const auto refused = [&path](DWORD access, DWORD share, SECURITY_ATTRIBUTES* security,
-                             DWORD disposition, DWORD flags, HANDLE templateFile)
-    {
-        const HANDLE file =
-            CreateFileW(path.c_str(), access, share, security, disposition, flags, templateFile);
-        return file == INVALID_HANDLE_VALUE ? GetLastError() : DWORD{ERROR_SUCCESS};
-    };
-    const DWORD normal = FILE_ATTRIBUTE_NORMAL;
-    const DWORD deleteOnClose = 0x04000000;
-    const DWORD deleteAccess = 0x00010000;
-    const DWORD unsupported = ERROR_NOT_SUPPORTED;
-    const DWORD invalid = ERROR_INVALID_PARAMETER;
-    EXPECT_EQ(refused(GENERIC_WRITE, 0, nullptr, CREATE_NEW, deleteOnClose, nullptr), unsupported);
-    EXPECT_EQ(refused(GENERIC_WRITE, 0, attributes, CREATE_NEW, normal, nullptr), unsupported);
-    EXPECT_EQ(refused(GENERIC_WRITE, 0, nullptr, CREATE_NEW, normal, attributes), unsupported);
-    EXPECT_EQ(refused(GENERIC_WRITE | deleteAccess, 0, nullptr, CREATE_NEW, normal, nullptr),
-        unsupported);
-    EXPECT_EQ(refused(0, 0, nullptr, CREATE_NEW, normal, nullptr), unsupported);
-    EXPECT_EQ(refused(GENERIC_WRITE, 8, nullptr, CREATE_NEW, normal, nullptr), invalid);
-    EXPECT_EQ(refused(GENERIC_WRITE, 0, nullptr, 6, normal, nullptr), invalid);
-    EXPECT_EQ(refused(GENERIC_READ, 0, nullptr, CREATE_ALWAYS, normal, nullptr), invalid);
-    EXPECT_FALSE(CreateDirectoryW(path.c_str(), attributes));
-    EXPECT_EQ(GetLastError(), unsupported);
-    EXPECT_FALSE(fs::exists(NativePathOf(L"file")));
 }
 
 TEST_F(FilesLinuxTest, OpenHandlesNamesFilesAndKeysUntilTheyAreClosed)

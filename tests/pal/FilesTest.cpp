@@ -134,22 +134,6 @@ TEST_F(FilesTest, BothSeparatorsSeparate)
     EXPECT_EQ(ContentOf(PathOf(L"one/two\\file")), "content");
 }
 
-TEST_F(FilesTest, AHandleOnlyDoesWhatItWasOpenedFor)
-{
-    MakeFile(PathOf(L"file"), "content");
-    const HANDLE reader = Open(PathOf(L"file"), GENERIC_READ, OPEN_EXISTING);
-    const HANDLE writer = Open(PathOf(L"file"), GENERIC_WRITE, OPEN_EXISTING);
-    DWORD count = 0;
-    char byte = 0;
-    EXPECT_FALSE(WriteFile(reader, &byte, 1, &count, nullptr));
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
-    EXPECT_FALSE(ReadFile(writer, &byte, 1, &count, nullptr));
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
-    CloseHandle(reader);
-    CloseHandle(writer);
-    EXPECT_EQ(ContentOf(PathOf(L"file")), "content");
-}
-
 TEST_F(FilesTest, ShareModesKeepTheSecondHandleOut)
 {
     struct Case
@@ -217,23 +201,6 @@ TEST_F(FilesTest, PositionsAndSizesPastFourGibibytesAreExact)
     high = -1;
     EXPECT_EQ(SetFilePointer(file, -3, &high, FILE_END), 5u);
     EXPECT_EQ(Read(file, 10), "end");
-    CloseHandle(file);
-}
-
-TEST_F(FilesTest, ALowPartThatLooksLikeAFailureIsToldByTheLastError)
-{
-    const HANDLE file = Open(PathOf(L"sparse"), GENERIC_WRITE, CREATE_NEW);
-    LONG high = 0;
-    EXPECT_EQ(SetFilePointer(file, -2, &high, FILE_BEGIN), 0xFFFFFFFEu);
-    EXPECT_TRUE(Write(file, "x"));
-    SetLastError(ERROR_GEN_FAILURE);
-    high = 0;
-    EXPECT_EQ(SetFilePointer(file, 0, &high, FILE_CURRENT), 0xFFFFFFFFu);
-    EXPECT_EQ(GetLastError(), DWORD{NO_ERROR});
-    EXPECT_EQ(high, 0);
-    SetLastError(ERROR_GEN_FAILURE);
-    EXPECT_EQ(GetFileSize(file, nullptr), 0xFFFFFFFFu);
-    EXPECT_EQ(GetLastError(), DWORD{NO_ERROR});
     CloseHandle(file);
 }
 

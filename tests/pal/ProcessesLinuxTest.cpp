@@ -1,14 +1,10 @@
 #include "support/ChildProcesses.h"
 #include "support/LinuxProcesses.h"
 
-#include <chrono>
 #include <csignal>
-#include <functional>
-#include <thread>
 
 #include <QProcess>
 
-#include <psapi.h>
 #include <shellapi.h>
 
 #include <Pal.h>
@@ -73,28 +69,6 @@ TEST_F(ProcessesLinuxTest, ChildrenOfOthersAreLeftToThem)
     ASSERT_TRUE(theirs.waitForFinished());
     EXPECT_EQ(theirs.exitStatus(), QProcess::CrashExit);
     EXPECT_EQ(theirs.exitCode(), SIGKILL);
-}
-
-TEST_F(ProcessesLinuxTest, WhatHasEndedCannotBeTerminated)
-{
-    const StartResult child = Start(L"\"" + ChildProgram() + L"\" exit 2");
-    EXPECT_EQ(ExitCode(child.process), 2);
-    EXPECT_FALSE(TerminateProcess(child.process.Get(), 8));
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
-    EXPECT_EQ(ExitCode(child.process), 2);
-}
-
-TEST_F(ProcessesLinuxTest, ManyThreadsMayWaitForOneChild)
-{
-    const StartResult child = StartWaiting();
-    std::atomic<int> right = 0;
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 8; ++i)
-        threads.emplace_back([&] { right += ExitCode(child.process) == 9; });
-    EXPECT_TRUE(TerminateProcess(child.process.Get(), 9));
-    for (std::thread& thread : threads)
-        thread.join();
-    EXPECT_EQ(right, 8);
 }
 
 TEST_F(ProcessesLinuxTest, AnEndBySomebodyElsesSignalIsNoExitCodeOfTheProgram)
@@ -166,51 +140,6 @@ TEST_F(ProcessesLinuxTest, WithoutAWindowAChildHasNoStreamsAndElseThoseOfItsPare
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "word");
 }
 
-TEST_F(ProcessesLinuxTest, WhatIsNotHonouredIsRefused)
-{
-    std::wstring line = L"\"" + ChildProgram() + L"\" exit 0";
-    STARTUPINFOW startup = {};
-    startup.cb = sizeof(startup);
-    PROCESS_INFORMATION information = {};
-    wchar_t environment[] = L"a=b\0";
-    const auto start = [&](DWORD flags, void* block)
-    {
-        const BOOL started = CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, flags,
-            block, nullptr, &startup, &information);
-        return started ? DWORD{ERROR_SUCCESS} : GetLastError();
-    };
-    EXPECT_EQ(start(1, nullptr), DWORD{ERROR_NOT_SUPPORTED});
-    EXPECT_EQ(start(0, environment), DWORD{ERROR_NOT_SUPPORTED});
-    startup.dwFlags = 1;
-    EXPECT_EQ(start(0, nullptr), DWORD{ERROR_NOT_SUPPORTED});
-    startup.dwFlags = STARTF_USESTDHANDLES;
-    EXPECT_EQ(start(0, nullptr), DWORD{ERROR_NOT_SUPPORTED});
-    startup.dwFlags = 0;
-    startup.cb = 4;
-    EXPECT_EQ(start(0, nullptr), DWORD{ERROR_INVALID_PARAMETER});
-    SHELLEXECUTEINFOW execution = {};
-    execution.cbSize = sizeof(execution);
-    execution.lpFile = L"sh";
-    execution.lpVerb = L"print";
-    EXPECT_FALSE(ShellExecuteExW(&execution));
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_NOT_SUPPORTED});
-    EXPECT_FALSE(OpenProcess(PROCESS_TERMINATE | 0x2, FALSE, GetCurrentProcessId()));
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_NOT_SUPPORTED});
-}
-
-TEST_F(ProcessesLinuxTest, AnExecutableThatHasGoneKeepsItsPath)
-{
-    const std::wstring program = CopyChild(L"gone.exe");
-    const StartResult child = StartWaiting(program);
-    ASSERT_TRUE(QFile::remove(QString::fromStdWString(program)));
-    wchar_t path[MAX_PATH] = L"";
-    K32GetModuleFileNameExW(child.process.Get(), nullptr, path, MAX_PATH);
-    EXPECT_EQ(path, program);
-    TerminateProcess(child.process.Get(), 1);
-    EXPECT_EQ(ExitCode(child.process), 1);
-    EXPECT_EQ(K32GetModuleFileNameExW(child.process.Get(), nullptr, path, MAX_PATH), 0u);
-}
-
 // Windows shows a box as well.
 TEST_F(ProcessesLinuxTest, WhatTheShellDoesNotFindIsNotStarted)
 {
@@ -247,52 +176,6 @@ TEST_F(ProcessesLinuxTest, AnElevatedProgramIsOneLikeAnyOther)
     EXPECT_NE(sessionOf(Pal::OpenHandles().back()), getsid(0));
     EXPECT_TRUE(TerminateProcess(process.Get(), 1));
     EXPECT_EQ(ExitCode(process), 1);
-}
-
-TEST_F(ProcessesLinuxTest, AProcessOfAnotherUserIsNotOpenedForMoreThanWaiting)
-{
-    const auto openFirstProcess = []
-    {
-        constexpr uid_t nobody = 65534;
-        if (getuid() == 0 && setresuid(nobody, nobody, nobody) != 0)
-            return 1;
-        int wrong = OpenProcess(SYNCHRONIZE, FALSE, 1) ? 0 : 2;
-        for (const DWORD access : {PROCESS_TERMINATE, PROCESS_VM_READ, PROCESS_QUERY_INFORMATION})
-            wrong += OpenProcess(access, FALSE, 1) || GetLastError() != ERROR_ACCESS_DENIED ? 4 : 0;
-        return wrong;
-    };
-    EXPECT_EQ(WaitForChild(StartChild(openFirstProcess)), 0);
-}
-
-TEST_F(ProcessesLinuxTest, EveryCallCanFail)
-{
-    const StartResult child = StartWaiting();
-    DWORD number = 0;
-    wchar_t path[8];
-    SHELLEXECUTEINFOW execution = {};
-    const std::vector<std::pair<const char*, std::function<bool()>>> calls = {
-        {"CreateProcessW", [&] { return StartWaiting().error == ERROR_GEN_FAILURE; }},
-        {"GetStdHandle", [&] { return GetStdHandle(STD_OUTPUT_HANDLE) == INVALID_HANDLE_VALUE; }},
-        {"OpenProcess", [&] { return !OpenProcess(SYNCHRONIZE, FALSE, child.id); }},
-        {"TerminateProcess", [&] { return !TerminateProcess(child.process.Get(), 1); }},
-        {"GetExitCodeProcess", [&] { return !GetExitCodeProcess(child.process.Get(), &number); }},
-        {"WaitForSingleObject",
-            [&] { return WaitForSingleObject(child.process.Get(), INFINITE) == WAIT_FAILED; }},
-        {"K32EnumProcesses", [&] { return !K32EnumProcesses(&number, 4, &number); }},
-        {"K32GetModuleFileNameExW",
-            [&] { return !K32GetModuleFileNameExW(child.process.Get(), nullptr, path, 8); }},
-        {"ShellExecuteExW", [&] { return !ShellExecuteExW(&execution); }},
-        {"CreateMutexW", [] { return !CreateMutexW(nullptr, FALSE, L"a"); }},
-        {"OpenMutexW", [] { return !OpenMutexW(SYNCHRONIZE, FALSE, L"a"); }},
-    };
-    for (const auto& [function, call] : calls)
-    {
-        const Pal::ScopedFault fault(function, ERROR_GEN_FAILURE);
-        SetLastError(ERROR_SUCCESS);
-        EXPECT_TRUE(call()) << function;
-        EXPECT_EQ(GetLastError(), DWORD{ERROR_GEN_FAILURE}) << function;
-    }
-    EXPECT_TRUE(TerminateProcess(child.process.Get(), 1));
 }
 
 TEST_F(ProcessesLinuxTest, OpenHandlesNamesProcessesAndThreadsAndMutexes)
@@ -339,43 +222,6 @@ TEST_F(ProcessesLinuxTest, AMutexGoesWithTheProcessThatHasIt)
     kill(holder, SIGKILL);
     EXPECT_EQ(WaitForChild(holder), -1);
     EXPECT_EQ(create(), DWORD{ERROR_SUCCESS});
-}
-
-TEST_F(ProcessesLinuxTest, OfManyProcessesAtOnceOneMakesTheMutex)
-{
-    int gate[2];
-    ASSERT_EQ(pipe(gate), 0);
-    std::vector<pid_t> children;
-    int result[2];
-    ASSERT_EQ(pipe(result), 0);
-    for (int i = 0; i < 8; ++i)
-    {
-        children.push_back(StartChild(
-            [&gate, &result]
-            {
-                char byte = 0;
-                close(gate[1]);
-                const bool opened = read(gate[0], &byte, 1) == 0;
-                const HANDLE mutex = CreateMutexW(nullptr, FALSE, L"race");
-                byte = GetLastError() == ERROR_ALREADY_EXISTS ? 'n' : 'y';
-                const bool told = write(result[1], &byte, 1) == 1;
-                pause();
-                return opened && told && mutex ? 0 : 1;
-            }));
-    }
-    close(gate[0]);
-    close(gate[1]);
-    std::string answers;
-    for (char byte = 0; answers.size() < 8 && read(result[0], &byte, 1) == 1;)
-        answers += byte;
-    EXPECT_EQ(std::count(answers.begin(), answers.end(), 'y'), 1) << answers;
-    for (const pid_t child : children)
-    {
-        kill(child, SIGKILL);
-        EXPECT_EQ(WaitForChild(child), -1);
-    }
-    close(result[0]);
-    close(result[1]);
 }
 
 } // namespace

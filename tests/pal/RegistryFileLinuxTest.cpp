@@ -228,25 +228,6 @@ TEST_F(RegistryFileLinuxTest, AnUnreadableFileIsAnErrorAndOneWarning)
     ASSERT_TRUE(QDir().rmdir(FilePath()));
 }
 
-TEST_F(RegistryFileLinuxTest, AMachineThatCannotBeMadeIsAnErrorAndOneWarning)
-{
-    const QByteArray machine = qgetenv("VORLAN_MACHINE");
-    const QString file = QString::fromStdWString(PathOf(L"no folder"));
-    QFile(file).open(QIODevice::WriteOnly);
-    qputenv("VORLAN_MACHINE", file.toUtf8());
-    {
-        const WarningLog log;
-        HKEY key = nullptr;
-        for (int i = 0; i < 2; ++i)
-            EXPECT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, keyPath, 0, nullptr, 0, KEY_ALL_ACCESS,
-                          nullptr, &key, nullptr),
-                ERROR_PATH_NOT_FOUND);
-        EXPECT_EQ(WarningLog::Lines(), QStringList{"Registry file cannot be written: " + file +
-                                                   "/registry/HKEY_CURRENT_USER.reg"});
-    }
-    qputenv("VORLAN_MACHINE", machine);
-}
-
 TEST_F(RegistryFileLinuxTest, AWriteThatFailsHalfwayLeavesTheOldContent)
 {
     SetText(Key(), L"value", L"old");
@@ -282,32 +263,6 @@ TEST_F(RegistryFileLinuxTest, AnotherMachineRootIsAnotherRegistryAtOnce)
     ASSERT_EQ(RegOpenKeyExW(HKEY_CURRENT_USER, keyPath, 0, KEY_READ, &key), ERROR_SUCCESS);
     EXPECT_EQ(TextOf(key, L"where"), L"first");
     RegCloseKey(key);
-}
-
-TEST_F(RegistryFileLinuxTest, WhatTheFileCannotHoldIsRefused)
-{
-    HKEY key = nullptr;
-    FILETIME time = {};
-    wchar_t name[8];
-    DWORD length = 8;
-    EXPECT_EQ(SetText(Key(), L"two\nlines", L"text"), ERROR_INVALID_PARAMETER);
-    EXPECT_EQ(SetBytes(Key(), L"half", REG_SZ, {1, 2}), ERROR_INVALID_PARAMETER);
-    EXPECT_EQ(SetBytes(Key(), L"link", 6, {}), ERROR_NOT_SUPPORTED);
-    EXPECT_EQ(
-        RegCreateKeyExW(Key(), L"two\nlines", 0, nullptr, 0, KEY_READ, nullptr, &key, nullptr),
-        ERROR_INVALID_PARAMETER);
-    EXPECT_EQ(RegCreateKeyExW(Key(), L"Sub", 0, nullptr, 1, KEY_READ, nullptr, &key, nullptr),
-        ERROR_NOT_SUPPORTED);
-    EXPECT_EQ(RegCreateKeyExW(Key(), L"Sub", 0, name, 0, KEY_READ, nullptr, &key, nullptr),
-        ERROR_NOT_SUPPORTED);
-    EXPECT_EQ(RegOpenKeyExW(Key(), L"", 8, KEY_READ, &key), ERROR_NOT_SUPPORTED);
-    EXPECT_EQ(RegOpenKeyExW(Key(), L"", 0, GENERIC_READ, &key), ERROR_NOT_SUPPORTED);
-    EXPECT_EQ(RegOpenKeyExW(Key(), L"", 0, KEY_WOW64_32KEY | KEY_WOW64_64KEY, &key),
-        ERROR_INVALID_PARAMETER);
-    EXPECT_EQ(RegOpenKeyExW(Key(), L"\\Sub", 0, KEY_READ, &key), ERROR_BAD_PATHNAME);
-    EXPECT_EQ(RegEnumKeyExW(Key(), 0, name, &length, nullptr, nullptr, nullptr, &time),
-        ERROR_NOT_SUPPORTED);
-    EXPECT_EQ(Text(), journalStart);
 }
 
 } // namespace

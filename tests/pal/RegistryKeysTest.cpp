@@ -51,29 +51,6 @@ TEST_F(RegistryKeysTest, OpeningNothingOpensTheKeyItself)
     RegCloseKey(same);
 }
 
-TEST_F(RegistryKeysTest, AKeyNameOf255CharactersIsMadeAndALongOneIsNot)
-{
-    const HKEY longest = MakeKey(Key(), std::wstring(255, L'k'));
-    EXPECT_NE(longest, nullptr);
-    RegCloseKey(longest);
-    HKEY key = nullptr;
-    EXPECT_EQ(RegCreateKeyExW(Key(), std::wstring(300, L'k').c_str(), 0, nullptr,
-                  REG_OPTION_NON_VOLATILE, KEY_READ, nullptr, &key, nullptr),
-        ERROR_INVALID_PARAMETER);
-}
-
-TEST_F(RegistryKeysTest, SeparatorsMayBeDoubledButNotLead)
-{
-    RegCloseKey(MakeKey(Key(), L"One\\Two"));
-    HKEY key = nullptr;
-    ASSERT_EQ(RegOpenKeyExW(Key(), L"One\\\\Two\\", 0, KEY_READ, &key), ERROR_SUCCESS);
-    RegCloseKey(key);
-    EXPECT_EQ(RegOpenKeyExW(Key(), L"\\One", 0, KEY_READ, &key), ERROR_BAD_PATHNAME);
-    EXPECT_EQ(RegCreateKeyExW(Key(), L"\\One", 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_READ,
-                  nullptr, &key, nullptr),
-        ERROR_BAD_PATHNAME);
-}
-
 TEST_F(RegistryKeysTest, SubKeysAreListedSortedAndKeepTheirCase)
 {
     for (const wchar_t* name : {L"beta", L"Alpha", L"GAMMA", L"alpha2"})
@@ -108,14 +85,6 @@ TEST_F(RegistryKeysTest, OnlyAKeyWithoutSubKeysIsDeleted)
     EXPECT_EQ(RegDeleteKeyW(Key(), L"Parent"), ERROR_FILE_NOT_FOUND);
     EXPECT_EQ(SubKeyNames(Key()), Names{});
     RegCloseKey(parent);
-}
-
-TEST_F(RegistryKeysTest, AnEmptyNameDeletesTheKeyOfTheHandle)
-{
-    const HKEY key = MakeKey(Key(), L"Itself", KEY_READ);
-    EXPECT_EQ(RegDeleteKeyW(key, L""), ERROR_SUCCESS);
-    EXPECT_EQ(SubKeyNames(Key()), Names{});
-    RegCloseKey(key);
 }
 
 TEST_F(RegistryKeysTest, TheHandleOfADeletedKeySaysSo)

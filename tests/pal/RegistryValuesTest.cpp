@@ -138,12 +138,6 @@ TEST_F(RegistryValuesTest, ANameMayHoldWhatAKeyNameMayNot)
         EXPECT_EQ(TextOf(Key(), name), name);
 }
 
-TEST_F(RegistryValuesTest, AValueNameHasAtMost16383Characters)
-{
-    EXPECT_EQ(SetText(Key(), std::wstring(16383, L'n'), L"text"), ERROR_SUCCESS);
-    EXPECT_EQ(SetText(Key(), std::wstring(16384, L'n'), L"text"), ERROR_INVALID_PARAMETER);
-}
-
 TEST_F(RegistryValuesTest, ListingGivesNameTypeAndDataAndSaysWhatDoesNotFit)
 {
     SetText(Key(), L"four", L"text");

@@ -1,8 +1,6 @@
 #include "support/PalMachine.h"
 #include "support/ShellLinks.h"
 
-#include <functional>
-
 #include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
@@ -150,91 +148,6 @@ TEST_F(ShellLinksLinuxTest, AFailedSaveTellsTheLastErrorAndLeavesNothingBehind)
     EXPECT_NE(GetLastError(), DWORD{ERROR_SUCCESS});
     EXPECT_EQ(QDir(FilePath("")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
         QStringList("folder.lnk"));
-}
-
-TEST_F(ShellLinksLinuxTest, EveryCallCanFail)
-{
-    TestLink link;
-    wchar_t text[8] = L"";
-    LPWSTR file = nullptr;
-    CLSID classId = {};
-    void* object = nullptr;
-    IShellLinkW& shellLink = link.Link();
-    const std::vector<std::pair<const char*, std::function<HRESULT()>>> calls = {
-        {"CoInitialize", [] { return CoInitialize(nullptr); }},
-        {"CoCreateInstance",
-            [&] {
-                return CoCreateInstance(
-                    CLSID_ShellLink, nullptr, CLSCTX_ALL, IID_IUnknown, &object);
-            }},
-        {"IUnknown::QueryInterface",
-            [&] { return shellLink.QueryInterface(IID_IUnknown, &object); }},
-        {"IShellLinkW::GetPath", [&] { return shellLink.GetPath(text, 8, nullptr, 0); }},
-        {"IShellLinkW::SetPath", [&] { return shellLink.SetPath(L"a"); }},
-        {"IShellLinkW::GetWorkingDirectory",
-            [&] { return shellLink.GetWorkingDirectory(text, 8); }},
-        {"IShellLinkW::SetWorkingDirectory", [&] { return shellLink.SetWorkingDirectory(L"a"); }},
-        {"IShellLinkW::GetArguments", [&] { return shellLink.GetArguments(text, 8); }},
-        {"IShellLinkW::SetArguments", [&] { return shellLink.SetArguments(L"a"); }},
-        {"IPersist::GetClassID", [&] { return link.File().GetClassID(&classId); }},
-        {"IPersistFile::IsDirty", [&] { return link.File().IsDirty(); }},
-        {"IPersistFile::Load", [&] { return link.Load(PathOf(L"a.lnk")); }},
-        {"IPersistFile::Save", [&] { return link.Save(PathOf(L"a.lnk")); }},
-        {"IPersistFile::GetCurFile", [&] { return link.File().GetCurFile(&file); }},
-    };
-    for (const auto& [function, call] : calls)
-    {
-        const Pal::ScopedFault error(function, ERROR_DISK_FULL);
-        EXPECT_EQ(call(), HRESULT_FROM_WIN32(ERROR_DISK_FULL)) << function;
-        EXPECT_EQ(GetLastError(), DWORD{ERROR_DISK_FULL}) << function;
-        const Pal::ScopedFault result(function, static_cast<DWORD>(E_UNEXPECTED));
-        EXPECT_EQ(call(), E_UNEXPECTED) << function;
-    }
-    EXPECT_FALSE(QFile::exists(FilePath("a.lnk")));
-    EXPECT_EQ(link.File().IsDirty(), S_FALSE);
-    EXPECT_EQ(object, nullptr);
-}
-
-// An object that does nothing but go with its last reference.
-class Counted final : public IUnknown
-{
-public:
-    HRESULT QueryInterface(REFIID iid, void** object) override
-    {
-        if (iid != IID_IUnknown)
-            return E_NOINTERFACE;
-        *object = this;
-        AddRef();
-        return S_OK;
-    }
-    ULONG AddRef() override { return ++m_references; }
-    ULONG Release() override
-    {
-        const ULONG left = --m_references;
-        if (left == 0)
-            delete this;
-        return left;
-    }
-
-private:
-    ~Counted() = default;
-
-    ULONG m_references = 1;
-};
-
-TEST_F(ShellLinksLinuxTest, ARegisteredClassIsMadeWhileItsRegistrationLives)
-{
-    const auto create = [](REFIID iid, void** object)
-    { return CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_ALL, iid, object); };
-    void* object = nullptr;
-    {
-        const Pal::ScopedClass registration(CLSID_ShellLink, [] { return new Counted; });
-        EXPECT_EQ(create(IID_IShellLinkW, &object), E_NOINTERFACE);
-        ASSERT_EQ(create(IID_IUnknown, &object), S_OK);
-        EXPECT_EQ(static_cast<IUnknown*>(object)->Release(), 0u);
-    }
-    ASSERT_EQ(create(IID_IShellLinkW, &object), S_OK);
-    EXPECT_EQ(static_cast<IShellLinkW*>(object)->Release(), 0u);
 }
 
 } // namespace

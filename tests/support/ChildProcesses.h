@@ -51,7 +51,7 @@ protected:
 
     static std::wstring ChildProgram()
     {
-        const QString path = QCoreApplication::applicationDirPath() + "/pal-test-child.exe";
+        const QString path = QCoreApplication::applicationDirPath() + "/test-program.exe";
         return QDir::toNativeSeparators(path).toStdWString();
     }
 

@@ -24,8 +24,7 @@ ChildProgram::ChildProgram(const QString& programPath, const QByteArray& orders)
     QDir().mkpath(QFileInfo(path).path());
     EXPECT_TRUE(QFile::copy(QCoreApplication::applicationDirPath() + "/test-program.exe", path))
         << path.toStdString();
-    if (!orders.isEmpty())
-        WriteFile(path + ".does", orders);
+    WriteFile(path + ".does", orders);
 }
 
 ChildProgram::~ChildProgram()

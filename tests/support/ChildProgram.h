@@ -6,11 +6,12 @@
 #include <QString>
 #include <QStringList>
 
-// A copy of the test program under a name of its own. A started one is ended with the object.
+// A copy of the test program (TestProgram.cpp) under a name of its own. A started one is ended with
+// the object.
 class ChildProgram
 {
 public:
-    explicit ChildProgram(const QString& path, const QByteArray& orders = {});
+    explicit ChildProgram(const QString& path, const QByteArray& orders = "exit 0");
     ~ChildProgram();
     ChildProgram(const ChildProgram&) = delete;
     ChildProgram& operator=(const ChildProgram&) = delete;

@@ -69,34 +69,28 @@ inline std::wstring TextOf(HKEY key, const std::wstring& name)
     return text.substr(0, text.find(L'\0'));
 }
 
-inline std::vector<std::wstring> ValueNames(HKEY key)
+// The names that one of the two listing calls gives.
+template <class Listing>
+std::vector<std::wstring> NamesListed(HKEY key, Listing list)
 {
     std::vector<std::wstring> names;
-    wchar_t name[16384];
+    std::vector<wchar_t> name(16384);
     DWORD length = 16384;
-    for (DWORD index = 0; RegEnumValueW(key, index, name, &length, nullptr, nullptr, nullptr,
+    for (DWORD index = 0; list(key, index, name.data(), &length, nullptr, nullptr, nullptr,
                               nullptr) == ERROR_SUCCESS;
-         ++index)
-    {
-        names.emplace_back(name, length);
-        length = 16384;
-    }
+         ++index, length = 16384)
+        names.emplace_back(name.data(), length);
     return names;
+}
+
+inline std::vector<std::wstring> ValueNames(HKEY key)
+{
+    return NamesListed(key, RegEnumValueW);
 }
 
 inline std::vector<std::wstring> SubKeyNames(HKEY key)
 {
-    std::vector<std::wstring> names;
-    wchar_t name[256];
-    DWORD length = 256;
-    for (DWORD index = 0; RegEnumKeyExW(key, index, name, &length, nullptr, nullptr, nullptr,
-                              nullptr) == ERROR_SUCCESS;
-         ++index)
-    {
-        names.emplace_back(name, length);
-        length = 256;
-    }
-    return names;
+    return NamesListed(key, RegEnumKeyExW);
 }
 
 // Deletes a key with all below it; a key that is not there is fine.

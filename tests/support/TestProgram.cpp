@@ -1,19 +1,23 @@
-// A program that tests start under many names. It writes its arguments, one per line, into
-// "<its own path>.args", and then does what "<its own path>.does" says:
-//   wait      runs until somebody ends it (or ten minutes have passed)
-//   exit <n>  ends with that code
-//   clean     deletes the files beside it, itself and its notes aside
-// Without such a file it ends with 0.
+// A program that tests start under many names. The first word of its orders says what it does:
+//   exit <n>                  ends with that code
+//   wait                      runs until somebody ends it (or ten minutes have passed)
+//   print <word>              writes the word to standard output and standard error
+//   report <file> <word>...   writes the current folder and the words into the file, a line each
+//   clean                     deletes the files beside it, itself and its notes aside
+// Its orders are its arguments, unless there is a file "<its own path>.does" with others: then it
+// first writes its arguments, one per line, into "<its own path>.args".
 #include "OwnPath.h"
 
 #include <chrono>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
+#include <iostream>
+#include <iterator>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace fs = std::filesystem;
+using Words = std::vector<std::string>;
 
 namespace
 {
@@ -23,23 +27,55 @@ fs::path WithSuffix(fs::path path, const char* suffix)
     return path += suffix;
 }
 
-void WriteArguments(const fs::path& file, int argc, char** argv)
+int WriteLines(const fs::path& file, const Words& lines)
+{
+    std::ofstream out(file, std::ios::binary);
+    for (const std::string& line : lines)
+        out << line << '\n';
+    return out.flush() ? 0 : 1;
+}
+
+// Complete as soon as it can be seen.
+void WriteNotes(const fs::path& file, const Words& arguments)
 {
     const fs::path part = WithSuffix(file, ".part");
-    std::ofstream notes(part, std::ios::binary);
-    for (int i = 1; i < argc; ++i)
-        notes << argv[i] << '\n';
-    notes.close();
+    WriteLines(part, arguments);
     fs::rename(part, file);
 }
 
-void DeleteFilesBeside(const fs::path& program)
+int DeleteFilesBeside(const fs::path& program)
 {
     for (const auto& entry : fs::directory_iterator(program.parent_path()))
     {
         if (entry.is_regular_file() && entry.path().native().rfind(program.native(), 0) != 0)
             fs::remove(entry.path());
     }
+    return 0;
+}
+
+int Print(const std::string& word)
+{
+    std::cout << word << std::flush;
+    std::cerr << word << std::flush;
+    return 0;
+}
+
+int Obey(const Words& orders, const fs::path& program)
+{
+    const std::string order = orders.empty() ? "" : orders.front();
+    if (order == "wait")
+        std::this_thread::sleep_for(std::chrono::minutes(10));
+    if (order == "clean")
+        return DeleteFilesBeside(program);
+    if (order == "exit")
+        return std::stoi(orders.at(1));
+    if (order == "print")
+        return Print(orders.at(1));
+    if (order != "report")
+        return 99;
+    Words lines(orders.begin() + 1, orders.end());
+    lines.front() = fs::current_path().generic_string();
+    return WriteLines(orders.at(1), lines);
 }
 
 } // namespace
@@ -47,14 +83,11 @@ void DeleteFilesBeside(const fs::path& program)
 int main(int argc, char** argv)
 {
     const fs::path program = OwnPath();
-    WriteArguments(WithSuffix(program, ".args"), argc, argv);
-    std::ifstream orders(WithSuffix(program, ".does"));
-    std::string order;
-    int exitCode = 0;
-    orders >> order >> exitCode;
-    if (order == "wait")
-        std::this_thread::sleep_for(std::chrono::minutes(10));
-    if (order == "clean")
-        DeleteFilesBeside(program);
-    return exitCode;
+    Words orders(argv + 1, argv + argc);
+    if (std::ifstream file(WithSuffix(program, ".does")); file)
+    {
+        WriteNotes(WithSuffix(program, ".args"), orders);
+        orders.assign(std::istream_iterator<std::string>(file), {});
+    }
+    return Obey(orders, program);
 }

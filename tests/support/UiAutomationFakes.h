@@ -54,17 +54,6 @@ public:
     int clicks = 0;
 
 private:
-    HRESULT WINAPI Unused3() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused4() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused5() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused6() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused7() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused8() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused9() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused10() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused12() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused13() override { return E_NOTIMPL; }
-
     const std::wstring id;
 };
 
@@ -116,42 +105,4 @@ public:
 
     Handler* handler = nullptr;
     std::atomic<int> references = 1;
-
-private:
-    HRESULT WINAPI Unused3() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused4() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused5() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused6() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused7() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused8() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused9() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused10() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused11() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused12() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused13() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused14() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused15() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused16() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused17() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused18() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused19() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused20() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused21() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused22() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused23() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused24() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused25() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused26() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused27() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused28() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused29() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused30() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused31() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused32() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused33() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused34() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused35() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused36() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused37() override { return E_NOTIMPL; }
-    HRESULT WINAPI Unused38() override { return E_NOTIMPL; }
 };

@@ -1,0 +1,62 @@
+#include "registry/RegistrySettings.h"
+#include "support/InstalledProduct.h"
+
+using namespace Vorlan;
+
+namespace
+{
+
+// The program that presses the buttons lies in the product's folder in place of the uninstaller.
+class UninstallWindowTest : public InstalledProduct
+{
+protected:
+    UninstallWindowTest() { setup.AddProgram("uninstall-by-buttons.exe"); }
+
+    // What it sees, a line each, in the product's folder or in another one.
+    QStringList PressButtons(const QString& folder, const QStringList& words = {})
+    {
+        EXPECT_TRUE(QFile::copy(setup.SetupFolder() + "/uninstall-by-buttons.exe",
+            folder + "/uninstall-by-buttons.exe"));
+        const auto result = setup.StartFrom(
+            folder, "uninstall-by-buttons.exe", words + QStringList{"-platform", "offscreen"});
+        return result.output.split('\n', Qt::SkipEmptyParts);
+    }
+};
+
+TEST_F(UninstallWindowTest, TheButtonsLeadThroughToTheEnd)
+{
+    InstallCurrent();
+    EXPECT_EQ(PressButtons(product),
+        QStringList({"uninstallStartPage", "progressPage", "resultPage", "0"}));
+    EXPECT_EQ(Links(), QStringList());
+    EXPECT_FALSE(QFile::exists(product + "/quill.exe"));
+}
+
+TEST_F(UninstallWindowTest, DependentProgramsAreToldInABoxAndThePersonCanLeave)
+{
+    InstallCurrent();
+    RegistrySettings(QSettings::UserScope, "Vorlan", "Foo1").setValue("ParentProductId", "quillax");
+    const QStringList seen = PressButtons(product);
+    ASSERT_EQ(seen.filter("first uninstall these programs:").size(), 1)
+        << qPrintable(seen.join('|'));
+    EXPECT_EQ(seen.mid(seen.size() - 2), QStringList({"uninstallStartPage", "1051"}));
+    EXPECT_TRUE(QFile::exists(product + "/quill.exe"));
+}
+
+TEST_F(UninstallWindowTest, AnotherFolderIsDeletedOnlyWhereThePersonSaysYes)
+{
+    InstallCurrent();
+    const QString copy = machine.Path("copy");
+    for (const bool isAgreeing : {false, true})
+    {
+        WriteFile(copy + "/thesis.txt", "years of work");
+        QFile::remove(copy + "/uninstall-by-buttons.exe");
+        QFile::copy(product + "/" ENGINE_FILE_NAME, copy + "/" ENGINE_FILE_NAME);
+        const QStringList seen = PressButtons(copy, {isAgreeing ? "yes" : "no"});
+        EXPECT_TRUE(seen.value(0).contains("Delete the files beside this program all the same?"));
+        EXPECT_EQ(seen.last(), QString(isAgreeing ? "0" : "1602"));
+        EXPECT_NE(QFile::exists(copy + "/thesis.txt"), isAgreeing);
+    }
+}
+
+} // namespace

@@ -1,0 +1,135 @@
+// A product that the front end has installed on a machine of its own.
+#pragma once
+
+#include "installer/Shortcuts.h"
+#include "support/ArchiveWriter.h"
+#include "support/Machine.h"
+#include "support/RegistryTree.h"
+#include "support/SetupRun.h"
+
+#include <gtest/gtest.h>
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSysInfo>
+
+#include <thread>
+
+inline constexpr int timeLimitMs = 60000;
+inline const QString translation = "resources/locales/en_US/InstallerGUI_en_US.qm";
+// Folders stay, with what is in them; and on Windows the running program with its library.
+inline QStringList LeftFiles()
+{
+    QStringList files = {"libs/", "libs/codec.dll", "resources/", "resources/locales/",
+        "resources/locales/en_US/", translation};
+    if (QSysInfo::kernelType() == "winnt")
+        files += {ENGINE_FILE_NAME, "uninst.exe"};
+    files.sort();
+    return files;
+}
+
+class InstalledProduct : public testing::Test
+{
+protected:
+    // The product as a setup would bring it, with the engine of that folder.
+    QByteArray Product(const QString& engineFolder, const QString& note) const
+    {
+        const QString bin = FRONTEND_FOLDER;
+        return CreateArchive({
+            {"installergui.exe", ReadFile(bin + "/installergui.exe")},
+            {ENGINE_FILE_NAME, ReadFile(engineFolder + '/' + ENGINE_FILE_NAME)},
+            {"quill.exe", ReadFile(bin + "/test-program.exe")},
+            {"fonts.conf", "fonts"},
+            {"libs/codec.dll", "codec of " + note.toUtf8()},
+            {note + ".txt", "note"},
+            {translation, ReadFile(bin + '/' + translation)},
+        });
+    }
+
+    void Install(const QString& engineFolder, const QString& note)
+    {
+        QFile::remove(setup.SetupFolder() + '/' + ENGINE_FILE_NAME);
+        ASSERT_TRUE(QFile::copy(
+            engineFolder + '/' + ENGINE_FILE_NAME, setup.SetupFolder() + '/' + ENGINE_FILE_NAME));
+        setup.AddArchiveContent(Product(engineFolder, note));
+        const auto result = setup.Start({"/S"});
+        ASSERT_EQ(result.exitCode, 0) << result.errors.toStdString();
+        ASSERT_TRUE(QDir(product).exists());
+    }
+    void InstallCurrent() { Install(FRONTEND_FOLDER, "new"); }
+
+    SetupRun::Result Uninstall(const QStringList& options)
+    {
+        return setup.StartFrom(product, "uninst.exe", QStringList("/S") + options);
+    }
+
+    // The files of the installed product without what is the same in every version.
+    QStringList Files() const
+    {
+        QStringList files = ListTree(product);
+        for (const QString& common :
+            files.filter(QRegularExpression("/$|^resources/|" ENGINE_FILE_NAME)))
+            files.removeAll(common);
+        return files;
+    }
+
+    static QStringList Entry()
+    {
+        return RegistryTree(
+            "HKEY_CURRENT_USER", "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall")
+            .filter("DisplayVersion");
+    }
+
+    // The values that this user's and all users' software has got since the test began, less the
+    // program's path.
+    QStringList Records() const
+    {
+        QStringList records = AllRecords();
+        for (const QString& former : formerRecords)
+            records.removeOne(former);
+        records.replaceInStrings(QDir::toNativeSeparators(product + "/quill.exe"), QString());
+        return records;
+    }
+
+    static QStringList Links()
+    {
+        return ListTree(Vorlan::GetStandardLocation(Vorlan::StandardLocation::Programs)) +
+               ListTree(Vorlan::GetStandardLocation(Vorlan::StandardLocation::Desktop));
+    }
+
+    bool ProductFolderGoes() const
+    {
+        const QDeadlineTimer deadline(timeLimitMs);
+        while (QDir(product).exists() && !deadline.hasExpired())
+            std::this_thread::yield();
+        return !QDir(product).exists();
+    }
+
+    Machine machine{Machine::Registry::OfStartedPrograms};
+    SetupRun setup;
+    const QString product =
+        QDir::fromNativeSeparators(Vorlan::GetStandardLocation(Vorlan::StandardLocation::AppData)) +
+        "/Vorlan Quillax";
+
+private:
+    static QStringList AllRecords()
+    {
+        const QStringList records = (RegistryTree("HKEY_CURRENT_USER", "Software") +
+                                     RegistryTree("HKEY_LOCAL_MACHINE", "Software"))
+                                        .filter(" = ");
+        // Windows notes there where the folders that it was asked for lie, and Wine what fonts and
+        // network cards it finds.
+        return records.filter(
+            QRegularExpression("^(?!.*\\\\Shell Folders:|Wine\\\\|.*\\\\NetworkCards\\\\)"));
+    }
+
+    const QStringList formerRecords = AllRecords();
+};
+
+inline const QStringList installedFiles = {"InstallerMessage.vbs", "Vorlan Quillax.url",
+    "libs/codec.dll", "new.txt", "quill.exe", "uninst.exe"};
+inline const QStringList allLinks = {"Vorlan Quillax/", "Vorlan Quillax/Site Vorlan Quillax.lnk",
+    "Vorlan Quillax/Uninstall Vorlan Quillax.lnk", "Vorlan Quillax/Vorlan Quillax.lnk",
+    "Vorlan Quillax.lnk"};
