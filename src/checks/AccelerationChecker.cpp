@@ -50,6 +50,8 @@ std::vector<std::string> SplitNames(const QString& text)
     return names;
 }
 
+} // namespace
+
 QString JoinNames(const std::vector<std::string>& names)
 {
     QStringList texts;
@@ -57,8 +59,6 @@ QString JoinNames(const std::vector<std::string>& names)
         texts += QString::fromStdString(name);
     return texts.join(", ");
 }
-
-} // namespace
 
 AccelerationChecker::~AccelerationChecker()
 {

@@ -25,14 +25,6 @@ namespace
 // Share of the bar that the download of additional data fills, where there is one.
 constexpr double downloadRange = 0.3;
 
-QString JoinNames(const std::vector<std::string>& names)
-{
-    QStringList texts;
-    for (const std::string& name : names)
-        texts += QString::fromStdString(name);
-    return texts.join(", ");
-}
-
 } // namespace
 
 void InstallerMediator::StartInstallation()
@@ -192,7 +184,7 @@ void InstallerMediator::StoreCapabilityResults(
         if (plugins.empty())
             qInfo() << "No broken plugins";
         else
-            qInfo() << "Broken plugins: " << JoinNames(plugins);
+            qInfo() << "Broken plugins: " << Installer::JoinNames(plugins);
 
         const std::string codecs = checker.GetBrokenCodecsText();
         settingsManager->DisableCodecs(codecs);
