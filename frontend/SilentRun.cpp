@@ -1,6 +1,7 @@
 #include "SilentRun.h"
 
 #include "InstallOptions.h"
+#include "MachineAccess.h"
 #include "MediatorRun.h"
 #include "WebUserId.h"
 
@@ -76,6 +77,10 @@ Outcome InstallSilently(const CommandLine& options, const EventSink& sink)
     if (refusal.code != ExitCode::Done)
     {
         return refusal;
+    }
+    if (options.allUsers && !CanChangeMachine())
+    {
+        return Failure(MachineRightsMissing());
     }
     try
     {

@@ -146,6 +146,18 @@ TEST_F(SilentRunTest, TooLittleSpaceIsFoundBeforeTheRun)
     EXPECT_EQ(setup.DefaultProductFolder(), QString());
 }
 
+TEST_F(SilentRunTest, ForAllUsersWithoutTheRightsNothingIsBegun)
+{
+    if (QSysInfo::kernelType() == "winnt")
+        GTEST_SKIP() << "a program cannot take its own rights away here";
+    setup.AddArchive("small.7z");
+    QDir().mkpath(setup.MachineFolder() + "/registry/HKEY_LOCAL_MACHINE.reg/no file");
+    const auto result = setup.Start({"/S", "/ALLUSERS"});
+    EXPECT_EQ(result.exitCode, failed);
+    ExpectOneLineWith(result, "needs the rights of an administrator");
+    EXPECT_EQ(setup.DefaultProductFolder(), QString());
+}
+
 TEST_F(SilentRunTest, ALogThatCannotBeWrittenIsOneLine)
 {
     const auto result = setup.Start({"/S", "/LOG=missing/run.log"});
