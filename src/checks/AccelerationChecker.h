@@ -15,6 +15,9 @@
 namespace Vorlan::Installer
 {
 
+// The names as one text, such as "QSV, NVENC".
+QString JoinNames(const std::vector<std::string>& names);
+
 // Runs the platform's checker on one background thread. That thread writes the results; they are
 // read only after WaitForCheck, which ends it.
 class AccelerationChecker : public IAccelerationChecker

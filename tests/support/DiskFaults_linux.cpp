@@ -122,24 +122,24 @@ ssize_t DoPart(int descriptor, size_t size, const Action& write)
     return -1;
 }
 
-bool MakesFile(int folder, const char* path, int flags)
+bool MakesFile(const char* path, int flags)
 {
-    const bool isNew = (flags & O_TMPFILE) == O_TMPFILE ||
-                       ((flags & O_CREAT) != 0 && faccessat(folder, path, F_OK, 0) != 0);
+    const bool isNew =
+        (flags & O_TMPFILE) == O_TMPFILE || ((flags & O_CREAT) != 0 && access(path, F_OK) != 0);
     return isNew && !IsOfTheSystem(path);
 }
 
-bool TruncatesFile(int folder, const char* path, int flags)
+bool TruncatesFile(const char* path, int flags)
 {
-    return (flags & O_TRUNC) != 0 && faccessat(folder, path, F_OK, 0) == 0 && !IsOfTheSystem(path);
+    return (flags & O_TRUNC) != 0 && access(path, F_OK) == 0 && !IsOfTheSystem(path);
 }
 
-int OpenAt(int folder, const char* path, int flags, mode_t mode)
+int Open(const char* path, int flags, mode_t mode)
 {
-    const auto open = [&] { return Real(&::openat, "openat")(folder, path, flags, mode); };
-    if (MakesFile(folder, path, flags))
+    const auto open = [&] { return Real(&::open, "open")(path, flags, mode); };
+    if (MakesFile(path, flags))
         return DoWhole(true, open);
-    return TruncatesFile(folder, path, flags) ? DoWhole(false, open) : open();
+    return TruncatesFile(path, flags) ? DoWhole(false, open) : open();
 }
 
 mode_t ModeOf(int flags, va_list arguments)
@@ -165,17 +165,10 @@ extern "C"
         va_start(arguments, flags);
         const mode_t mode = ModeOf(flags, arguments);
         va_end(arguments);
-        return OpenAt(AT_FDCWD, path, flags, mode);
+        return Open(path, flags, mode);
     }
 
-    int open64(const char* path, int flags, ...)
-    {
-        va_list arguments;
-        va_start(arguments, flags);
-        const mode_t mode = ModeOf(flags, arguments);
-        va_end(arguments);
-        return OpenAt(AT_FDCWD, path, flags, mode);
-    }
+    int open64(const char* path, int flags, ...) __attribute__((alias("open")));
 
     ssize_t write(int descriptor, const void* data, size_t size)
     {
@@ -226,11 +219,6 @@ extern "C"
             true, [&] { return Real(&::linkat, "linkat")(fromFolder, from, toFolder, to, flags); });
     }
 
-    int symlink(const char* target, const char* path)
-    {
-        return DoWhole(true, [&] { return Real(&::symlink, "symlink")(target, path); });
-    }
-
     int rename(const char* from, const char* to)
     {
         return DoWhole(false, [&] { return Real(&::rename, "rename")(from, to); });
@@ -247,11 +235,6 @@ extern "C"
         return DoWhole(false, [&] { return Real(&::unlink, "unlink")(path); });
     }
 
-    int unlinkat(int folder, const char* path, int flags)
-    {
-        return DoWhole(false, [&] { return Real(&::unlinkat, "unlinkat")(folder, path, flags); });
-    }
-
     int rmdir(const char* path)
     {
         return DoWhole(false, [&] { return Real(&::rmdir, "rmdir")(path); });
@@ -260,12 +243,6 @@ extern "C"
     int ftruncate(int descriptor, off_t size)
     {
         return DoWhole(false, [&] { return Real(&::ftruncate, "ftruncate")(descriptor, size); });
-    }
-
-    int ftruncate64(int descriptor, off64_t size)
-    {
-        return DoWhole(
-            false, [&] { return Real(&::ftruncate64, "ftruncate64")(descriptor, size); });
     }
 }
 #pragma GCC visibility pop

@@ -33,7 +33,7 @@ unsigned FailingCall()
 QString Run(bool isUninstallation)
 {
     const QString name = "setup.exe";
-    InstallerMediator mediator({name, !isUninstallation, true, QSettings::UserScope, false});
+    InstallerMediator mediator({name, !isUninstallation, true, QSettings::UserScope, true});
     MediatorAccess access{mediator};
     access.SkipWaits();
     InstallationSettings settings = mediator.GetSettings();
