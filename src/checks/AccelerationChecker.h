@@ -64,7 +64,4 @@ private:
     QString probe = Core::Utils::CoreCheckerLauncher::DefaultProbe();
 };
 
-// The names as a text for the log: with a comma and a blank between them.
-QString JoinNames(const std::vector<std::string>& names);
-
 } // namespace Vorlan::Installer
