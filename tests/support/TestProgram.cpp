@@ -27,9 +27,8 @@ fs::path WithSuffix(fs::path path, const char* suffix)
     return path += suffix;
 }
 
-int WriteLines(const fs::path& file, const Words& lines)
+int WriteLines(std::ofstream out, const Words& lines)
 {
-    std::ofstream out(file, std::ios::binary);
     for (const std::string& line : lines)
         out << line << '\n';
     return out.flush() ? 0 : 1;
@@ -39,7 +38,7 @@ int WriteLines(const fs::path& file, const Words& lines)
 void WriteNotes(const fs::path& file, const Words& arguments)
 {
     const fs::path part = WithSuffix(file, ".part");
-    WriteLines(part, arguments);
+    WriteLines(std::ofstream(part, std::ios::binary), arguments);
     fs::rename(part, file);
 }
 
@@ -75,7 +74,7 @@ int Obey(const Words& orders, const fs::path& program)
         return 99;
     Words lines(orders.begin() + 1, orders.end());
     lines.front() = fs::current_path().generic_string();
-    return WriteLines(orders.at(1), lines);
+    return WriteLines(std::ofstream(orders.at(1), std::ios::binary), lines); // not UTF-8
 }
 
 } // namespace
