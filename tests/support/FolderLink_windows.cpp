@@ -1,7 +1,9 @@
 #include "support/FolderLink.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QProcess>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -33,12 +35,16 @@ QString UnixPath(const QString& path)
 
 void MakeFolderLink(const QString& link, const QString& target)
 {
+    // Wine's "start" does not always wait for a program of the system below.
+    const QDeadlineTimer deadline(30000); // ms
     if (FindUnixFileName())
         QProcess::execute("cmd.exe",
             {"/c", "start", "/wait", "/unix", "/bin/ln", "-s", UnixPath(target), UnixPath(link)});
     else
         QProcess::execute("cmd.exe", {"/c", "mklink", "/J", QDir::toNativeSeparators(link),
                                          QDir::toNativeSeparators(target)});
+    while (!QDir(link).exists() && !deadline.hasExpired())
+        QThread::yieldCurrentThread();
     EXPECT_TRUE(QDir(link).exists()) << link.toStdString();
 }
 

@@ -74,7 +74,7 @@ int Obey(const Words& orders, const fs::path& program)
         return 99;
     Words lines(orders.begin() + 1, orders.end());
     lines.front() = fs::current_path().generic_string();
-    return WriteLines(std::ofstream(orders.at(1), std::ios::binary), lines); // not UTF-8
+    return WriteLines(std::ofstream(orders.at(1), std::ios::binary), lines);
 }
 
 } // namespace
