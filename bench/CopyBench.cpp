@@ -11,6 +11,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <memory>
 #include <thread>
 
 using namespace Vorlan;
@@ -40,14 +41,15 @@ void Measure(benchmark::State& state, const Copy& copy)
     for ([[maybe_unused]] auto iteration : state)
     {
         state.PauseTiming();
-        const QTemporaryDir folder;
+        auto folder = std::make_unique<QTemporaryDir>();
         for (const std::wstring& name : names)
-            QDir(folder.path()).mkpath(QFileInfo(Platform::TextFromWide(name)).path());
+            QDir(folder->path()).mkpath(QFileInfo(Platform::TextFromWide(name)).path());
         state.ResumeTiming();
-        copy(names, folder.path() + '/');
+        copy(names, folder->path() + '/');
         state.PauseTiming();
-        if (NamesBelow(folder.path()).size() != names.size())
+        if (NamesBelow(folder->path()).size() != names.size())
             state.SkipWithError("not every file was copied");
+        folder.reset();
         state.ResumeTiming();
     }
 }

@@ -32,11 +32,16 @@ bool IsSameFile(const QString& source, const QString& destination)
     return QFileInfo(source).canonicalFilePath() == QFileInfo(destination).canonicalFilePath();
 }
 
-QString ReplaceFile(QFile& source, QFile& destination)
+QString PlaceFile(QFile& source, QFile& destination)
 {
-    if (destination.exists() && !destination.remove())
-        return QString("Failed to remove existing file from destination %1 error %2")
-            .arg(destination.fileName(), destination.errorString());
+    if (destination.exists())
+    {
+        if (IsSameFile(source.fileName(), destination.fileName()))
+            return QString();
+        if (!destination.remove())
+            return QString("Failed to remove existing file from destination %1 error %2")
+                .arg(destination.fileName(), destination.errorString());
+    }
     if (!Platform::CopyToNewFile(source, destination.fileName()))
         return QString("Failed to copy file %1 error %2")
             .arg(source.fileName(), source.errorString());
@@ -135,8 +140,7 @@ CopyFileOperationStatus CopyOneFile(const QString& source, const QString& destin
         QFile destinationFile(destination);
         if (source.isEmpty() || destination.isEmpty() || !sourceFile.exists())
             return status;
-        if (!destinationFile.exists() || !IsSameFile(source, destination))
-            status.error = ReplaceFile(sourceFile, destinationFile);
+        status.error = PlaceFile(sourceFile, destinationFile);
         if (!status.error.isEmpty())
             return status;
         status.size = static_cast<quint64>(sourceFile.size());

@@ -51,17 +51,23 @@ bool CopyContent(int source, int destination)
     return copied == 0;
 }
 
+// Without the right to link by the number alone, by its name in /proc, which takes longer: see
+// open(2).
+bool Name(int unnamed, const QByteArray& path)
+{
+    const std::string inProc = "/proc/self/fd/" + std::to_string(unnamed);
+    return linkat(unnamed, "", AT_FDCWD, path.constData(), AT_EMPTY_PATH) == 0 ||
+           linkat(AT_FDCWD, inProc.c_str(), AT_FDCWD, path.constData(), AT_SYMLINK_FOLLOW) == 0;
+}
+
 // The new file has no name until it is complete. False where something fails, or where the file
 // system has no files without a name.
 bool CopyUnnamed(const QFile& source, const QString& destination)
 {
     const Descriptor from(source.fileName(), O_RDONLY);
     const Descriptor to(QFileInfo(destination).path(), O_WRONLY | O_TMPFILE);
-    if (!from.IsOpen() || !to.IsOpen() || !CopyContent(from.Get(), to.Get()))
-        return false;
-    const std::string unnamed = "/proc/self/fd/" + std::to_string(to.Get()); // see open(2)
-    return linkat(AT_FDCWD, unnamed.c_str(), AT_FDCWD, QFile::encodeName(destination).constData(),
-               AT_SYMLINK_FOLLOW) == 0;
+    return from.IsOpen() && to.IsOpen() && CopyContent(from.Get(), to.Get()) &&
+           Name(to.Get(), QFile::encodeName(destination));
 }
 
 } // namespace
