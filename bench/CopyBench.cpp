@@ -1,6 +1,6 @@
 // How fast files that lie beside the setup are copied: in parallel, one after another, and by cp.
 // Run by bench/copy, which names the folders.
-#include "installer/ExtractSettings.h"
+#include "base/ExtractSettings.h"
 #include "installer/FileCopy.h"
 #include "platform/Path.h"
 

@@ -1,6 +1,6 @@
 // How fast a payload is unpacked, beside 7zz. Run by bench/extract, which names the archive.
 #include "archive/ArchiveExtractor.h"
-#include "installer/ExtractSettings.h"
+#include "base/ExtractSettings.h"
 #include "platform/Path.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "CommandLine.h"
 
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 
 #include <QFileInfo>
 

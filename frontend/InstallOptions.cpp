@@ -2,8 +2,8 @@
 
 #include "TriState.h"
 
+#include "base/ProductProfile.h"
 #include "installer/InstallerMediator.h"
-#include "installer/ProductProfile.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CommandLine.h"
-#include "installer/InstallationSettings.h"
+#include "base/InstallationSettings.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "LogFile.h"
 
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 
 #include <QDir>
 

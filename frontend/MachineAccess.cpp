@@ -1,7 +1,7 @@
 #include "MachineAccess.h"
 
-#include "installer/ProductProfile.h"
-#include "platform/Handle.h"
+#include "base/Handle.h"
+#include "base/ProductProfile.h"
 
 #include <QCoreApplication>
 #include <QDir>

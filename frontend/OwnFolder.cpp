@@ -1,6 +1,6 @@
 #include "OwnFolder.h"
 
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 #include "registry/SettingsManager.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "Terminal.h"
 
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 
 #include <windows.h>
 

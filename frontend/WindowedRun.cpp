@@ -4,7 +4,7 @@
 #include "MachineAccess.h"
 #include "MediatorRun.h"
 #include "OwnFolder.h"
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 #include "widgets/AlertBox.h"
 #include "wizard/InstallWizard.h"
 #include "wizard/Texts.h"

@@ -2,7 +2,7 @@
 
 #include "CommandLine.h"
 #include "RunEvent.h"
-#include "installer/InstallationSettings.h"
+#include "base/InstallationSettings.h"
 #include "wizard/Wizard.h"
 
 namespace Vorlan

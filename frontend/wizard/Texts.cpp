@@ -1,6 +1,6 @@
 #include "wizard/Texts.h"
 
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 
 #include <QCoreApplication>
 #include <QLocale>

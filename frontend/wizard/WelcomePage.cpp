@@ -1,6 +1,6 @@
 #include "wizard/WelcomePage.h"
 
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 #include "widgets/MultiLayerBackgroundFrame.h"
 #include "wizard/Texts.h"
 

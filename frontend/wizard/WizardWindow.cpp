@@ -1,6 +1,6 @@
 #include "wizard/WizardWindow.h"
 
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 #include "widgets/ButtonWithIcon.h"
 #include "wizard/Page.h"
 #include "wizard/PictureFrame.h"

@@ -1,9 +1,9 @@
 #include "DefaultAppWinInstaller/DefaultAppWinInstaller.h"
 
 #include "DefaultAppWinInstaller/FocusChangedEvendHandler.h"
-#include "platform/Com.h"
+#include "base/Com.h"
+#include "base/Handle.h"
 #include "platform/Exception.h"
-#include "platform/Handle.h"
 #include "platform/Path.h"
 #include "platform/System.h"
 #include "platform/Version.h"

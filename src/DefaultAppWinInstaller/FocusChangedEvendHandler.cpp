@@ -1,6 +1,6 @@
 #include "DefaultAppWinInstaller/FocusChangedEvendHandler.h"
 
-#include "platform/Com.h"
+#include "base/Com.h"
 
 namespace Vorlan
 {

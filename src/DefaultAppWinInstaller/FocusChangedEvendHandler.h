@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/UiAutomation.h"
+#include "DefaultAppWinInstaller/UiAutomation.h"
 
 #include <atomic>
 #include <string>

@@ -3,7 +3,7 @@
 #include "archive/ArchiveStream.h"
 #include "archive/BlockDecoder.h"
 #include "archive/EntryName.h"
-#include "installer/ExtractSettings.h"
+#include "base/ExtractSettings.h"
 #include "platform/Path.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "autolaunch/CreateAutoLauncher.h"
 
-#include "autolaunch/RunKeyLauncher.h"
-#include "autolaunch/TaskSchedulerLauncher.h"
+#include "autolaunch/AutoLauncherImpl.h"
+#include "autolaunch/AutoLauncherTaskSchedulerImpl.h"
 
 namespace Vorlan
 {

@@ -1,7 +1,7 @@
 #include "identity/WebUidProvider.h"
 
+#include "base/ProductProfile.h"
 #include "installer/InstallerMediator.h"
-#include "installer/ProductProfile.h"
 
 #include <QDebug>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "installer/Export.h"
+#include "base/Export.h"
 #include "platform/WebUidManager.h"
 
 #include <QString>

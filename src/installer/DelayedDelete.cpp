@@ -1,6 +1,6 @@
 #include "installer/DelayedDelete.h"
 
-#include "platform/Handle.h"
+#include "base/Handle.h"
 #include "platform/Path.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "installer/FileCopy.h"
 
 #include "archive/EntryName.h"
-#include "installer/ExtractSettings.h"
+#include "base/ExtractSettings.h"
 #include "platform/CopyFile.h"
 #include "platform/Path.h"
 

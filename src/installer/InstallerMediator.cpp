@@ -2,9 +2,9 @@
 
 #include "archive/ArchiveExtractor.h"
 #include "autolaunch/StartupRegistration.h"
-#include "installer/InstalledUninstallers.h"
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 #include "installer/Shortcuts.h"
+#include "installer/SilentUninstaller.h"
 #include "platform/Browser.h"
 #include "platform/Path.h"
 #include "platform/Version.h"

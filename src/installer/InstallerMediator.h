@@ -1,8 +1,8 @@
 #pragma once
 
-#include "installer/Export.h"
-#include "installer/ExtractSettings.h"
-#include "installer/InstallationSettings.h"
+#include "base/Export.h"
+#include "base/ExtractSettings.h"
+#include "base/InstallationSettings.h"
 #include "registry/RegistrationProfile.h"
 
 #include <QFileInfoList>

@@ -1,7 +1,7 @@
 #include "installer/ProcessTermination.h"
 
+#include "base/Handle.h"
 #include "installer/InstallerMediator.h"
-#include "platform/Handle.h"
 #include "platform/Path.h"
 #include "platform/System.h"
 #include "registry/SettingsManager.h"

@@ -1,6 +1,6 @@
 #include "installer/InstallerMediator.h"
 
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 #include "platform/Browser.h"
 #include "platform/System.h"
 #include "registry/SettingsManager.h"

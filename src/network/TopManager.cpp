@@ -1,6 +1,6 @@
 #include "network/TopManager.h"
 
-#include "platform/EventHandlerList.h"
+#include "network/EventHandlerList.h"
 
 namespace Vorlan
 {

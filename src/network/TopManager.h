@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ApplicationContext.h"
+#include "network/ApplicationContext.h"
 
 namespace Vorlan
 {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "registry/RegistrySettings.h"
-
 #include <QFlags>
 #include <QString>
 #include <QStringList>
@@ -45,11 +43,13 @@ private:
 namespace App
 {
 
-// While it lives, the settings read and write relative to a child group.
+// While it lives, the settings, QSettings or RegistrySettings, read and write relative to a child
+// group.
+template <typename Settings>
 class QSettingsGroupGuard
 {
 public:
-    QSettingsGroupGuard(RegistrySettings& guarded, const QString& group) : settings(guarded)
+    QSettingsGroupGuard(Settings& guarded, const QString& group) : settings(guarded)
     {
         settings.beginGroup(group);
     }
@@ -58,7 +58,7 @@ public:
     QSettingsGroupGuard& operator=(const QSettingsGroupGuard&) = delete;
 
 private:
-    RegistrySettings& settings;
+    Settings& settings;
 };
 
 } // namespace App

@@ -1,12 +1,15 @@
 #pragma once
 
-#include "platform/ApplicationContext.h"
-
 #include <QString>
 
 #include <chrono>
 #include <cstdint>
 #include <string>
+
+namespace Vorlan::App
+{
+class ITopManager;
+}
 
 namespace Vorlan::App::WebConfig
 {

@@ -1,6 +1,6 @@
 #include "registry/CreateProductProfile.h"
 
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 
 namespace Vorlan
 {

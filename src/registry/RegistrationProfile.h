@@ -1,6 +1,6 @@
 #pragma once
 
-#include "installer/InstallationSettings.h"
+#include "base/InstallationSettings.h"
 #include "network/AdditionalDataTable.h"
 #include "registry/RegistrationRecords.h"
 

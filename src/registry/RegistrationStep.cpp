@@ -2,8 +2,8 @@
 
 #include "DefaultAppWinInstaller/DefaultAppWinInstaller.h"
 #include "autolaunch/StartupRegistration.h"
-#include "installer/Localization.h"
-#include "installer/ProductProfile.h"
+#include "base/Localization.h"
+#include "base/ProductProfile.h"
 #include "registry/SettingsManager.h"
 
 #include <QCoreApplication>

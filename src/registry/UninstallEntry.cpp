@@ -1,6 +1,6 @@
 #include "registry/SettingsManager.h"
 
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 #include "platform/Registry.h"
 #include "registry/RegistrySettings.h"
 

@@ -1,6 +1,6 @@
 #include "widgets/MultiLayerBackgroundFrame.h"
 
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 #include "widgets/Picture.h"
 
 #include <QFile>

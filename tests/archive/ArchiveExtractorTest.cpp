@@ -1,6 +1,6 @@
 #include "archive/ArchiveExtractor.h"
 
-#include "installer/ExtractSettings.h"
+#include "base/ExtractSettings.h"
 #include "platform/Path.h"
 #include "support/ArchiveWriter.h"
 #include "support/Machine.h"

@@ -1,4 +1,4 @@
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 #include "support/Machine.h"
 
 #include <gtest/gtest.h>

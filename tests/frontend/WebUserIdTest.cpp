@@ -1,7 +1,7 @@
-#include "network/HttpTransfer.h"
 #include "support/Environment.h"
 #include "support/SetupRun.h"
 #include "support/TestServers.h"
+#include "transfer/HttpTransfer.h"
 
 #include <QUuid>
 

@@ -1,5 +1,5 @@
 // What every page must keep to in every language; fonts are those of this system.
-#include "installer/ProductProfile.h"
+#include "base/ProductProfile.h"
 #include "support/ArchiveBesideProgram.h"
 #include "support/Machine.h"
 #include "support/WizardDriver.h"

@@ -2,7 +2,7 @@
 // they are small. What it finds is a crash, a report of the sanitisers, an error that is not among
 // the reader's documented ones, or a file outside of the destination.
 #include "archive/ArchiveExtractor.h"
-#include "installer/ExtractSettings.h"
+#include "base/ExtractSettings.h"
 
 #include <algorithm>
 #include <cstdint>

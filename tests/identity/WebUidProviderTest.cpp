@@ -1,11 +1,11 @@
 #include "identity/WebUidProvider.h"
 
 #include "installer/InstallerMediator.h"
-#include "network/HttpTransfer.h"
 #include "registry/RegistrySettings.h"
 #include "support/Environment.h"
 #include "support/Machine.h"
 #include "support/TestServers.h"
+#include "transfer/HttpTransfer.h"
 
 #include <QUuid>
 

@@ -1,4 +1,4 @@
-#include "installer/InstallationSettings.h"
+#include "base/InstallationSettings.h"
 
 #include "platform/Path.h"
 #include "support/Machine.h"

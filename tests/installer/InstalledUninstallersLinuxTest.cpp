@@ -1,4 +1,4 @@
-#include "installer/InstalledUninstallers.h"
+#include "installer/SilentUninstaller.h"
 
 #include "installer/Shortcuts.h"
 #include "support/ChildProgram.h"

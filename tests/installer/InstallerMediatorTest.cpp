@@ -1,6 +1,6 @@
 #include "installer/InstallerMediator.h"
 
-#include "installer/Localization.h"
+#include "base/Localization.h"
 #include "registry/RegistrySettings.h"
 #include "support/ArchiveBesideProgram.h"
 #include "support/Machine.h"

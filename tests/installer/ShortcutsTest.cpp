@@ -1,6 +1,6 @@
 #include "installer/Shortcuts.h"
 
-#include "platform/Com.h"
+#include "base/Com.h"
 #include "platform/Path.h"
 #include "support/Machine.h"
 #include "support/MediatorAccess.h"

@@ -1,6 +1,6 @@
 #include "registry/SettingsManager.h"
 
-#include "installer/InstallationSettings.h"
+#include "base/InstallationSettings.h"
 #include "platform/Registry.h"
 #include "registry/RegistrySettings.h"
 #include "support/Machine.h"

@@ -2,8 +2,8 @@
 
 #include "archive/ArchiveExtractor.h"
 #include "checks/AccelerationChecker.h"
-#include "installer/InstalledUninstallers.h"
 #include "installer/InstallerMediator.h"
+#include "installer/SilentUninstaller.h"
 #include "platform/Path.h"
 #include "registry/SettingsManager.h"
 

@@ -1,6 +1,6 @@
 #include "support/RegistryTree.h"
 
-#include "platform/Handle.h"
+#include "base/Handle.h"
 #include "platform/Path.h"
 
 #include <cstring>

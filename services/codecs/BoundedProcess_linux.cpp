@@ -1,0 +1,244 @@
+#include "codecs/BoundedProcess.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+extern "C" // which this header does not say itself
+{
+#include <sys/pidfd.h>
+}
+
+namespace Vorlan::Platform
+{
+
+namespace
+{
+
+using Clock = std::chrono::steady_clock;
+
+class Descriptor
+{
+public:
+    explicit Descriptor(int owned = -1) : descriptor(owned) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    ~Descriptor() { Reset(); }
+
+    int Get() const { return descriptor; }
+    void Reset(int owned = -1)
+    {
+        if (descriptor >= 0)
+            close(descriptor);
+        descriptor = owned;
+    }
+
+private:
+    int descriptor;
+};
+
+struct Pipe
+{
+    Descriptor readEnd;
+    Descriptor writeEnd;
+
+    Pipe()
+    {
+        std::array<int, 2> ends{};
+        if (pipe2(ends.data(), O_CLOEXEC) != 0)
+            throw std::system_error(errno, std::generic_category(), "pipe");
+        readEnd.Reset(ends[0]);
+        writeEnd.Reset(ends[1]);
+        fcntl(readEnd.Get(), F_SETFL, O_NONBLOCK);
+    }
+};
+
+// Standard input and error lead nowhere, standard output into the pipe.
+class FileActions
+{
+public:
+    explicit FileActions(int output)
+    {
+        posix_spawn_file_actions_init(&actions);
+        posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+        posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+        posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    }
+    FileActions(const FileActions&) = delete;
+    FileActions& operator=(const FileActions&) = delete;
+    ~FileActions() { posix_spawn_file_actions_destroy(&actions); }
+    const posix_spawn_file_actions_t* Get() const { return &actions; }
+
+private:
+    posix_spawn_file_actions_t actions{};
+};
+
+// A group of its own, and SIGPIPE as a program expects it (Qt ignores it).
+class SpawnAttributes
+{
+public:
+    SpawnAttributes()
+    {
+        sigset_t restored;
+        sigemptyset(&restored);
+        sigaddset(&restored, SIGPIPE);
+        posix_spawnattr_init(&attributes);
+        posix_spawnattr_setsigdefault(&attributes, &restored);
+        posix_spawnattr_setpgroup(&attributes, 0);
+        posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGDEF);
+    }
+    SpawnAttributes(const SpawnAttributes&) = delete;
+    SpawnAttributes& operator=(const SpawnAttributes&) = delete;
+    ~SpawnAttributes() { posix_spawnattr_destroy(&attributes); }
+    const posix_spawnattr_t* Get() const { return &attributes; }
+
+private:
+    posix_spawnattr_t attributes{};
+};
+
+// A started program. Its number stays its own until it is reaped, so the group can be ended after
+// the program itself has ended.
+class Child
+{
+public:
+    explicit Child(pid_t started) : id(started), pidFd(pidfd_open(started, 0)) {}
+    Child(const Child&) = delete;
+    Child& operator=(const Child&) = delete;
+    ~Child() { EndGroup(); }
+
+    int PidFd() const { return pidFd.Get(); }
+
+    // Ends the whole group; the program's own wait status.
+    int EndGroup()
+    {
+        if (id == 0)
+            return status;
+        kill(-id, SIGKILL);
+        while (waitpid(id, &status, 0) < 0 && errno == EINTR)
+            continue;
+        id = 0;
+        return status;
+    }
+
+private:
+    pid_t id;
+    int status = 0;
+    Descriptor pidFd;
+};
+
+// 0, or why it could not be started.
+int Spawn(const QString& program, const QStringList& arguments, int output, pid_t& id)
+{
+    std::vector<std::string> texts{QFile::encodeName(program).toStdString()};
+    for (const QString& argument : arguments)
+        texts.push_back(argument.toStdString());
+    std::vector<char*> words;
+    for (std::string& text : texts)
+        words.push_back(text.data());
+    words.push_back(nullptr);
+    const FileActions actions(output);
+    const SpawnAttributes attributes;
+    return posix_spawn(&id, words[0], actions.Get(), attributes.Get(), words.data(), environ);
+}
+
+enum class Reading
+{
+    Waits,
+    Ended,
+    Overflowed
+};
+
+// Takes what is in the pipe now.
+Reading ReadAvailable(int pipe, std::string& output, std::size_t maxOutput)
+{
+    std::array<char, 4096> buffer{};
+    while (true)
+    {
+        const ssize_t count = read(pipe, buffer.data(), buffer.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return count == 0 ? Reading::Ended : Reading::Waits;
+        const auto size = static_cast<std::size_t>(count);
+        output.append(buffer.data(), std::min(size, maxOutput - output.size()));
+        if (output.size() == maxOutput)
+            return Reading::Overflowed;
+    }
+}
+
+int MillisecondsUntil(Clock::time_point end)
+{
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
+    return static_cast<int>(std::clamp<decltype(left)>(left, 0, 1 << 30));
+}
+
+BoundedRun::End Watch(
+    const Child& child, int pipe, Clock::time_point end, std::size_t maxOutput, std::string& output)
+{
+    while (true)
+    {
+        std::array<pollfd, 2> watched{{{child.PidFd(), POLLIN, 0}, {pipe, POLLIN, 0}}};
+        const int timeLeft = MillisecondsUntil(end);
+        if (poll(watched.data(), watched.size(), timeLeft) < 0 && errno != EINTR)
+            throw std::system_error(errno, std::generic_category(), "poll");
+        const Reading reading = pipe < 0 ? Reading::Ended : ReadAvailable(pipe, output, maxOutput);
+        if (reading == Reading::Overflowed)
+            return BoundedRun::End::TooMuchOutput;
+        if (watched[0].revents != 0)
+            return BoundedRun::End::Exited;
+        if (timeLeft == 0)
+            return BoundedRun::End::TimedOut;
+        if (reading == Reading::Ended)
+            pipe = -1; // it goes on without its output
+    }
+}
+
+void RunInGroup(const QString& program, const QStringList& arguments,
+    std::chrono::milliseconds limit, std::size_t maxOutput, BoundedRun& run)
+{
+    const Clock::time_point end = Clock::now() + limit;
+    Pipe pipe;
+    pid_t id = 0;
+    if (const int error = Spawn(program, arguments, pipe.writeEnd.Get(), id))
+        throw std::system_error(error, std::generic_category());
+    Child child(id);
+    if (child.PidFd() < 0)
+        throw std::system_error(errno, std::generic_category(), "pidfd_open");
+    pipe.writeEnd.Reset();
+    const BoundedRun::End ending = Watch(child, pipe.readEnd.Get(), end, maxOutput, run.output);
+    const int status = child.EndGroup();
+    run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : 0;
+    run.end = ending == BoundedRun::End::Exited && WIFSIGNALED(status) ? BoundedRun::End::Crashed
+                                                                       : ending;
+}
+
+} // namespace
+
+BoundedRun RunBounded(const QString& program, const QStringList& arguments,
+    std::chrono::milliseconds limit, std::size_t maxOutput)
+{
+    BoundedRun run;
+    try
+    {
+        RunInGroup(program, arguments, limit, maxOutput, run);
+    }
+    catch (const std::system_error& error)
+    {
+        run.error = error.what();
+    }
+    return run;
+}
+
+} // namespace Vorlan::Platform
