@@ -4,9 +4,9 @@
 // stand, so a file of them is a journal and at every moment a file that regedit can import.
 #pragma once
 
-#include <string>
+#include "registry/KeyTree.h"
 
-#include "KeyTree.h"
+#include <string>
 
 namespace Pal
 {

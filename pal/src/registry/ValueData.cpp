@@ -1,9 +1,9 @@
-#include "ValueData.h"
+#include "registry/ValueData.h"
+
+#include "WideText.h"
+#include "registry/RegFileWriter.h"
 
 #include <algorithm>
-
-#include "RegFileWriter.h"
-#include "WideText.h"
 
 namespace Pal
 {
