@@ -1,6 +1,6 @@
 #include "registry/RegFileReader.h"
 
-#include "registry/RegFileWriter.h"
+#include "registry/ValueData.h"
 
 namespace Pal
 {

@@ -155,16 +155,4 @@ std::u16string WholeRegFile(const KeyNode& root)
     return text;
 }
 
-std::string DiskBytes(std::u16string_view text)
-{
-    std::string bytes;
-    bytes.reserve(text.size() * sizeof(char16_t));
-    for (const char16_t unit : text)
-    {
-        bytes.push_back(static_cast<char>(unit & 0xFF));
-        bytes.push_back(static_cast<char>(unit >> 8));
-    }
-    return bytes;
-}
-
 } // namespace Pal

@@ -23,7 +23,4 @@ std::u16string RemovedValueRecord(
 // A whole file: every key sorted, every value once, in its order.
 std::u16string WholeRegFile(const KeyNode& root);
 
-// The text as it lies on disk, UTF-16LE.
-std::string DiskBytes(std::u16string_view text);
-
 } // namespace Pal

@@ -23,6 +23,9 @@ bool IsPlainText(const std::string& data, std::u16string& content);
 
 DWORD DwordOf(const std::string& data);
 
+// Characters as UTF-16LE bytes.
+std::string DiskBytes(std::u16string_view text);
+
 // UTF-16LE bytes as characters; an odd byte at the end is dropped.
 std::u16string CharactersOf(std::string_view diskBytes);
 
