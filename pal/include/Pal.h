@@ -18,13 +18,14 @@ namespace Pal
 // every call. The folder need not exist yet: the first registry or shell-folder call creates it.
 std::filesystem::path MachineRoot();
 
-// Makes one call of a function of this layer fail while the object lives. Calls are counted from
-// its construction, over all threads. A Reg function returns the error; any other function sets it
-// as the last error and returns its failure value. The failing call changes nothing, except that
-// CloseHandle and RegCloseKey do close the handle before they report the error.
+// Makes one call of a function of this layer fail during the object's lifetime. Calls are counted
+// from its construction, over all threads. A Reg function returns the error; any other function
+// sets it as the last error and returns its failure value. The failing call changes nothing, except
+// that CloseHandle and RegCloseKey do close the handle before they report the error.
 // COM functions and methods return the error as an HRESULT, and may be given one; a method is named
-// with the interface that declares it, as "IShellLinkW::SetPath". What cannot fail is not counted:
-// GetLastError, SetLastError, AddRef, Release, CoUninitialize, CoTaskMemFree.
+// with the interface that declares it, as "IShellLinkW::SetPath". Functions that cannot fail are
+// not counted: GetLastError, SetLastError, GetCurrentProcessId, AddRef, Release, CoUninitialize,
+// CoTaskMemFree and those of oleauto.h.
 class ScopedFault
 {
 public:
@@ -38,41 +39,42 @@ public:
     // callNumber: which call fails; 1 is the first.
     ScopedFault(const char* function, DWORD error, unsigned callNumber = 1,
         Expect expect = Expect::MustFire);
-    // Hands a fault that must fire and did not to the handler below.
+    // Calls the handler below for a fault that must fire and did not.
     ~ScopedFault();
     ScopedFault(const ScopedFault&) = delete;
     ScopedFault& operator=(const ScopedFault&) = delete;
 
     bool Fired() const;
 
-    struct State; // known to the layer's sources only
+    struct State; // defined in the layer's sources
 
 private:
-    const std::unique_ptr<State> m_state;
+    const std::unique_ptr<State> state;
 };
 
 // Called with a text that names the fault. Without a handler (nullptr) the text goes to the
 // standard error output and the program aborts.
 void SetUnusedFaultHandler(std::function<void(const std::string&)> handler);
 
-// Makes CoCreateInstance know a class while the object lives, or another object for a class that it
-// knows already; of several registrations the latest counts.
+// Registers a class with CoCreateInstance for the object's lifetime. Of several registrations of
+// one class, and of the layer's own class, the latest is used.
 class ScopedClass
 {
 public:
-    // factory: makes an object with one reference, which becomes CoCreateInstance's.
+    // factory: returns an object with one reference, which CoCreateInstance releases.
     ScopedClass(REFCLSID classId, std::function<IUnknown*()> factory);
     ~ScopedClass();
     ScopedClass(const ScopedClass&) = delete;
     ScopedClass& operator=(const ScopedClass&) = delete;
 
-    struct State; // known to the layer's sources only
+    struct State; // defined in the layer's sources
 
 private:
-    const std::unique_ptr<State> m_state;
+    const std::unique_ptr<State> state;
 };
 
-// What is open in this process: the path of each open file and key, sorted.
+// The names of this process's open handles, sorted: the path of a file or key, the number of a
+// process, the name of a mutex.
 std::vector<std::string> OpenHandles();
 
 } // namespace Pal

@@ -1,4 +1,5 @@
-// File calls, for C and C++. What each keeps, changes and refuses stands at its definition.
+// File calls, for C and C++. What each call keeps, changes and refuses is documented at its
+// definition.
 #ifndef PAL_FILEAPI_H
 #define PAL_FILEAPI_H
 

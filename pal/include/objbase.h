@@ -1,4 +1,4 @@
-// COM, for C++ only. What is kept, changed and refused stands at the definition.
+// COM, for C++ only. What is kept, changed and refused is documented at the definition.
 #ifndef PAL_OBJBASE_H
 #define PAL_OBJBASE_H
 
@@ -35,8 +35,8 @@ inline constexpr IID IID_IUnknown = {0, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
 inline constexpr IID IID_IPersist = {0x10C, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
 inline constexpr IID IID_IPersistFile = {0x10B, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
 
-// The methods of every interface stand in the published order. An object is never deleted through
-// an interface: it goes with its last reference.
+// The methods of every interface are declared in the published order. Release deletes an object
+// with its last reference; no object is deleted through an interface pointer.
 struct IUnknown
 {
     virtual HRESULT QueryInterface(REFIID iid, void** object) = 0;

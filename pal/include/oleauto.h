@@ -1,5 +1,5 @@
-// Values of automation, as far as they hold text, for C++ only. What is kept, changed and refused
-// stands at the definition.
+// The text values of automation, for C++ only. What is kept, changed and refused is documented at
+// the definition.
 #ifndef PAL_OLEAUTO_H
 #define PAL_OLEAUTO_H
 

@@ -1,4 +1,5 @@
-// Processes, for C and C++. What each call keeps, changes and refuses stands at its definition.
+// Processes, for C and C++. What each call keeps, changes and refuses is documented at its
+// definition.
 #ifndef PAL_PROCESSTHREADSAPI_H
 #define PAL_PROCESSTHREADSAPI_H
 

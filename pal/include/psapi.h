@@ -1,5 +1,5 @@
-// The list of processes, for C and C++. What each call keeps, changes and refuses stands at its
-// definition.
+// The list of processes, for C and C++. What each call keeps, changes and refuses is documented at
+// its definition.
 #ifndef PAL_PSAPI_H
 #define PAL_PSAPI_H
 

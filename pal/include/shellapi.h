@@ -1,5 +1,5 @@
-// Starting programs as the shell does, for C and C++. What is kept, changed and refused stands at
-// the definition.
+// Starting programs through the shell, for C and C++. What is kept, changed and refused is
+// documented at the definition.
 #ifndef PAL_SHELLAPI_H
 #define PAL_SHELLAPI_H
 

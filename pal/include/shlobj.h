@@ -1,5 +1,5 @@
-// Shell folders, for C and C++, and shell links, for C++. What is kept, changed and refused stands
-// at the definition.
+// Shell folders, for C and C++, and shell links, for C++. What is kept, changed and refused is
+// documented at the definition.
 #ifndef PAL_SHLOBJ_H
 #define PAL_SHLOBJ_H
 

@@ -1,5 +1,5 @@
 // Starting packaged applications and choosing default ones, for C++ only. What is kept, changed and
-// refused stands at the definition.
+// refused is documented at the definition.
 #ifndef PAL_SHOBJIDL_H
 #define PAL_SHOBJIDL_H
 

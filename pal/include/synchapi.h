@@ -1,5 +1,5 @@
-// Waiting and named mutexes, for C and C++. What each call keeps, changes and refuses stands at its
-// definition.
+// Waiting and named mutexes, for C and C++. What each call keeps, changes and refuses is documented
+// at its definition.
 #ifndef PAL_SYNCHAPI_H
 #define PAL_SYNCHAPI_H
 

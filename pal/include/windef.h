@@ -1,7 +1,7 @@
-// The basic types of the Windows interface as this layer offers them, for C and C++.
+// The basic types of the Windows interface that this layer offers, for C and C++.
 //
-// WCHAR is wchar_t and therefore has four bytes here: count bytes with sizeof(wchar_t).
-// All integers have their Windows widths, so DWORD and LONG stay 32 bits wide.
+// WCHAR is wchar_t and therefore has four bytes: byte counts use sizeof(wchar_t). All integers have
+// their Windows widths, so DWORD and LONG are 32 bits wide.
 #ifndef PAL_WINDEF_H
 #define PAL_WINDEF_H
 

@@ -1,5 +1,5 @@
-// The Windows interface on Linux, as far as the engine calls it: nothing more is here, and a flag
-// or argument that this layer does not honour is refused with an error code.
+// The part of the Windows interface that the engine calls. A flag or argument that this layer does
+// not support is refused with an error code.
 #ifndef PAL_WINDOWS_H
 #define PAL_WINDOWS_H
 

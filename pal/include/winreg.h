@@ -1,4 +1,5 @@
-// Registry calls, for C and C++. What each keeps, changes and refuses stands at its definition.
+// Registry calls, for C and C++. What each call keeps, changes and refuses is documented at its
+// definition.
 #ifndef PAL_WINREG_H
 #define PAL_WINREG_H
 

@@ -11,24 +11,24 @@ namespace Pal
 class Descriptor
 {
 public:
-    explicit Descriptor(int value = -1) : m_value(value) {}
-    Descriptor(Descriptor&& other) noexcept : m_value(std::exchange(other.m_value, -1)) {}
+    explicit Descriptor(int owned = -1) : value(owned) {}
+    Descriptor(Descriptor&& other) noexcept : value(std::exchange(other.value, -1)) {}
     Descriptor& operator=(Descriptor&& other) noexcept
     {
-        std::swap(m_value, other.m_value);
+        std::swap(value, other.value);
         return *this;
     }
     ~Descriptor()
     {
         if (IsOpen())
-            close(m_value);
+            close(value);
     }
 
-    int Get() const { return m_value; }
-    bool IsOpen() const { return m_value >= 0; }
+    int Get() const { return value; }
+    bool IsOpen() const { return value >= 0; }
 
 private:
-    int m_value;
+    int value;
 };
 
 } // namespace Pal

@@ -1,18 +1,18 @@
-// The one place where errors of the system become errors of Windows.
+// Translates errors of the system to Windows error codes. No other file does.
 #pragma once
 
-#include <string>
-
 #include <windows.h>
+
+#include <string>
 
 namespace Pal
 {
 
-// The Windows error for an errno value. What has no counterpart becomes ERROR_GEN_FAILURE.
+// The Windows error for an errno value; ERROR_GEN_FAILURE for a value without a counterpart.
 DWORD ErrorFromErrno(int systemError);
 
-// The same for a call that named a file: as on Windows, a missing folder on the way is
-// ERROR_PATH_NOT_FOUND and only a missing last component ERROR_FILE_NOT_FOUND.
+// The same for a call that named a file: as on Windows, ENOENT is ERROR_PATH_NOT_FOUND if a folder
+// of the path is missing and ERROR_FILE_NOT_FOUND if only the last component is.
 DWORD ErrorForPath(int systemError, const std::string& path);
 
 } // namespace Pal

@@ -1,12 +1,12 @@
 #include "Faults.h"
 
+#include <Pal.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <mutex>
-
-#include <Pal.h>
 
 namespace Pal
 {
@@ -50,37 +50,38 @@ struct FaultList
 
 FaultList& Faults()
 {
-    static FaultList& faults = *new FaultList; // outlives every static object that makes calls
+    static FaultList& faults =
+        *new FaultList; // never destroyed: calls may come from static destructors
     return faults;
 }
 
 } // namespace
 
 ScopedFault::ScopedFault(const char* function, DWORD error, unsigned callNumber, Expect expect)
-    : m_state(new State{function, error, callNumber, expect})
+    : state(new State{function, error, callNumber, expect})
 {
     const std::lock_guard lock(Faults().mutex);
-    Faults().active.push_back(m_state.get());
+    Faults().active.push_back(state.get());
 }
 
 ScopedFault::~ScopedFault()
 {
     std::unique_lock lock(Faults().mutex);
     auto& active = Faults().active;
-    active.erase(std::find(active.begin(), active.end(), m_state.get()));
-    if (m_state->expect == Expect::MayStayUnused || m_state->Fired())
+    active.erase(std::find(active.begin(), active.end(), state.get()));
+    if (state->expect == Expect::MayStayUnused || state->Fired())
         return;
     const UnusedFaultHandler handler = Faults().unusedHandler;
     lock.unlock();
-    handler("The injected fault for call " + std::to_string(m_state->callNumber) + " of " +
-            m_state->function + " was never used: there were " + std::to_string(m_state->calls) +
+    handler("The injected fault for call " + std::to_string(state->callNumber) + " of " +
+            state->function + " was never used: there were " + std::to_string(state->calls) +
             " calls.");
 }
 
 bool ScopedFault::Fired() const
 {
     const std::lock_guard lock(Faults().mutex);
-    return m_state->Fired();
+    return state->Fired();
 }
 
 void SetUnusedFaultHandler(std::function<void(const std::string&)> handler)

@@ -1,18 +1,17 @@
-// Injected faults, as the functions of this layer see them.
+// Injected faults, for the functions of this layer.
 #pragma once
 
-#include <optional>
-
 #include <windows.h>
+
+#include <optional>
 
 namespace Pal
 {
 
-// Counts one call of the function; the error that this call must return, if it must fail.
+// Counts one call of the function. Returns the error that this call must report, if it must fail.
 std::optional<DWORD> InjectedFault(const char* function);
 
-// The same for a function that reports through the last error, which is set when the call must
-// fail.
+// The same for a function that reports through the last error, which it sets.
 bool FaultHits(const char* function);
 
 } // namespace Pal

@@ -1,6 +1,11 @@
 // Calls on an open file.
 #include <windows.h>
 
+#include "ErrorMapping.h"
+#include "Faults.h"
+#include "LastError.h"
+#include "OpenFile.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
@@ -9,18 +14,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "ErrorMapping.h"
-#include "Faults.h"
-#include "LastError.h"
-#include "OpenFile.h"
-
 namespace Pal
 {
 
 namespace
 {
 
-constexpr DWORD largestTransfer = 1u << 30; // the system moves less than 2 GiB in one call
+constexpr DWORD largestTransfer = 1u << 30; // read and write transfer less than 2 GiB per call
 
 std::shared_ptr<OpenFile> FindFile(HANDLE handle)
 {
@@ -38,7 +38,8 @@ DWORD CheckTransfer(const OpenFile* file, DWORD access, const DWORD* count, cons
     return file->Allows(access) ? ERROR_SUCCESS : ERROR_ACCESS_DENIED;
 }
 
-// Calls transfer(offset, size) until all is moved, nothing more moves, or it fails.
+// Calls transfer(offset, size) until all bytes are transferred, a call transfers none, or one
+// fails.
 template <typename Transfer>
 DWORD TransferAll(DWORD size, DWORD& done, Transfer transfer)
 {
@@ -101,7 +102,7 @@ int64_t Distance(LONG low, const LONG* high)
     return static_cast<int64_t>(upper | static_cast<DWORD>(low));
 }
 
-// A low part that looks like a failure is told from one by the last error.
+// A valid low part of 0xFFFFFFFF differs from a failure by the last error NO_ERROR.
 DWORD LowPart(int64_t value)
 {
     const auto low = static_cast<DWORD>(value & 0xFFFFFFFF);
@@ -156,7 +157,7 @@ BOOL WriteFile(
 
 // Keeps:   64-bit distances and positions with the high part; a low part of 0xFFFFFFFF with the
 //          last error NO_ERROR is a position; ERROR_NEGATIVE_SEEK before the start, and
-//          ERROR_INVALID_PARAMETER past 4 GiB without a high part, both without moving.
+//          ERROR_INVALID_PARAMETER past 4 GiB without a high part, both without moving the pointer.
 DWORD SetFilePointer(HANDLE file, LONG distanceToMove, PLONG distanceToMoveHigh, DWORD moveMethod)
 {
     if (Pal::FaultHits(__func__))
@@ -177,8 +178,8 @@ DWORD SetFilePointer(HANDLE file, LONG distanceToMove, PLONG distanceToMoveHigh,
     return Pal::LowPart(position);
 }
 
-// Keeps:   the high part where it is asked for; a low part of 0xFFFFFFFF with the last error
-//          NO_ERROR is a size.
+// Keeps:   the high part if it is asked for; a low part of 0xFFFFFFFF with the last error NO_ERROR
+//          is a size.
 DWORD GetFileSize(HANDLE file, LPDWORD fileSizeHigh)
 {
     if (Pal::FaultHits(__func__))

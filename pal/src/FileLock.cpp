@@ -1,11 +1,11 @@
 #include "FileLock.h"
 
+#include "ErrorMapping.h"
+
 #include <cerrno>
 
 #include <fcntl.h>
 #include <sys/file.h>
-
-#include "ErrorMapping.h"
 
 namespace Pal
 {

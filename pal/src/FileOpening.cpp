@@ -1,5 +1,11 @@
-// Calls that name a file: opening, creating, asking for attributes.
+// Calls that take a file name: opening, creating, reading attributes.
 #include <windows.h>
+
+#include "ErrorMapping.h"
+#include "Faults.h"
+#include "LastError.h"
+#include "OpenFile.h"
+#include "WideText.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -9,20 +15,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "ErrorMapping.h"
-#include "Faults.h"
-#include "LastError.h"
-#include "OpenFile.h"
-#include "WideText.h"
-
 namespace Pal
 {
 
-OpenFile::OpenFile(int descriptor, std::string path, DWORD access, DWORD shareMode)
-    : m_descriptor(descriptor), m_path(std::move(path)), m_access(access), m_shareMode(shareMode)
+OpenFile::OpenFile(int opened, std::string name, DWORD rights, DWORD sharing)
+    : descriptor(opened), path(std::move(name)), access(rights), shareMode(sharing)
 {
-    if (fstat(descriptor, &m_status) != 0)
-        m_status = {};
+    if (fstat(descriptor, &status) != 0)
+        status = {};
 }
 
 OpenFile::~OpenFile()
@@ -32,10 +32,10 @@ OpenFile::~OpenFile()
 
 DWORD OpenFile::Close()
 {
-    if (m_descriptor < 0)
+    if (descriptor < 0)
         return ERROR_SUCCESS;
-    const int result = close(m_descriptor);
-    m_descriptor = -1;
+    const int result = close(descriptor);
+    descriptor = -1;
     return result == 0 ? ERROR_SUCCESS : ErrorFromErrno(errno);
 }
 
@@ -43,10 +43,10 @@ bool OpenFile::Excludes(const OpenFile& other) const
 {
     const auto forbids = [](const OpenFile& first, const OpenFile& second)
     {
-        return (second.Allows(GENERIC_READ) && !(first.m_shareMode & FILE_SHARE_READ)) ||
-               (second.Allows(GENERIC_WRITE) && !(first.m_shareMode & FILE_SHARE_WRITE));
+        return (second.Allows(GENERIC_READ) && !(first.shareMode & FILE_SHARE_READ)) ||
+               (second.Allows(GENERIC_WRITE) && !(first.shareMode & FILE_SHARE_WRITE));
     };
-    return m_status.st_dev == other.m_status.st_dev && m_status.st_ino == other.m_status.st_ino &&
+    return status.st_dev == other.status.st_dev && status.st_ino == other.status.st_ino &&
            (forbids(*this, other) || forbids(other, *this));
 }
 
@@ -110,7 +110,7 @@ int OpenDescriptor(const std::string& path, int flags)
     return descriptor;
 }
 
-// The content goes only after the share modes have been asked.
+// Truncates the file only after the share modes were checked.
 HANDLE EnterFile(const std::shared_ptr<OpenFile>& file, DWORD disposition)
 {
     const auto excludes = [&file](const OpenObject& other)

@@ -1,31 +1,32 @@
 #include "HandleTable.h"
 
-#include <algorithm>
+#include "Faults.h"
 
 #include <Pal.h>
 
-#include "Faults.h"
+#include <algorithm>
 
 namespace Pal
 {
 
 HandleTable& HandleTable::Instance()
 {
-    static HandleTable& table = *new HandleTable; // outlives every static object that has handles
+    static HandleTable& table =
+        *new HandleTable; // never destroyed: calls may come from static destructors
     return table;
 }
 
 HANDLE HandleTable::Add(std::shared_ptr<OpenObject> object)
 {
-    const std::lock_guard lock(m_mutex);
+    const std::lock_guard lock(mutex);
     return Insert(std::move(object));
 }
 
 HANDLE HandleTable::AddUnless(const Conflict& conflict, std::shared_ptr<OpenObject> object)
 {
-    const std::lock_guard lock(m_mutex);
+    const std::lock_guard lock(mutex);
     const auto conflicts = [&conflict](const auto& entry) { return conflict(*entry.second); };
-    if (std::any_of(m_objects.begin(), m_objects.end(), conflicts))
+    if (std::any_of(objects.begin(), objects.end(), conflicts))
         return nullptr;
     return Insert(std::move(object));
 }
@@ -33,20 +34,20 @@ HANDLE HandleTable::AddUnless(const Conflict& conflict, std::shared_ptr<OpenObje
 std::vector<std::string> HandleTable::Names()
 {
     std::vector<std::string> names;
-    const std::lock_guard lock(m_mutex);
-    for (const auto& [handle, object] : m_objects)
+    const std::lock_guard lock(mutex);
+    for (const auto& [handle, object] : objects)
         names.push_back(object->Name());
     std::sort(names.begin(), names.end());
     return names;
 }
 
-// A value is never given out twice, so a stale handle is always noticed. Like on Windows it is a
-// multiple of four.
+// Values are never reused, so a stale handle is always detected. As on Windows they are multiples
+// of four.
 HANDLE HandleTable::Insert(std::shared_ptr<OpenObject> object)
 {
-    m_lastHandle += 4;
-    const HANDLE handle = reinterpret_cast<HANDLE>(m_lastHandle);
-    m_objects.emplace(handle, std::move(object));
+    lastHandle += 4;
+    const HANDLE handle = reinterpret_cast<HANDLE>(lastHandle);
+    objects.emplace(handle, std::move(object));
     return handle;
 }
 
@@ -57,9 +58,9 @@ std::vector<std::string> OpenHandles()
 
 } // namespace Pal
 
-// Keeps:   closes a handle of any kind; ERROR_INVALID_HANDLE for what is none, such as one closed
-//          before.
-// Differs: a handle closed while another thread uses it fails there at once.
+// Keeps:   closes a handle of any type; ERROR_INVALID_HANDLE for any other value, such as a handle
+//          that is already closed.
+// Differs: another thread that is using the handle may fail with ERROR_INVALID_HANDLE.
 BOOL CloseHandle(HANDLE object)
 {
     const bool fault = Pal::FaultHits(__func__);

@@ -1,5 +1,7 @@
-// Every object of this process that a HANDLE or HKEY stands for.
+// Maps the HANDLE and HKEY values of this process to their objects.
 #pragma once
+
+#include <windows.h>
 
 #include <functional>
 #include <map>
@@ -7,8 +9,6 @@
 #include <mutex>
 #include <string>
 #include <vector>
-
-#include <windows.h>
 
 namespace Pal
 {
@@ -18,10 +18,10 @@ class OpenObject
 public:
     virtual ~OpenObject() = default;
 
-    // What a person would call it: the path of a file or key.
+    // The name in Pal::OpenHandles.
     virtual std::string Name() const = 0;
 
-    // Gives the object back to the system and says how that went.
+    // Releases the system's resource and returns its error.
     virtual DWORD Close() { return ERROR_SUCCESS; }
 };
 
@@ -32,27 +32,26 @@ public:
 
     HANDLE Add(std::shared_ptr<OpenObject> object);
 
-    // Adds the object unless one that is open already forbids it; then the result is null.
+    // Adds the object, or returns null if an open object conflicts with it.
     using Conflict = std::function<bool(const OpenObject&)>;
     HANDLE AddUnless(const Conflict& conflict, std::shared_ptr<OpenObject> object);
 
-    // The object of that kind behind the handle, or null.
+    // The object of that type, or null.
     template <typename Object>
     std::shared_ptr<Object> Find(HANDLE handle)
     {
-        const std::lock_guard lock(m_mutex);
-        const auto found = m_objects.find(handle);
-        return found == m_objects.end() ? nullptr
-                                        : std::dynamic_pointer_cast<Object>(found->second);
+        const std::lock_guard lock(mutex);
+        const auto found = objects.find(handle);
+        return found == objects.end() ? nullptr : std::dynamic_pointer_cast<Object>(found->second);
     }
 
-    // The same, and the handle is no longer valid.
+    // The same; removes the handle.
     template <typename Object>
     std::shared_ptr<Object> Take(HANDLE handle)
     {
         std::shared_ptr<Object> object = Find<Object>(handle);
-        const std::lock_guard lock(m_mutex);
-        return object && m_objects.erase(handle) == 1 ? object : nullptr;
+        const std::lock_guard lock(mutex);
+        return object && objects.erase(handle) == 1 ? object : nullptr;
     }
 
     std::vector<std::string> Names();
@@ -60,9 +59,9 @@ public:
 private:
     HANDLE Insert(std::shared_ptr<OpenObject> object);
 
-    std::mutex m_mutex;
-    std::map<HANDLE, std::shared_ptr<OpenObject>> m_objects;
-    ULONG_PTR m_lastHandle = 0;
+    std::mutex mutex;
+    std::map<HANDLE, std::shared_ptr<OpenObject>> objects;
+    ULONG_PTR lastHandle = 0;
 };
 
 } // namespace Pal

@@ -5,7 +5,7 @@
 namespace Pal
 {
 
-// Sets the last error; the result is that of a function which failed.
+// Sets the last error and returns FALSE.
 BOOL Failed(DWORD error);
 
 } // namespace Pal

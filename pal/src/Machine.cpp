@@ -1,19 +1,19 @@
 #include "Machine.h"
 
-#include <cstdlib>
-#include <string>
+#include "ErrorMapping.h"
 
 #include <QByteArray>
 #include <QList>
 
-#include <dlfcn.h>
-#include <pwd.h>
-#include <unistd.h>
-
 #include <Pal.h>
 #include <shlobj.h>
 
-#include "ErrorMapping.h"
+#include <cstdlib>
+#include <string>
+
+#include <dlfcn.h>
+#include <pwd.h>
+#include <unistd.h>
 
 namespace Pal
 {
@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 struct FolderOfShell
 {
     int csidl;
-    const char* base; // null: the user's own folder
+    const char* base; // null: the user's folder
     const char* path;
 };
 
@@ -47,7 +47,7 @@ std::string Environment(const char* name)
     return value ? value : "";
 }
 
-// The user's entry in the system's user table; a user without one is known by number.
+// The user's entry in the system's user table; a user without an entry is named by number.
 struct User
 {
     std::string name = std::to_string(getuid());
@@ -99,8 +99,7 @@ fs::path FolderOfThisLibrary()
     return known && info.dli_fname ? fs::path(info.dli_fname).parent_path() : fs::path();
 }
 
-// The system's programs lie beside the running program, or beside the library that holds this
-// layer.
+// Looks in the folder of the running program, then in that of the library that contains this layer.
 fs::path FindSystemProgram(const char* name)
 {
     std::error_code error;
@@ -114,8 +113,8 @@ fs::path FindSystemProgram(const char* name)
     return {};
 }
 
-// A link that leads nowhere, because the programs have moved, is made anew. Another process may be
-// faster with that.
+// Replaces a dangling link, which remains when the programs were moved. Another process may replace
+// it first.
 std::error_code LinkSystemProgram(const fs::path& link, const fs::path& program)
 {
     std::error_code error;

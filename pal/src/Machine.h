@@ -1,30 +1,30 @@
 // The folders of the machine root.
 #pragma once
 
+#include <windows.h>
+
 #include <filesystem>
 #include <optional>
 #include <system_error>
 
-#include <windows.h>
-
 namespace Pal
 {
 
-// Makes whatever of the machine's folders is missing.
+// Creates the missing folders and links of the machine.
 std::error_code CreateMachine(const std::filesystem::path& root);
 
-// Makes the machine that the environment names, and puts its programs within reach.
+// Creates the machine that the environment names and puts its system folder on the $PATH.
 DWORD EnterMachine();
 
-// Puts the machine's system folder first on this process's $PATH, so that what the process starts
-// by name, in whatever way, comes from this machine. The system folder of any other machine goes.
+// Puts the machine's system folder first in this process's $PATH, so that QProcess and child
+// processes start this machine's programs too. System folders of other machines are removed.
 void PutSystemFolderOnPath(const std::filesystem::path& root);
 
 std::filesystem::path RegistryFolder(const std::filesystem::path& root);
 
 std::filesystem::path MutexFolder(const std::filesystem::path& root);
 
-// Where schtasks keeps the tasks.
+// The folder in which schtasks stores the tasks.
 std::filesystem::path TaskFolder(const std::filesystem::path& root);
 
 // The folder for one of the CSIDL_ numbers, if the machine has it.

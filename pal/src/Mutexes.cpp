@@ -1,19 +1,9 @@
-// Named mutexes, as signs for other processes that something is going on.
+// Named mutexes, by which a process tells others that it is running.
 //
-// A name is a file of the machine, and whoever has a handle holds a shared lock on that file. So a
-// mutex goes with the process that holds it, however that ends. A second lock makes looking for
-// holders and becoming one a single step.
+// A mutex is a file of the machine; each handle holds a shared lock on it, which the system
+// releases when the process ends. A second lock makes the test for other handles and the new
+// handle's lock one atomic step.
 #include <windows.h>
-
-#include <cerrno>
-#include <string_view>
-
-#include <QUrl>
-
-#include <fcntl.h>
-#include <sys/file.h>
-
-#include <Pal.h>
 
 #include "ErrorMapping.h"
 #include "Faults.h"
@@ -22,6 +12,16 @@
 #include "LastError.h"
 #include "Machine.h"
 #include "WideText.h"
+
+#include <QUrl>
+
+#include <Pal.h>
+
+#include <cerrno>
+#include <string_view>
+
+#include <fcntl.h>
+#include <sys/file.h>
 
 namespace Pal
 {
@@ -34,13 +34,15 @@ namespace fs = std::filesystem;
 class Mutex : public OpenObject
 {
 public:
-    Mutex(std::string name, Descriptor file) : m_name(std::move(name)), m_file(std::move(file)) {}
+    Mutex(std::string fileName, Descriptor lock) : name(std::move(fileName)), file(std::move(lock))
+    {
+    }
 
-    std::string Name() const override { return "mutex " + m_name; }
+    std::string Name() const override { return "mutex " + name; }
 
 private:
-    const std::string m_name;
-    const Descriptor m_file;
+    const std::string name;
+    const Descriptor file;
 };
 
 DWORD FileNameOf(LPCWSTR name, std::string& fileName)

@@ -1,11 +1,11 @@
 // A file behind a HANDLE.
 #pragma once
 
+#include "HandleTable.h"
+
 #include <string>
 
 #include <sys/stat.h>
-
-#include "HandleTable.h"
 
 namespace Pal
 {
@@ -13,29 +13,29 @@ namespace Pal
 class OpenFile : public OpenObject
 {
 public:
-    // Takes over the descriptor.
-    OpenFile(int descriptor, std::string path, DWORD access, DWORD shareMode);
+    // Owns the descriptor.
+    OpenFile(int opened, std::string name, DWORD rights, DWORD sharing);
     ~OpenFile() override;
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
 
-    std::string Name() const override { return m_path; }
+    std::string Name() const override { return path; }
     DWORD Close() override;
 
-    // Whether the share modes forbid that both are open at once.
+    // Whether the share modes of one forbid the access of the other.
     bool Excludes(const OpenFile& other) const;
 
-    bool Allows(DWORD access) const { return (m_access & access) != 0; }
-    int Descriptor() const { return m_descriptor; }
-    // As it was when it was opened; all zero where the system did not tell.
-    const struct stat& Status() const { return m_status; }
+    bool Allows(DWORD right) const { return (access & right) != 0; }
+    int Descriptor() const { return descriptor; }
+    // The status when the file was opened; all zero if fstat failed.
+    const struct stat& Status() const { return status; }
 
 private:
-    int m_descriptor;
-    const std::string m_path;
-    const DWORD m_access;
-    const DWORD m_shareMode;
-    struct stat m_status = {};
+    int descriptor;
+    const std::string path;
+    const DWORD access;
+    const DWORD shareMode;
+    struct stat status = {};
 };
 
 } // namespace Pal

@@ -1,15 +1,15 @@
 #include <shlobj.h>
 
-#include <algorithm>
+#include "ErrorMapping.h"
+#include "Faults.h"
+#include "LastError.h"
+#include "Machine.h"
 
 #include <QString>
 
 #include <Pal.h>
 
-#include "ErrorMapping.h"
-#include "Faults.h"
-#include "LastError.h"
-#include "Machine.h"
+#include <algorithm>
 
 namespace Pal
 {
@@ -37,11 +37,11 @@ BOOL CopyFolder(int csidl, LPWSTR path)
 
 } // namespace Pal
 
-// Keeps:   the path without a separator at its end; FALSE and an empty text for a path of more
-//          than 259 characters and for a folder that is not there.
-// Differs: the folders lie under the machine root and are always made with it, so create changes
-//          nothing; "/" separates. A failure sets the last error.
-// Refuses: every number that shlobj.h does not name, flags in it included.
+// Keeps:   the path without a separator at its end; FALSE and an empty text for a path of more than
+//          259 characters and for a folder that does not exist.
+// Differs: the folders are below the machine root and are always created with it, so create changes
+//          nothing; the separator is "/". A failure sets the last error.
+// Refuses: every number that shlobj.h does not name, including flags.
 BOOL SHGetSpecialFolderPathW(HWND, LPWSTR path, int csidl, BOOL)
 {
     if (!path)

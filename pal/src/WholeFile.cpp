@@ -1,5 +1,8 @@
 #include "WholeFile.h"
 
+#include "Descriptor.h"
+#include "ErrorMapping.h"
+
 #include <atomic>
 #include <cerrno>
 #include <csignal>
@@ -10,9 +13,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "Descriptor.h"
-#include "ErrorMapping.h"
-
 namespace Pal
 {
 
@@ -21,20 +21,20 @@ namespace
 
 namespace fs = std::filesystem;
 
-// What the names of temporary files for this one begin with; the process's number follows.
+// Prefix of the temporary files for a path; the number of the writing process follows.
 std::string TemporaryPrefix(const std::string& path)
 {
     return path + ".tmp-";
 }
 
-// A name of its own in the same folder, for each call of each process.
+// A different name in the same folder for every call of every process.
 std::string TemporaryName(const std::string& path)
 {
     static std::atomic<unsigned> number = 0;
     return TemporaryPrefix(path) + std::to_string(getpid()) + "-" + std::to_string(++number);
 }
 
-// Deletes what processes that were killed left unfinished.
+// Deletes temporary files of processes that no longer exist.
 void RemoveLeftovers(const std::string& path)
 {
     const std::string prefix = TemporaryPrefix(path);

@@ -1,14 +1,14 @@
-// Files that are read and written as one piece.
+// Reads and writes files as a whole.
 #pragma once
 
-#include <string>
-
 #include <windows.h>
+
+#include <string>
 
 namespace Pal
 {
 
-// Puts a complete file in the place of whatever bears the name, or leaves everything as it was.
+// Replaces the file, or changes nothing on failure.
 DWORD WriteWholeFile(const std::string& path, const std::string& bytes);
 
 DWORD ReadWholeFile(const std::string& path, std::string& bytes);

@@ -1,13 +1,13 @@
-// cmd.exe /C <command line>: runs one program or ".bat" and ends with its exit code; 1 when it
-// cannot be started. Its own commands, pipes and redirections are not there.
-#include <algorithm>
-#include <cstdio>
-#include <string>
-
+// cmd.exe /C <command line>: runs one program or ".bat" and exits with its exit code, or with 1 if
+// it cannot be started. Built-in commands, pipes and redirections are not supported.
 #include <QString>
 #include <QStringList>
 
 #include <windows.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
 
 namespace
 {
@@ -18,7 +18,8 @@ bool IsFile(const QString& name)
     return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-// Exactly two quotes around the name of a file that holds a blank, and nothing special, stay.
+// The quotes are kept if there are exactly two, around the name of an existing file that contains a
+// blank and no special character.
 bool KeepsItsQuotes(const QString& text)
 {
     const QString inside = text.mid(1, text.lastIndexOf('"') - 1);
@@ -28,7 +29,7 @@ bool KeepsItsQuotes(const QString& text)
            inside.contains(' ') && IsFile(inside);
 }
 
-// A leading quote goes together with the last one, whatever stands behind that.
+// Removes a leading quote and the last one, even if text follows that.
 QString WithoutOuterQuotes(QString text)
 {
     if (!text.startsWith('"') || KeepsItsQuotes(text))

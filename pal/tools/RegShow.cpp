@@ -1,4 +1,8 @@
-// Prints the registry of a machine root for people: one block per key, keys sorted.
+// Prints the registry of a machine root in readable form: one block per key, keys sorted.
+#include <QString>
+
+#include <Pal.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -7,10 +11,6 @@
 #include <stdexcept>
 #include <string>
 #include <vector>
-
-#include <QString>
-
-#include <Pal.h>
 
 namespace
 {
@@ -52,7 +52,7 @@ std::string TypeName(DWORD type)
     }
 }
 
-// Texts of a list are parted by " | "; a control character shows as its number.
+// Texts of a list are separated by " | "; a control character is shown by its number.
 std::string ShownText(const std::vector<BYTE>& data)
 {
     std::wstring text(data.size() / sizeof(wchar_t), L'\0');
@@ -162,7 +162,7 @@ void PrintBlock(const std::string& path, const std::vector<Value>& values)
     std::printf("\n");
 }
 
-// A key that only leads to others has no block of its own.
+// A key without values has a block only if it has no sub-keys either.
 void PrintKey(HKEY parent, const std::wstring& name, const std::string& path)
 {
     HKEY key = nullptr;

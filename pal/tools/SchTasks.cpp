@@ -6,9 +6,8 @@
 //
 // Exit codes: 0 done, 1 not. Names ignore case. Nobody is ever asked: /create without /f fails for
 // a task that exists. Every other schedule, level and option is refused.
-#include <cstdio>
-#include <filesystem>
-#include <stdexcept>
+#include "Machine.h"
+#include "WholeFile.h"
 
 #include <QMap>
 #include <QString>
@@ -17,8 +16,9 @@
 
 #include <Pal.h>
 
-#include "Machine.h"
-#include "WholeFile.h"
+#include <cstdio>
+#include <filesystem>
+#include <stdexcept>
 
 namespace
 {

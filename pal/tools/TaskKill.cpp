@@ -1,14 +1,15 @@
-// taskkill /IM <image name> /F: ends every process of this user whose executable has that name.
+// taskkill /IM <image name> /F: terminates every process of this user whose executable has that
+// name.
 //
-// Exit codes: 0 when all of them were ended, 128 when there is none, 1 for anything else. Refuses
-// to ask a process politely (a call without /F) and every other option.
-#include <cstdio>
-#include <vector>
-
+// Exit codes: 0 if all of them were terminated, 128 if there is none, 1 for every other failure.
+// Refuses calls without /F, which would ask a process to close, and every other option.
 #include <QFileInfo>
 #include <QStringList>
 
 #include <psapi.h>
+
+#include <cstdio>
+#include <vector>
 
 namespace
 {
@@ -46,7 +47,7 @@ QString ImageName(HANDLE process)
     return QFileInfo(QString::fromWCharArray(path.data(), static_cast<int>(length))).fileName();
 }
 
-// A process that ended by itself in the meantime is ended as well.
+// A process that ended by itself meanwhile counts as terminated.
 bool End(HANDLE process, DWORD id, const QString& name)
 {
     if (!TerminateProcess(process, 1) && WaitForSingleObject(process, 0) != WAIT_OBJECT_0)
@@ -84,7 +85,7 @@ ExitCode EndAll(const QString& name)
     return found == 0 ? noSuchProcess : ended == found ? allEnded : failed;
 }
 
-// The image name, or nothing for arguments that are not understood.
+// The image name, or nothing for invalid arguments.
 QString NameIn(const QStringList& words)
 {
     QString name;

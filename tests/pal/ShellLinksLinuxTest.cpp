@@ -42,7 +42,7 @@ protected:
                    : L"(refused)";
     }
 
-    const ComThread m_com;
+    const ComThread comThread;
 };
 
 constexpr wchar_t savedTexts[] = L"\\opt\\\u00fcbung\\quill.exe|\\opt\\\u00fcbung|\"a b\" c";

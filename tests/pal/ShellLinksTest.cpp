@@ -17,7 +17,7 @@ protected:
         return Target(name);
     }
 
-    const ComThread m_com;
+    const ComThread comThread;
 };
 
 TEST_F(ShellLinksTest, WhatWasSavedIsLoadedByAFreshLink)

@@ -16,17 +16,17 @@ protected:
         ChildProcesses::SetUp();
         wchar_t folder[MAX_PATH] = L"";
         ASSERT_TRUE(SHGetSpecialFolderPathW(nullptr, folder, CSIDL_SYSTEM, FALSE));
-        m_cmd = std::wstring(folder) + L"\\cmd.exe";
+        cmdPath = std::wstring(folder) + L"\\cmd.exe";
     }
 
     long long RunCmd(const std::wstring& arguments) const
     {
-        const StartResult cmd = Start(m_cmd + L" " + arguments);
+        const StartResult cmd = Start(cmdPath + L" " + arguments);
         EXPECT_EQ(cmd.error, DWORD{ERROR_SUCCESS});
         return ExitCode(cmd.process);
     }
 
-    std::wstring m_cmd;
+    std::wstring cmdPath;
 };
 
 TEST_F(SystemProgramsTest, TaskkillEndsEveryProcessOfAnImageNameAndNoOther)

@@ -18,23 +18,23 @@
 class TestHandle
 {
 public:
-    explicit TestHandle(HANDLE handle = nullptr) : m_handle(handle) {}
-    TestHandle(TestHandle&& other) noexcept : m_handle(std::exchange(other.m_handle, nullptr)) {}
+    explicit TestHandle(HANDLE owned = nullptr) : handle(owned) {}
+    TestHandle(TestHandle&& other) noexcept : handle(std::exchange(other.handle, nullptr)) {}
     ~TestHandle() { Close(); }
 
-    HANDLE Get() const { return m_handle; }
+    HANDLE Get() const { return handle; }
 
     void Close()
     {
-        if (m_handle)
+        if (handle)
         {
-            EXPECT_TRUE(CloseHandle(m_handle));
+            EXPECT_TRUE(CloseHandle(handle));
         }
-        m_handle = nullptr;
+        handle = nullptr;
     }
 
 private:
-    HANDLE m_handle;
+    HANDLE handle;
 };
 
 struct StartResult

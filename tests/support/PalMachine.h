@@ -21,32 +21,32 @@ protected:
 
     void SetUp() override
     {
-        ASSERT_TRUE(m_folder.isValid());
-        ASSERT_TRUE(QDir(m_folder.path()).mkdir("files"));
-        m_machine = std::make_unique<MachineRoot>(MachineFolder());
+        ASSERT_TRUE(testFolder.isValid());
+        ASSERT_TRUE(QDir(testFolder.path()).mkdir("files"));
+        machineRoot = std::make_unique<MachineRoot>(MachineFolder());
         ASSERT_EQ(RegCreateKeyExW(HKEY_CURRENT_USER, keyPath, 0, nullptr, REG_OPTION_NON_VOLATILE,
-                      KEY_ALL_ACCESS, nullptr, &m_key, nullptr),
+                      KEY_ALL_ACCESS, nullptr, &ownKey, nullptr),
             ERROR_SUCCESS);
     }
 
     void TearDown() override
     {
-        EXPECT_EQ(RegCloseKey(m_key), ERROR_SUCCESS);
-        m_machine.reset();
+        EXPECT_EQ(RegCloseKey(ownKey), ERROR_SUCCESS);
+        machineRoot.reset();
     }
 
-    HKEY Key() const { return m_key; }
+    HKEY Key() const { return ownKey; }
 
     // A file or folder in the test's own folder.
     std::wstring PathOf(const std::wstring& name) const
     {
-        return (m_folder.path() + "/files/").toStdWString() + name;
+        return (testFolder.path() + "/files/").toStdWString() + name;
     }
 
-    QString MachineFolder() const { return m_folder.path() + "/machine"; }
+    QString MachineFolder() const { return testFolder.path() + "/machine"; }
 
 private:
-    QTemporaryDir m_folder;
-    std::unique_ptr<MachineRoot> m_machine;
-    HKEY m_key = nullptr;
+    QTemporaryDir testFolder;
+    std::unique_ptr<MachineRoot> machineRoot;
+    HKEY ownKey = nullptr;
 };

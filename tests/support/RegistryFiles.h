@@ -14,10 +14,10 @@ public:
     WarningLog()
     {
         Lines().clear();
-        m_former = qInstallMessageHandler(
+        former = qInstallMessageHandler(
             [](QtMsgType, const QMessageLogContext&, const QString& text) { Lines() += text; });
     }
-    ~WarningLog() { qInstallMessageHandler(m_former); }
+    ~WarningLog() { qInstallMessageHandler(former); }
     WarningLog(const WarningLog&) = delete;
     WarningLog& operator=(const WarningLog&) = delete;
 
@@ -28,7 +28,7 @@ public:
     }
 
 private:
-    QtMessageHandler m_former;
+    QtMessageHandler former;
 };
 
 class RegistryFiles : public PalMachine

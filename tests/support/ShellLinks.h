@@ -25,47 +25,46 @@ public:
     TestLink()
     {
         EXPECT_EQ(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW,
-                      reinterpret_cast<void**>(&m_link)),
+                      reinterpret_cast<void**>(&link)),
             S_OK);
-        EXPECT_EQ(
-            m_link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&m_file)), S_OK);
+        EXPECT_EQ(link->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(&file)), S_OK);
     }
     ~TestLink()
     {
-        m_file->Release();
-        m_link->Release();
+        file->Release();
+        link->Release();
     }
     TestLink(const TestLink&) = delete;
     TestLink& operator=(const TestLink&) = delete;
 
-    IShellLinkW& Link() { return *m_link; }
-    IPersistFile& File() { return *m_file; }
+    IShellLinkW& Link() { return *link; }
+    IPersistFile& File() { return *file; }
 
-    HRESULT Save(const std::wstring& path) { return m_file->Save(path.c_str(), TRUE); }
-    HRESULT Load(const std::wstring& path) { return m_file->Load(path.c_str(), STGM_READ); }
+    HRESULT Save(const std::wstring& path) { return file->Save(path.c_str(), TRUE); }
+    HRESULT Load(const std::wstring& path) { return file->Load(path.c_str(), STGM_READ); }
 
     std::wstring Path()
     {
         wchar_t text[2048] = L"";
-        m_link->GetPath(text, 2048, nullptr, SLGP_RAWPATH);
+        link->GetPath(text, 2048, nullptr, SLGP_RAWPATH);
         return text;
     }
     std::wstring WorkingDirectory()
     {
         wchar_t text[2048] = L"";
-        m_link->GetWorkingDirectory(text, 2048);
+        link->GetWorkingDirectory(text, 2048);
         return text;
     }
     std::wstring Arguments()
     {
         wchar_t text[2048] = L"";
-        m_link->GetArguments(text, 2048);
+        link->GetArguments(text, 2048);
         return text;
     }
 
 private:
-    IShellLinkW* m_link = nullptr;
-    IPersistFile* m_file = nullptr;
+    IShellLinkW* link = nullptr;
+    IPersistFile* file = nullptr;
 };
 
 inline std::wstring WithBackslashes(std::wstring path)

@@ -1,15 +1,15 @@
-#include "Classes.h"
+#include "com/Classes.h"
+
+#include "com/DefaultApps.h"
+#include "com/ShellLink.h"
+
+#include <Pal.h>
+#include <shlobj.h>
 
 #include <algorithm>
 #include <cstring>
 #include <mutex>
 #include <vector>
-
-#include <Pal.h>
-#include <shlobj.h>
-
-#include "DefaultApps.h"
-#include "ShellLink.h"
 
 namespace Pal
 {
@@ -31,24 +31,25 @@ struct ClassList
 
 ClassList& Classes()
 {
-    static ClassList& classes = *new ClassList; // outlives every static object that makes calls
+    static ClassList& classes =
+        *new ClassList; // never destroyed: calls may come from static destructors
     return classes;
 }
 
 } // namespace
 
 ScopedClass::ScopedClass(REFCLSID classId, std::function<IUnknown*()> factory)
-    : m_state(new State{classId, std::move(factory)})
+    : state(new State{classId, std::move(factory)})
 {
     const std::lock_guard lock(Classes().mutex);
-    Classes().registered.push_back(m_state.get());
+    Classes().registered.push_back(state.get());
 }
 
 ScopedClass::~ScopedClass()
 {
     const std::lock_guard lock(Classes().mutex);
     auto& registered = Classes().registered;
-    registered.erase(std::find(registered.begin(), registered.end(), m_state.get()));
+    registered.erase(std::find(registered.begin(), registered.end(), state.get()));
 }
 
 std::optional<ClassFactory> FindClass(REFCLSID classId)

@@ -1,18 +1,18 @@
-// The classes that CoCreateInstance knows.
+// The classes of CoCreateInstance.
 #pragma once
+
+#include <objbase.h>
 
 #include <functional>
 #include <optional>
 
-#include <objbase.h>
-
 namespace Pal
 {
 
-// Makes an object with one reference.
+// Returns an object with one reference.
 using ClassFactory = std::function<IUnknown*()>;
 
-// The factory that tests registered last for the class, else the layer's own.
+// The factory that a test registered last for the class, else the layer's own.
 std::optional<ClassFactory> FindClass(REFCLSID classId);
 
 } // namespace Pal

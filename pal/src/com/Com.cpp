@@ -1,9 +1,9 @@
 #include <objbase.h>
 
-#include <cstdlib>
+#include "com/Classes.h"
+#include "com/ComFaults.h"
 
-#include "Classes.h"
-#include "ComFaults.h"
+#include <cstdlib>
 
 namespace
 {
@@ -12,7 +12,7 @@ thread_local unsigned initializations = 0;
 
 } // namespace
 
-// Keeps:   S_OK for the first call on a thread, S_FALSE for any other, and each of them wants its
+// Keeps:   S_OK for the first call on a thread, S_FALSE for every other; each needs a
 //          CoUninitialize.
 // Differs: there are no apartments and no message loop; a thread may use the objects of another.
 // Refuses: a reserved argument.
@@ -26,7 +26,7 @@ HRESULT CoInitialize(LPVOID reserved)
 }
 
 // Keeps:   undoes one CoInitialize of this thread.
-// Differs: objects that still live stay usable. It cannot fail and is not counted.
+// Differs: existing objects stay usable. It cannot fail and is not counted.
 void CoUninitialize()
 {
     if (initializations > 0)
@@ -34,10 +34,10 @@ void CoUninitialize()
 }
 
 // Keeps:   CO_E_NOTINITIALIZED on a thread without COM, REGDB_E_CLASSNOTREG for an unknown class,
-//          E_NOINTERFACE; a failure gives a null pointer.
+//          E_NOINTERFACE; a failure sets a null pointer.
 // Differs: the classes are the shell link, those of default applications, and those that tests
-//          register; every one of them runs in the process, so the context only has to ask for that
-//          among others.
+//          register. All of them run in the process, so the context must contain
+//          CLSCTX_INPROC_SERVER.
 // Refuses: aggregation.
 HRESULT CoCreateInstance(
     REFCLSID classId, IUnknown* outer, DWORD context, REFIID iid, LPVOID* object)
@@ -60,15 +60,14 @@ HRESULT CoCreateInstance(
     return result;
 }
 
-// Keeps:   frees what a method handed out; a null pointer is nothing. It cannot fail.
+// Keeps:   frees memory that a method returned; null is ignored. It cannot fail.
 void CoTaskMemFree(LPVOID memory)
 {
     std::free(memory);
 }
 
-// Keeps:   the arguments that it refuses.
+// Keeps:   E_INVALIDARG for a null object or a reserved argument.
 // Differs: there are no windows, so nothing changes.
-// Refuses: no object, and a reserved argument.
 HRESULT CoAllowSetForegroundWindow(IUnknown* object, LPVOID reserved)
 {
     if (const auto fault = Pal::InjectedResult(__func__))

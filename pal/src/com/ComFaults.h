@@ -1,8 +1,8 @@
 #pragma once
 
-#include <optional>
+#include "Faults.h"
 
-#include "../Faults.h"
+#include <optional>
 
 namespace Pal
 {

@@ -1,15 +1,15 @@
-#include "DefaultApps.h"
+#include "com/DefaultApps.h"
 
-#include <atomic>
-#include <fstream>
+#include "Machine.h"
+#include "com/ComFaults.h"
 
 #include <QString>
 
 #include <Pal.h>
 #include <shobjidl.h>
 
-#include "../Machine.h"
-#include "ComFaults.h"
+#include <atomic>
+#include <fstream>
 
 namespace Pal
 {
@@ -22,7 +22,7 @@ constexpr IID activationManagerId = {
 constexpr IID associationRegistrationId = {
     0x4E530B0A, 0xE611, 0x4C77, {0xA3, 0xAC, 0x90, 0x31, 0xD0, 0x22, 0x28, 0x1B}};
 
-// An object of one interface that counts its references.
+// An object with one interface and a reference count.
 template <typename Interface, const IID& iid>
 class Object : public Interface
 {
@@ -39,20 +39,20 @@ public:
             AddRef();
         return isKnown ? S_OK : E_NOINTERFACE;
     }
-    ULONG AddRef() override { return ++m_references; }
+    ULONG AddRef() override { return ++references; }
     ULONG Release() override
     {
-        const ULONG left = --m_references;
+        const ULONG left = --references;
         if (left == 0)
             delete this;
         return left;
     }
 
 private:
-    std::atomic<ULONG> m_references = 1;
+    std::atomic<ULONG> references = 1;
 };
 
-HRESULT WriteDown(const char* what, LPCWSTR subject, LPCWSTR details)
+HRESULT Record(const char* what, LPCWSTR subject, LPCWSTR details)
 {
     const std::filesystem::path root = MachineRoot();
     CreateMachine(root);
@@ -66,8 +66,8 @@ class ActivationManager final : public Object<IApplicationActivationManager, act
 {
 public:
     // Keeps:   S_OK with a process id.
-    // Differs: nothing is started; the request is written down.
-    // Refuses: no application id, and no place for the process id.
+    // Differs: nothing is started and the id is 0; the request is recorded.
+    // Refuses: a null application id or result pointer.
     HRESULT ActivateApplication(
         LPCWSTR appId, LPCWSTR arguments, ACTIVATEOPTIONS, DWORD* processId) override
     {
@@ -76,10 +76,10 @@ public:
         if (!appId || !processId)
             return E_INVALIDARG;
         *processId = 0;
-        return WriteDown("activate", appId, arguments);
+        return Record("activate", appId, arguments);
     }
 
-    // Refuses: these, which nobody calls.
+    // Refuses: the methods below, which the engine does not call.
     HRESULT ActivateForFile(LPCWSTR, IShellItemArray*, LPCWSTR, DWORD*) override
     {
         return E_NOTIMPL;
@@ -92,8 +92,8 @@ class AssociationRegistration final
 {
 public:
     // Keeps:   S_OK for an application and an extension.
-    // Differs: nothing changes; the request is written down, whether or not the application is
-    // known. Refuses: no name, no extension, and what is no extension.
+    // Differs: nothing changes; the request is recorded, whether or not the application exists.
+    // Refuses: a null name or extension, and every other association type.
     HRESULT SetAppAsDefault(LPCWSTR appName, LPCWSTR set, ASSOCIATIONTYPE type) override
     {
         if (const auto fault =
@@ -101,10 +101,10 @@ public:
             return *fault;
         if (!appName || !set || type != AT_FILEEXTENSION)
             return E_INVALIDARG;
-        return WriteDown("default", appName, set);
+        return Record("default", appName, set);
     }
 
-    // Refuses: these, which nobody calls.
+    // Refuses: the methods below, which the engine does not call.
     HRESULT QueryCurrentDefault(LPCWSTR, ASSOCIATIONTYPE, ASSOCIATIONLEVEL, LPWSTR*) override
     {
         return E_NOTIMPL;

@@ -1,5 +1,5 @@
-// The objects that start packaged applications and choose default ones. They do neither: they write
-// down what was asked of them, a line each, in "default-apps.txt" of the machine root:
+// The objects that on Windows start packaged applications and choose default ones. Here they only
+// append each request as a line to "default-apps.txt" in the machine root:
 //
 //   activate<tab>application id<tab>arguments
 //   default<tab>application<tab>extension

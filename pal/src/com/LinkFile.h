@@ -1,4 +1,4 @@
-// The Shell Link Binary File Format, as far as this layer keeps links.
+// The part of the Shell Link Binary File Format that this layer uses.
 #pragma once
 
 #include <optional>
@@ -14,11 +14,11 @@ struct LinkContent
     std::u16string arguments;
 };
 
-// The file for a link, or nothing when a text is too long for the format.
+// The file for a link, or nothing if a text is too long for the format.
 std::optional<std::string> FormatLinkFile(const LinkContent& content);
 
-// What a file says, or nothing when it is no link. Of a target that the file keeps as 8-bit text
-// only, that text is taken as UTF-8; an item list is passed over.
+// The content of a link file, or nothing if the bytes are not one. A target stored as 8-bit text
+// only is read as UTF-8; an item list is skipped.
 std::optional<LinkContent> ParseLinkFile(const std::string& bytes);
 
 } // namespace Pal

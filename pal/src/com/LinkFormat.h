@@ -25,7 +25,7 @@ enum LinkFlag : uint32_t
 
 constexpr uint32_t showNormal = 1;
 
-// Where the fields of the header and of the link information lie.
+// Offsets of fields in the header and in the link information.
 constexpr size_t classIdOffset = 4;
 constexpr size_t linkFlagsOffset = 20;
 
@@ -37,7 +37,7 @@ constexpr size_t suffixOffset = 24;
 constexpr size_t unicodeLocalPathOffset = 28;
 constexpr size_t unicodeSuffixOffset = 32;
 
-constexpr uint32_t volumeSize = 0x12; // one character of label and one byte that keeps it even
+constexpr uint32_t volumeSize = 0x12; // a label of one character, and padding
 constexpr uint32_t fixedDrive = 3;
 constexpr uint32_t volumeLabelOffset = 0x10;
 

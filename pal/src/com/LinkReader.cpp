@@ -1,10 +1,9 @@
-#include "LinkFile.h"
-
-#include <stdexcept>
+#include "com/LinkFile.h"
+#include "com/LinkFormat.h"
 
 #include <QString>
 
-#include "LinkFormat.h"
+#include <stdexcept>
 
 namespace Pal
 {
@@ -14,19 +13,19 @@ namespace
 
 using namespace LinkFormat;
 
-// Reads of places that do not exist throw.
+// Throws std::out_of_range for an offset outside the bytes.
 class ByteView
 {
 public:
-    explicit ByteView(std::string_view bytes) : m_bytes(bytes) {}
+    explicit ByteView(std::string_view viewed) : bytes(viewed) {}
 
     uint32_t Number16(size_t offset) const { return Byte(offset) | Byte(offset + 1) << 8; }
     uint32_t Number32(size_t offset) const { return Number16(offset) | Number16(offset + 2) << 16; }
     std::string_view Part(size_t offset, size_t size) const
     {
-        if (offset > m_bytes.size() || size > m_bytes.size() - offset)
-            throw std::out_of_range("the link ends too early");
-        return m_bytes.substr(offset, size);
+        if (offset > bytes.size() || size > bytes.size() - offset)
+            throw std::out_of_range("the link is truncated");
+        return bytes.substr(offset, size);
     }
     std::u16string Text16(size_t offset, size_t count) const
     {
@@ -63,7 +62,7 @@ private:
         return static_cast<unsigned char>(Part(offset, 1).front());
     }
 
-    std::string_view m_bytes;
+    std::string_view bytes;
 };
 
 std::u16string TargetOf(const ByteView& linkInfo)
@@ -87,12 +86,12 @@ std::u16string TakeText(const ByteView& file, size_t& position, bool unicode)
     return text;
 }
 
-// Gives a text of the file the place that its flag stands for; the others have none.
-std::u16string& PlaceOf(LinkContent& content, LinkFlag flag, std::u16string& noPlace)
+// The field for the text of a flag; ignored for a text that has no field.
+std::u16string& PlaceOf(LinkContent& content, LinkFlag flag, std::u16string& ignored)
 {
     if (flag == HasWorkingFolder)
         return content.workingFolder;
-    return flag == HasArguments ? content.arguments : noPlace;
+    return flag == HasArguments ? content.arguments : ignored;
 }
 
 LinkContent Parse(const ByteView& file)
@@ -113,9 +112,9 @@ LinkContent Parse(const ByteView& file)
     for (const LinkFlag flag :
         {HasName, HasRelativePath, HasWorkingFolder, HasArguments, HasIconLocation})
     {
-        std::u16string noPlace;
+        std::u16string ignored;
         if (flags & flag)
-            PlaceOf(content, flag, noPlace) = TakeText(file, position, flags & IsUnicode);
+            PlaceOf(content, flag, ignored) = TakeText(file, position, flags & IsUnicode);
     }
     return content;
 }

@@ -1,10 +1,9 @@
-#include "LinkFile.h"
-
-#include <limits>
+#include "com/LinkFile.h"
+#include "com/LinkFormat.h"
 
 #include <QString>
 
-#include "LinkFormat.h"
+#include <limits>
 
 namespace Pal
 {
@@ -19,8 +18,8 @@ class ByteWriter
 public:
     void Number16(uint32_t number)
     {
-        m_bytes += static_cast<char>(number & 0xFF);
-        m_bytes += static_cast<char>((number >> 8) & 0xFF);
+        bytes += static_cast<char>(number & 0xFF);
+        bytes += static_cast<char>((number >> 8) & 0xFF);
     }
     void Number32(uint32_t number)
     {
@@ -32,13 +31,13 @@ public:
         for (const char16_t unit : text)
             Number16(unit);
     }
-    void Raw(std::string_view bytes) { m_bytes += bytes; }
-    void Zeros(size_t count) { m_bytes.append(count, '\0'); }
+    void Raw(std::string_view part) { bytes += part; }
+    void Zeros(size_t count) { bytes.append(count, '\0'); }
 
-    const std::string& Bytes() const { return m_bytes; }
+    const std::string& Bytes() const { return bytes; }
 
 private:
-    std::string m_bytes;
+    std::string bytes;
 };
 
 std::string Volume()
@@ -52,12 +51,12 @@ std::string Volume()
     return writer.Bytes();
 }
 
-// The path stands in it twice: as 8-bit text for old readers, and as UTF-16. Each has an empty
-// suffix of its own.
+// Stores the path twice, each time with an empty suffix: as 8-bit text for old readers, and as
+// UTF-16.
 std::string LinkInfo(const std::u16string& target)
 {
     std::string narrow = QString::fromStdU16String(target).toStdString();
-    narrow.resize((narrow.size() + 2) & ~size_t{1}); // closing zero, and the rest stays even
+    narrow.resize((narrow.size() + 2) & ~size_t{1}); // closing zero, padded to an even size
     const auto narrowAt = static_cast<uint32_t>(linkInfoHeaderSize + volumeSize);
     const auto wideAt = static_cast<uint32_t>(narrowAt + narrow.size() + 2);
     const auto wideEnd = static_cast<uint32_t>(wideAt + (target.size() + 1) * sizeof(char16_t));
@@ -92,7 +91,7 @@ std::string Header(uint32_t flags)
     writer.Number32(headerSize);
     writer.Raw(classId);
     writer.Number32(flags);
-    writer.Zeros(36); // what the target was like, and its icon's number
+    writer.Zeros(36); // attributes, times and size of the target, and the icon's number
     writer.Number32(showNormal);
     writer.Zeros(12); // no hot key
     return writer.Bytes();

@@ -6,13 +6,13 @@
 namespace
 {
 
-// The text's length in bytes stands before it; the place keeps what follows aligned.
+// The text's length in bytes precedes it, in a field that keeps the text aligned.
 constexpr size_t lengthPlace = sizeof(uint64_t);
 
 } // namespace
 
 // Keeps:   a copy of the text, to be freed with SysFreeString; a null pointer gives a null pointer.
-// Differs: the length before the text takes eight bytes and is for nobody's eyes.
+// Differs: the length before the text has eight bytes, and no call returns it.
 BSTR SysAllocString(const OLECHAR* text)
 {
     if (!text)
@@ -27,21 +27,21 @@ BSTR SysAllocString(const OLECHAR* text)
     return copy;
 }
 
-// Keeps:   frees such a text; a null pointer is nothing. It cannot fail.
+// Keeps:   frees the text; null is ignored. It cannot fail.
 void SysFreeString(BSTR text)
 {
     if (text)
         std::free(reinterpret_cast<char*>(text) - lengthPlace);
 }
 
-// Keeps:   the value becomes empty, whatever stood there before.
+// Keeps:   the value becomes empty, whatever it held before.
 void VariantInit(VARIANT* value)
 {
     *value = VARIANT();
 }
 
 // Keeps:   a text is freed and the value becomes empty.
-// Refuses: every kind of value but texts, numbers and nothing.
+// Refuses: every type but texts, numbers and empty values.
 HRESULT VariantClear(VARIANT* value)
 {
     if (value->vt != VT_EMPTY && value->vt != VT_I4 && value->vt != VT_BSTR)

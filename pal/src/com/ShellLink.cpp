@@ -1,12 +1,12 @@
-#include "ShellLink.h"
+#include "com/ShellLink.h"
+
+#include "LastError.h"
+#include "WholeFile.h"
+#include "WideText.h"
+#include "com/ComFaults.h"
 
 #include <algorithm>
 #include <cstdlib>
-
-#include "../LastError.h"
-#include "../WholeFile.h"
-#include "../WideText.h"
-#include "ComFaults.h"
 
 namespace Pal
 {
@@ -57,36 +57,36 @@ HRESULT ShellLink::QueryInterface(REFIID iid, void** object)
 
 ULONG ShellLink::AddRef()
 {
-    return ++m_references;
+    return ++references;
 }
 
 ULONG ShellLink::Release()
 {
-    const ULONG left = --m_references;
+    const ULONG left = --references;
     if (left == 0)
         delete this;
     return left;
 }
 
 // Keeps:   S_FALSE and an empty text for a link without a target; a text that does not fit is cut.
-// Refuses: flags other than none and SLGP_RAWPATH, which mean the same here, and file data.
+// Refuses: file data, and every flag but SLGP_RAWPATH, which changes nothing.
 HRESULT ShellLink::GetPath(LPWSTR path, int size, WIN32_FIND_DATAW* data, DWORD flags)
 {
     if (const auto fault = InjectedResult("IShellLinkW::GetPath"))
         return *fault;
     if (data || (flags & ~DWORD{SLGP_RAWPATH}))
         return E_INVALIDARG;
-    const HRESULT result = CopyText(m_content.target, path, size);
-    return result == S_OK && m_content.target.empty() ? S_FALSE : result;
+    const HRESULT result = CopyText(content.target, path, size);
+    return result == S_OK && content.target.empty() ? S_FALSE : result;
 }
 
-// Differs: any text is kept as it is: quotes stay, and a path is not made absolute.
-// Refuses: no text at all.
+// Differs: any text is stored unchanged: quotes are kept, and a path is not made absolute.
+// Refuses: a null text.
 HRESULT ShellLink::SetPath(LPCWSTR path)
 {
     if (const auto fault = InjectedResult("IShellLinkW::SetPath"))
         return *fault;
-    return SetText(m_content.target, path);
+    return SetText(content.target, path);
 }
 
 // Keeps:   a text that does not fit is cut.
@@ -94,16 +94,16 @@ HRESULT ShellLink::GetWorkingDirectory(LPWSTR folder, int size)
 {
     if (const auto fault = InjectedResult("IShellLinkW::GetWorkingDirectory"))
         return *fault;
-    return CopyText(m_content.workingFolder, folder, size);
+    return CopyText(content.workingFolder, folder, size);
 }
 
-// Keeps:   any text is kept as it is.
-// Refuses: no text at all.
+// Keeps:   any text is stored unchanged.
+// Refuses: a null text.
 HRESULT ShellLink::SetWorkingDirectory(LPCWSTR folder)
 {
     if (const auto fault = InjectedResult("IShellLinkW::SetWorkingDirectory"))
         return *fault;
-    return SetText(m_content.workingFolder, folder);
+    return SetText(content.workingFolder, folder);
 }
 
 // Keeps:   a text that does not fit is cut.
@@ -111,16 +111,16 @@ HRESULT ShellLink::GetArguments(LPWSTR arguments, int size)
 {
     if (const auto fault = InjectedResult("IShellLinkW::GetArguments"))
         return *fault;
-    return CopyText(m_content.arguments, arguments, size);
+    return CopyText(content.arguments, arguments, size);
 }
 
-// Keeps:   any text is kept as it is.
-// Refuses: no text at all.
+// Keeps:   any text is stored unchanged.
+// Refuses: a null text.
 HRESULT ShellLink::SetArguments(LPCWSTR arguments)
 {
     if (const auto fault = InjectedResult("IShellLinkW::SetArguments"))
         return *fault;
-    return SetText(m_content.arguments, arguments);
+    return SetText(content.arguments, arguments);
 }
 
 HRESULT ShellLink::GetClassID(CLSID* classId)
@@ -133,18 +133,18 @@ HRESULT ShellLink::GetClassID(CLSID* classId)
     return S_OK;
 }
 
-// Keeps:   S_OK when something was set since the link was made, loaded or saved; S_FALSE else.
+// Keeps:   S_OK if a text was set after the link was created, loaded or saved, else S_FALSE.
 HRESULT ShellLink::IsDirty()
 {
     if (const auto fault = InjectedResult("IPersistFile::IsDirty"))
         return *fault;
-    return m_changed ? S_OK : S_FALSE;
+    return changed ? S_OK : S_FALSE;
 }
 
-// Keeps:   the link becomes what the file says, or stays as it was on a failure: E_FAIL for a file
-//          that is no link, ERROR_FILE_NOT_FOUND as a result when there is none.
-// Differs: a failure sets the last error. The target must be among the link information; an item
-//          list alone leaves the link without one.
+// Keeps:   replaces the link's content, or changes nothing on failure: E_FAIL for a file that is no
+//          link, ERROR_FILE_NOT_FOUND as a result for a missing one.
+// Differs: a failure sets the last error. The target is read from the link information; a link that
+//          has it in the item list only is loaded without a target.
 // Refuses: every mode but STGM_READ.
 HRESULT ShellLink::Load(LPCWSTR fileName, DWORD mode)
 {
@@ -155,18 +155,18 @@ HRESULT ShellLink::Load(LPCWSTR fileName, DWORD mode)
     const HRESULT result = ReadFrom(fileName);
     if (result != S_OK)
         return result;
-    m_fileName = fileName;
-    m_changed = false;
+    currentFile = fileName;
+    changed = false;
     return S_OK;
 }
 
-// Keeps:   the file is replaced as a whole or not at all; with remember it becomes the current
+// Keeps:   replaces the file as a whole, or changes nothing; with remember it becomes the current
 //          file and the link counts as unchanged.
 // Differs: a failure sets the last error. No item list is written, because the machine has no shell
-//          name space; the target stands in the link information alone, as 8-bit text (UTF-8) and
-//          as UTF-16. Windows reads the UTF-16 text. Wine reads the 8-bit text in its own code
-//          page, so there it is right for ASCII targets only.
-// Refuses: saving without a name.
+//          namespace; the target is in the link information only, as 8-bit text (UTF-8) and as
+//          UTF-16. Windows reads the UTF-16 text. Wine reads the 8-bit text in its own code page,
+//          so there only ASCII targets are right.
+// Refuses: a null or empty name.
 HRESULT ShellLink::Save(LPCWSTR fileName, BOOL remember)
 {
     if (const auto fault = InjectedResult("IPersistFile::Save"))
@@ -174,8 +174,8 @@ HRESULT ShellLink::Save(LPCWSTR fileName, BOOL remember)
     const HRESULT result = WriteTo(fileName);
     if (result != S_OK || !remember)
         return result;
-    m_fileName = fileName;
-    m_changed = false;
+    currentFile = fileName;
+    changed = false;
     return S_OK;
 }
 
@@ -189,13 +189,13 @@ HRESULT ShellLink::GetCurFile(LPWSTR* fileName)
     *fileName = nullptr;
     if (const auto fault = InjectedResult("IPersistFile::GetCurFile"))
         return *fault;
-    if (m_fileName.empty())
+    if (currentFile.empty())
         return S_FALSE;
-    const size_t count = m_fileName.size() + 1;
+    const size_t count = currentFile.size() + 1;
     *fileName = static_cast<LPWSTR>(std::malloc(count * sizeof(wchar_t)));
     if (!*fileName)
         return E_OUTOFMEMORY;
-    std::copy_n(m_fileName.c_str(), count, *fileName);
+    std::copy_n(currentFile.c_str(), count, *fileName);
     return S_OK;
 }
 
@@ -204,7 +204,7 @@ HRESULT ShellLink::SetText(std::u16string& field, LPCWSTR text)
     if (!text)
         return E_INVALIDARG;
     field = Utf16FromWide(text);
-    m_changed = true;
+    changed = true;
     return S_OK;
 }
 
@@ -214,7 +214,7 @@ HRESULT ShellLink::WriteTo(LPCWSTR fileName) const
     DWORD error = NativePath(fileName, path);
     if (error != ERROR_SUCCESS)
         return ResultOf(error);
-    const std::optional<std::string> bytes = FormatLinkFile(m_content);
+    const std::optional<std::string> bytes = FormatLinkFile(content);
     if (!bytes)
         return ResultOf(ERROR_FILENAME_EXCED_RANGE);
     error = WriteWholeFile(path, *bytes);
@@ -230,10 +230,10 @@ HRESULT ShellLink::ReadFrom(LPCWSTR fileName)
         error = ReadWholeFile(path, bytes);
     if (error != ERROR_SUCCESS)
         return ResultOf(error);
-    std::optional<LinkContent> content = ParseLinkFile(bytes);
-    if (!content)
+    std::optional<LinkContent> loaded = ParseLinkFile(bytes);
+    if (!loaded)
         return E_FAIL;
-    m_content = std::move(*content);
+    content = std::move(*loaded);
     return S_OK;
 }
 

@@ -1,11 +1,11 @@
 // The object behind CLSID_ShellLink.
 #pragma once
 
-#include <atomic>
+#include "com/LinkFile.h"
 
 #include <shlobj.h>
 
-#include "LinkFile.h"
+#include <atomic>
 
 namespace Pal
 {
@@ -33,7 +33,7 @@ public:
     HRESULT Save(LPCWSTR fileName, BOOL remember) override;
     HRESULT GetCurFile(LPWSTR* fileName) override;
 
-    // Refuses: all of these, which nobody calls.
+    // Refuses: the methods below, which the engine does not call.
     HRESULT GetIDList(ITEMIDLIST**) override { return E_NOTIMPL; }
     HRESULT SetIDList(const ITEMIDLIST*) override { return E_NOTIMPL; }
     HRESULT GetDescription(LPWSTR, int) override { return E_NOTIMPL; }
@@ -55,10 +55,10 @@ private:
     HRESULT WriteTo(LPCWSTR fileName) const;
     HRESULT ReadFrom(LPCWSTR fileName);
 
-    std::atomic<ULONG> m_references = 1;
-    LinkContent m_content;
-    std::wstring m_fileName;
-    bool m_changed = false;
+    std::atomic<ULONG> references = 1;
+    LinkContent content;
+    std::wstring currentFile;
+    bool changed = false;
 };
 
 } // namespace Pal

@@ -1,4 +1,4 @@
-#include "CommandLine.h"
+#include "process/CommandLine.h"
 
 #include <algorithm>
 
@@ -36,8 +36,8 @@ std::wstring TakeProgramWord(std::wstring_view& text)
     return word;
 }
 
-// Backslashes count for themselves unless a quote follows: then two stand for one, and one that is
-// left over takes the quote's meaning away.
+// Backslashes are literal unless a quote follows them: then each pair is one backslash, and a
+// remaining one makes the quote literal.
 void TakeBackslashes(std::wstring_view& text, std::wstring& word)
 {
     const size_t count = std::min(text.find_first_not_of(L'\\'), text.size());

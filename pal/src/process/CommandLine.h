@@ -1,4 +1,4 @@
-// Command lines by the rules of Windows.
+// Splits command lines by the rules of Windows.
 #pragma once
 
 #include <string>

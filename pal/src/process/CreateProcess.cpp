@@ -1,15 +1,15 @@
 #include <windows.h>
 
-#include <Pal.h>
+#include "ErrorMapping.h"
+#include "Faults.h"
+#include "LastError.h"
+#include "Machine.h"
+#include "WideText.h"
+#include "process/CommandLine.h"
+#include "process/ProcessStart.h"
+#include "process/ProgramSearch.h"
 
-#include "../ErrorMapping.h"
-#include "../Faults.h"
-#include "../LastError.h"
-#include "../Machine.h"
-#include "../WideText.h"
-#include "CommandLine.h"
-#include "ProcessStart.h"
-#include "ProgramSearch.h"
+#include <Pal.h>
 
 namespace Pal
 {
@@ -17,7 +17,7 @@ namespace Pal
 namespace
 {
 
-// A handle from GetStdHandle is a number of its own that no object ever gets.
+// The handles of GetStdHandle are fixed numbers that the handle table never uses.
 HANDLE StandardHandle(DWORD stream)
 {
     return reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(static_cast<LONG>(stream)));
@@ -59,7 +59,7 @@ DWORD CheckStart(const STARTUPINFOW* info, DWORD creationFlags, BOOL inheritHand
     return givesStreams && !inheritHandles ? ERROR_NOT_SUPPORTED : ERROR_SUCCESS;
 }
 
-// The file is given: the command line only holds the arguments, behind some first word.
+// The file is given, so the command line only holds the arguments, after some first word.
 DWORD PlanNamed(LPCWSTR applicationName, std::wstring_view commandLine, ProcessStart& start)
 {
     const std::wstring_view name = applicationName;
@@ -74,7 +74,7 @@ DWORD PlanNamed(LPCWSTR applicationName, std::wstring_view commandLine, ProcessS
     return ERROR_SUCCESS;
 }
 
-// The command line begins with the file, which is the child's first word as a whole.
+// The command line begins with the file, which as a whole is the child's first argument.
 DWORD PlanSearched(std::wstring_view commandLine, ProcessStart& start)
 {
     std::string program;

@@ -1,4 +1,5 @@
-// The system's calls on processes by descriptor. Its header forgets to say that they are C.
+// System calls for process descriptors. The system's header lacks the linkage specification for
+// C++.
 #pragma once
 
 extern "C"

@@ -1,4 +1,10 @@
-#include "Process.h"
+#include "process/Process.h"
+
+#include "ErrorMapping.h"
+#include "LastError.h"
+#include "process/PidFd.h"
+
+#include <QtDebug>
 
 #include <cerrno>
 #include <csignal>
@@ -6,14 +12,8 @@
 #include <system_error>
 #include <thread>
 
-#include <QtDebug>
-
 #include <poll.h>
 #include <sys/wait.h>
-
-#include "../ErrorMapping.h"
-#include "../LastError.h"
-#include "PidFd.h"
 
 namespace Pal
 {
@@ -29,11 +29,12 @@ struct ChildList
 
 ChildList& Children()
 {
-    static ChildList& children = *new ChildList; // outlives every static object that has handles
+    static ChildList& children =
+        *new ChildList; // never destroyed: calls may come from static destructors
     return children;
 }
 
-// False when there is no such child, for example because somebody else collected it.
+// False if there is no such child, for example because other code collected it.
 bool WaitForChild(int pidFd, siginfo_t& status)
 {
     int result = 0;
@@ -68,61 +69,61 @@ DWORD OpenPidFd(pid_t id, Descriptor& descriptor)
 
 } // namespace
 
-Process::Process(pid_t id, Descriptor descriptor, Origin origin)
-    : m_id(id), m_descriptor(std::move(descriptor)), m_origin(origin)
+Process::Process(pid_t number, Descriptor pidFd, Origin whose)
+    : id(number), descriptor(std::move(pidFd)), origin(whose)
 {
 }
 
 Process::~Process()
 {
-    if (m_origin == Origin::Foreign)
+    if (origin == Origin::Foreign)
         return;
     const auto expired = [](const auto& child) { return child.second.expired(); };
     {
         const std::lock_guard lock(Children().mutex);
         auto& children = Children().children;
-        const auto own = children.find(m_id);
+        const auto own = children.find(id);
         if (own != children.end() && expired(*own))
             children.erase(own);
     }
     if (HasEnded())
         Collect();
     else
-        CollectLater(Descriptor(dup(m_descriptor.Get())), m_id);
+        CollectLater(Descriptor(dup(descriptor.Get())), id);
 }
 
 bool Process::HasEnded() const
 {
-    pollfd wanted = {m_descriptor.Get(), POLLIN, 0};
+    pollfd wanted = {descriptor.Get(), POLLIN, 0};
     return poll(&wanted, 1, 0) == 1;
 }
 
 std::optional<DWORD> Process::ExitCode()
 {
-    const std::lock_guard lock(m_mutex);
+    const std::lock_guard lock(mutex);
     Collect();
-    return m_exitCode;
+    return exitCode;
 }
 
 void Process::Collect()
 {
-    if (m_collected || m_origin == Origin::Foreign)
+    if (collected || origin == Origin::Foreign)
         return;
-    m_collected = true;
+    collected = true;
     siginfo_t status = {};
-    if (!WaitForChild(m_descriptor.Get(), status))
+    if (!WaitForChild(descriptor.Get(), status))
         return;
     const auto code = static_cast<DWORD>(status.si_status);
-    m_exitCode = status.si_code == CLD_EXITED ? code : m_terminationCode.value_or(128 + code);
+    exitCode = status.si_code == CLD_EXITED ? code : terminationCode.value_or(128 + code);
 }
 
-DWORD Process::Terminate(DWORD exitCode)
+DWORD Process::Terminate(DWORD code)
 {
-    const std::lock_guard lock(m_mutex);
+    const std::lock_guard lock(mutex);
     if (HasEnded())
         return ERROR_ACCESS_DENIED;
-    m_terminationCode = exitCode;
-    if (pidfd_send_signal(m_descriptor.Get(), SIGKILL, nullptr, 0) == 0)
+    terminationCode = code;
+    if (pidfd_send_signal(descriptor.Get(), SIGKILL, nullptr, 0) == 0)
         return ERROR_SUCCESS;
     return errno == ESRCH ? ERROR_ACCESS_DENIED : ErrorFromErrno(errno);
 }

@@ -1,18 +1,18 @@
 // A process of the system and the handles for it.
 //
-// A process stands on a pidfd, so its number cannot come to mean another one. What this process
-// started is collected here, by its number alone and without a signal handler, so QProcess and
-// others go on collecting what they started.
+// A process is referred to by a pidfd, so a reused process number cannot be mistaken for it.
+// Children that this layer started are collected here by number and without a signal handler, so
+// QProcess and other code collect their own.
 #pragma once
+
+#include "Descriptor.h"
+#include "HandleTable.h"
 
 #include <memory>
 #include <mutex>
 #include <optional>
 
 #include <sys/types.h>
-
-#include "../Descriptor.h"
-#include "../HandleTable.h"
 
 namespace Pal
 {
@@ -26,76 +26,76 @@ public:
         Foreign
     };
 
-    Process(pid_t id, Descriptor descriptor, Origin origin);
-    // A child that still runs is collected by a thread as soon as it ends.
+    Process(pid_t number, Descriptor pidFd, Origin whose);
+    // A child that is still running is collected by a thread when it ends.
     ~Process();
     Process(const Process&) = delete;
     Process& operator=(const Process&) = delete;
 
-    pid_t Id() const { return m_id; }
-    int PidFd() const { return m_descriptor.Get(); }
+    pid_t Id() const { return id; }
+    int PidFd() const { return descriptor.Get(); }
 
     bool HasEnded() const;
 
-    // Collects a child that has ended. Nothing for a process that somebody else collects.
+    // Collects a child that has ended. Nothing for a process that another process or other code
+    // collects.
     std::optional<DWORD> ExitCode();
 
-    // exitCode: what a child's exit code will be.
-    DWORD Terminate(DWORD exitCode);
+    // code: the exit code that ExitCode reports for a child.
+    DWORD Terminate(DWORD code);
 
 private:
     void Collect();
 
-    const pid_t m_id;
-    const Descriptor m_descriptor;
-    const Origin m_origin;
-    std::mutex m_mutex;
-    bool m_collected = false;
-    std::optional<DWORD> m_exitCode;
-    std::optional<DWORD> m_terminationCode;
+    const pid_t id;
+    const Descriptor descriptor;
+    const Origin origin;
+    std::mutex mutex;
+    bool collected = false;
+    std::optional<DWORD> exitCode;
+    std::optional<DWORD> terminationCode;
 };
 
-// The process of that number: a child with handles of its own is always the same object.
+// The process with that number. A child with open handles is always the same object.
 DWORD FindProcess(pid_t id, std::shared_ptr<Process>& process);
 
-// Takes note of a process that was just started here. Fails when somebody else collects the
-// children of this process.
+// Adds a child that was just started. Fails if other code collects all children of this process.
 DWORD AdoptChild(pid_t id, std::shared_ptr<Process>& process);
 
 class ProcessHandle : public OpenObject
 {
 public:
-    ProcessHandle(std::shared_ptr<Process> process, DWORD access)
-        : m_process(std::move(process)), m_access(access)
+    ProcessHandle(std::shared_ptr<Process> target, DWORD rights)
+        : process(std::move(target)), access(rights)
     {
     }
 
-    std::string Name() const override { return "process " + std::to_string(m_process->Id()); }
-    bool Allows(DWORD access) const { return (m_access & access) == access; }
-    Process& Target() const { return *m_process; }
+    std::string Name() const override { return "process " + std::to_string(process->Id()); }
+    bool Allows(DWORD rights) const { return (access & rights) == rights; }
+    Process& Target() const { return *process; }
 
 private:
-    const std::shared_ptr<Process> m_process;
-    const DWORD m_access;
+    const std::shared_ptr<Process> process;
+    const DWORD access;
 };
 
-// The first thread of a process that was started here. It can only be closed.
+// The first thread of a process that was started here. Its handle can only be closed.
 class ThreadHandle : public OpenObject
 {
 public:
-    explicit ThreadHandle(pid_t processId) : m_processId(processId) {}
+    explicit ThreadHandle(pid_t ownerId) : processId(ownerId) {}
 
-    std::string Name() const override { return "thread of " + std::to_string(m_processId); }
+    std::string Name() const override { return "thread of " + std::to_string(processId); }
 
 private:
-    const pid_t m_processId;
+    const pid_t processId;
 };
 
 constexpr DWORD allProcessAccess =
     PROCESS_TERMINATE | PROCESS_VM_READ | PROCESS_QUERY_INFORMATION | SYNCHRONIZE;
 
-// The process behind a handle with that access, which stays as long as the result. Null sets the
-// last error: ERROR_INVALID_HANDLE or ERROR_ACCESS_DENIED.
+// The process of a handle with these rights, which exists as long as the result. Null sets the last
+// error: ERROR_INVALID_HANDLE or ERROR_ACCESS_DENIED.
 std::shared_ptr<ProcessHandle> FindProcessHandle(HANDLE handle, DWORD access);
 
 } // namespace Pal

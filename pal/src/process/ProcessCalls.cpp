@@ -1,5 +1,12 @@
-// Calls on a process that exists.
+// Calls on an existing process.
 #include <windows.h>
+
+#include "ErrorMapping.h"
+#include "Faults.h"
+#include "LastError.h"
+#include "process/PidFd.h"
+#include "process/Process.h"
+#include "process/ProcessList.h"
 
 #include <cerrno>
 #include <chrono>
@@ -8,13 +15,6 @@
 
 #include <poll.h>
 #include <unistd.h>
-
-#include "../ErrorMapping.h"
-#include "../Faults.h"
-#include "../LastError.h"
-#include "PidFd.h"
-#include "Process.h"
-#include "ProcessList.h"
 
 namespace Pal
 {
@@ -49,7 +49,7 @@ DWORD OpenWithAccess(DWORD id, DWORD access, HANDLE& handle)
 
 using Clock = std::chrono::steady_clock;
 
-// Once, until the time is over at the latest; without a limit for a null pointer.
+// One poll, until the end time at the latest; without a limit for a null pointer.
 int PollUntil(int descriptor, const Clock::time_point* end)
 {
     pollfd wanted = {descriptor, POLLIN, 0};
@@ -81,10 +81,11 @@ DWORD WaitForEnd(const Process& process, DWORD milliseconds)
 
 } // namespace Pal
 
-// Keeps:   ERROR_INVALID_PARAMETER for number 0 and for no process at all; ERROR_ACCESS_DENIED
-//          where this user may not end the process or ask for its executable and wants to.
-// Differs: a process that has ended can be opened as long as its parent has not collected it.
-// Refuses: access beyond termination, reading, querying and waiting; inheriting.
+// Keeps:   ERROR_INVALID_PARAMETER for number 0 and for a number without a process;
+//          ERROR_ACCESS_DENIED if this user may not terminate the process or read its executable
+//          and asks for that right.
+// Differs: a process that has ended can be opened until its parent has collected it.
+// Refuses: rights other than terminating, reading, querying and waiting; inheriting.
 HANDLE OpenProcess(DWORD desiredAccess, BOOL inheritHandle, DWORD processId)
 {
     if (Pal::FaultHits(__func__))
@@ -98,10 +99,9 @@ HANDLE OpenProcess(DWORD desiredAccess, BOOL inheritHandle, DWORD processId)
     return handle;
 }
 
-// Keeps:   the process ends at once, without a chance to tidy up; ERROR_ACCESS_DENIED for one that
-//          has ended.
-// Differs: the exit code reaches only this process and only for one that it started; everyone else
-//          sees an end by SIGKILL.
+// Keeps:   ends the process without notifying it; ERROR_ACCESS_DENIED for one that has ended.
+// Differs: the exit code is reported only in this process and only for a child; other processes see
+//          an end by SIGKILL.
 BOOL TerminateProcess(HANDLE process, UINT exitCode)
 {
     if (Pal::FaultHits(__func__))
@@ -114,10 +114,10 @@ BOOL TerminateProcess(HANDLE process, UINT exitCode)
 }
 
 // Keeps:   STILL_ACTIVE while the process runs.
-// Differs: codes have 8 bits. The end by a signal is 128 and its number, unless TerminateProcess
-//          was behind it.
+// Differs: codes have 8 bits. The end by a signal is 128 plus its number, unless TerminateProcess
+//          sent it.
 // Refuses: the code of a process that was not started by CreateProcessW or ShellExecuteExW in this
-//          process, because only who started it learns it: ERROR_NOT_SUPPORTED.
+//          process, because the system tells it to the parent only: ERROR_NOT_SUPPORTED.
 BOOL GetExitCodeProcess(HANDLE process, LPDWORD exitCode)
 {
     if (Pal::FaultHits(__func__))
@@ -135,7 +135,7 @@ BOOL GetExitCodeProcess(HANDLE process, LPDWORD exitCode)
     return TRUE;
 }
 
-// Keeps:   WAIT_OBJECT_0 as soon as the process has ended, WAIT_TIMEOUT, no limit for INFINITE;
+// Keeps:   WAIT_OBJECT_0 when the process has ended, WAIT_TIMEOUT, no limit for INFINITE;
 //          WAIT_FAILED with ERROR_ACCESS_DENIED without SYNCHRONIZE.
 // Refuses: everything but a process: ERROR_INVALID_HANDLE.
 DWORD WaitForSingleObject(HANDLE object, DWORD milliseconds)
@@ -146,7 +146,7 @@ DWORD WaitForSingleObject(HANDLE object, DWORD milliseconds)
     return handle ? Pal::WaitForEnd(handle->Target(), milliseconds) : WAIT_FAILED;
 }
 
-// Keeps:   the number by which OpenProcess and K32EnumProcesses know this process. It cannot fail
+// Keeps:   the number that OpenProcess and K32EnumProcesses use for this process. It cannot fail
 //          and is not counted.
 DWORD GetCurrentProcessId()
 {

@@ -1,18 +1,18 @@
-#include "ProcessList.h"
+#include "process/ProcessList.h"
 
-#include <algorithm>
-#include <filesystem>
-#include <string_view>
-#include <vector>
+#include "ErrorMapping.h"
+#include "Faults.h"
+#include "LastError.h"
+#include "process/Process.h"
 
 #include <QString>
 
 #include <psapi.h>
 
-#include "../ErrorMapping.h"
-#include "../Faults.h"
-#include "../LastError.h"
-#include "Process.h"
+#include <algorithm>
+#include <filesystem>
+#include <string_view>
+#include <vector>
 
 namespace Pal
 {
@@ -36,7 +36,7 @@ DWORD ProcessIds(std::vector<DWORD>& ids)
     return error ? ErrorFromErrno(error.value()) : ERROR_SUCCESS;
 }
 
-// The system marks a file that has gone, unless the mark is part of its name.
+// The system appends a mark to the path of a deleted file. A file may have the mark in its name.
 std::string WithoutDeletionMark(const std::string& path)
 {
     constexpr std::string_view mark = " (deleted)";
@@ -69,9 +69,10 @@ DWORD ReadExecutable(pid_t id, std::string& path)
 
 } // namespace Pal
 
-// Keeps:   fills in the numbers that fit and tells how many bytes they take; the rest is not told.
-// Differs: number 0 is no process. Threads of the kernel are listed, and processes that have ended
-//          until their parent collects them; neither has an executable.
+// Keeps:   fills in the numbers that fit and returns how many bytes they take; numbers that do not
+//          fit are not reported.
+// Differs: number 0 is no process. Kernel threads and processes that ended but were not collected
+//          are listed; neither has an executable.
 BOOL K32EnumProcesses(LPDWORD processIds, DWORD size, LPDWORD bytesReturned)
 {
     if (Pal::FaultHits(__func__))

@@ -1,16 +1,16 @@
-// What the system says about processes.
+// Reads the system's list of processes.
 #pragma once
+
+#include <windows.h>
 
 #include <string>
 
 #include <sys/types.h>
 
-#include <windows.h>
-
 namespace Pal
 {
 
-// The path of the file that a process runs, also after the file has gone.
+// The path of a process's executable, even if the file was deleted.
 DWORD ReadExecutable(pid_t id, std::string& path);
 
 } // namespace Pal

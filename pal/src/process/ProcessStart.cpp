@@ -1,17 +1,17 @@
-#include "ProcessStart.h"
+#include "process/ProcessStart.h"
+
+#include "ErrorMapping.h"
+#include "WideText.h"
+
+#include <QString>
 
 #include <cerrno>
 #include <csignal>
 #include <filesystem>
 
-#include <QString>
-
 #include <fcntl.h>
 #include <spawn.h>
 #include <unistd.h>
-
-#include "../ErrorMapping.h"
-#include "../WideText.h"
 
 namespace Pal
 {
@@ -36,39 +36,39 @@ bool IsBatch(const fs::path& program)
     return QString::fromStdString(program.extension()).compare(".bat", Qt::CaseInsensitive) == 0;
 }
 
-// What a new process is given besides its arguments.
+// Streams, folder, signals and session of a new process.
 class SpawnSettings
 {
 public:
     explicit SpawnSettings(const ProcessStart& start)
     {
-        posix_spawn_file_actions_init(&m_actions);
-        posix_spawnattr_init(&m_attributes);
-        for (size_t stream = 0; stream < m_streams.size(); ++stream)
+        posix_spawn_file_actions_init(&actions);
+        posix_spawnattr_init(&attributes);
+        for (size_t stream = 0; stream < streams.size(); ++stream)
         {
-            m_streams[stream] = OpenStream(start.streams[stream]);
+            streams[stream] = OpenStream(start.streams[stream]);
             posix_spawn_file_actions_adddup2(
-                &m_actions, m_streams[stream].Get(), static_cast<int>(stream));
+                &actions, streams[stream].Get(), static_cast<int>(stream));
         }
-        posix_spawn_file_actions_addclosefrom_np(&m_actions, 3);
+        posix_spawn_file_actions_addclosefrom_np(&actions, 3);
         if (!start.folder.empty())
-            posix_spawn_file_actions_addchdir_np(&m_actions, start.folder.c_str());
+            posix_spawn_file_actions_addchdir_np(&actions, start.folder.c_str());
         ResetSignals(start.ownSession);
     }
     ~SpawnSettings()
     {
-        posix_spawnattr_destroy(&m_attributes);
-        posix_spawn_file_actions_destroy(&m_actions);
+        posix_spawnattr_destroy(&attributes);
+        posix_spawn_file_actions_destroy(&actions);
     }
     SpawnSettings(const SpawnSettings&) = delete;
     SpawnSettings& operator=(const SpawnSettings&) = delete;
 
-    const posix_spawn_file_actions_t* Actions() const { return &m_actions; }
-    const posix_spawnattr_t* Attributes() const { return &m_attributes; }
+    const posix_spawn_file_actions_t* Actions() const { return &actions; }
+    const posix_spawnattr_t* Attributes() const { return &attributes; }
 
 private:
-    // Above the standard numbers, so that no stream overwrites the source of another. A stream that
-    // this process has closed is nothing as well.
+    // Duplicates above the standard numbers, so that no stream overwrites the source of another. A
+    // stream that this process has closed is replaced by the null device.
     static Descriptor OpenStream(int source)
     {
         Descriptor copy(source < 0 ? -1 : fcntl(source, F_DUPFD_CLOEXEC, 3));
@@ -78,24 +78,24 @@ private:
         return Descriptor(fcntl(nothing.Get(), F_DUPFD_CLOEXEC, 3));
     }
 
-    // Nothing that this process blocks or ignores is blocked or ignored in the new one.
+    // Signals that this process blocks or ignores are not blocked or ignored in the new one.
     void ResetSignals(bool ownSession)
     {
         sigset_t none;
         sigset_t all;
         sigemptyset(&none);
         sigfillset(&all);
-        posix_spawnattr_setsigmask(&m_attributes, &none);
-        posix_spawnattr_setsigdefault(&m_attributes, &all);
+        posix_spawnattr_setsigmask(&attributes, &none);
+        posix_spawnattr_setsigdefault(&attributes, &all);
         int flags = POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF;
         if (ownSession)
             flags |= POSIX_SPAWN_SETSID;
-        posix_spawnattr_setflags(&m_attributes, static_cast<short>(flags));
+        posix_spawnattr_setflags(&attributes, static_cast<short>(flags));
     }
 
-    posix_spawn_file_actions_t m_actions = {};
-    posix_spawnattr_t m_attributes = {};
-    std::array<Descriptor, 3> m_streams;
+    posix_spawn_file_actions_t actions = {};
+    posix_spawnattr_t attributes = {};
+    std::array<Descriptor, 3> streams;
 };
 
 std::vector<char*> Pointers(const std::vector<std::string>& texts)

@@ -1,20 +1,20 @@
-#include "ProgramSearch.h"
+#include "process/ProgramSearch.h"
+
+#include "ErrorMapping.h"
+#include "Machine.h"
+#include "WideText.h"
+
+#include <QByteArray>
+#include <QList>
+
+#include <Pal.h>
+#include <shlobj.h>
 
 #include <cerrno>
 #include <filesystem>
 #include <vector>
 
-#include <QByteArray>
-#include <QList>
-
 #include <sys/stat.h>
-
-#include <Pal.h>
-#include <shlobj.h>
-
-#include "../ErrorMapping.h"
-#include "../Machine.h"
-#include "../WideText.h"
 
 namespace Pal
 {

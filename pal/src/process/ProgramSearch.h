@@ -1,12 +1,12 @@
 // Where a program lies that a caller names.
 #pragma once
 
-#include <string>
-#include <string_view>
+#include "process/CommandLine.h"
 
 #include <windows.h>
 
-#include "CommandLine.h"
+#include <string>
+#include <string_view>
 
 namespace Pal
 {

@@ -1,13 +1,13 @@
 #include <shellapi.h>
 
-#include "../ErrorMapping.h"
-#include "../Faults.h"
-#include "../LastError.h"
-#include "../Machine.h"
-#include "../WideText.h"
-#include "CommandLine.h"
-#include "ProcessStart.h"
-#include "ProgramSearch.h"
+#include "ErrorMapping.h"
+#include "Faults.h"
+#include "LastError.h"
+#include "Machine.h"
+#include "WideText.h"
+#include "process/CommandLine.h"
+#include "process/ProcessStart.h"
+#include "process/ProgramSearch.h"
 
 namespace Pal
 {

@@ -1,4 +1,4 @@
-#include "KeyTree.h"
+#include "registry/KeyTree.h"
 
 #include <QChar>
 
@@ -13,47 +13,47 @@ std::u16string FoldCase(std::u16string_view name)
     return folded;
 }
 
-KeyNode::KeyNode(std::u16string name) : m_name(std::move(name)) {}
+KeyNode::KeyNode(std::u16string name) : ownName(std::move(name)) {}
 
 std::shared_ptr<KeyNode> KeyNode::SubKey(std::u16string_view name) const
 {
-    const auto found = m_children.find(FoldCase(name));
-    return found == m_children.end() ? nullptr : found->second;
+    const auto found = children.find(FoldCase(name));
+    return found == children.end() ? nullptr : found->second;
 }
 
 std::shared_ptr<KeyNode> KeyNode::MakeSubKey(const std::u16string& name)
 {
-    std::shared_ptr<KeyNode>& child = m_children[FoldCase(name)];
+    std::shared_ptr<KeyNode>& child = children[FoldCase(name)];
     if (!child)
     {
         child = std::make_shared<KeyNode>(name);
-        m_childCursor.Forget();
+        childCursor.Forget();
     }
     return child;
 }
 
 void KeyNode::RemoveSubKey(std::u16string_view name)
 {
-    const auto found = m_children.find(FoldCase(name));
-    if (found == m_children.end())
+    const auto found = children.find(FoldCase(name));
+    if (found == children.end())
         return;
     found->second->MarkDeleted();
-    m_children.erase(found);
-    m_childCursor.Forget();
+    children.erase(found);
+    childCursor.Forget();
 }
 
 const RegistryValue* KeyNode::Value(std::u16string_view name) const
 {
-    const auto found = m_valuesByName.find(FoldCase(name));
-    return found == m_valuesByName.end() ? nullptr : &*found->second;
+    const auto found = valuesByName.find(FoldCase(name));
+    return found == valuesByName.end() ? nullptr : &*found->second;
 }
 
 void KeyNode::SetValue(RegistryValue value)
 {
-    const auto [entry, added] = m_valuesByName.try_emplace(FoldCase(value.name), m_values.end());
+    const auto [entry, added] = valuesByName.try_emplace(FoldCase(value.name), values.end());
     if (added)
     {
-        entry->second = m_values.insert(m_values.end(), std::move(value));
+        entry->second = values.insert(values.end(), std::move(value));
         return;
     }
     entry->second->type = value.type;
@@ -62,18 +62,18 @@ void KeyNode::SetValue(RegistryValue value)
 
 void KeyNode::RemoveValue(std::u16string_view name)
 {
-    const auto found = m_valuesByName.find(FoldCase(name));
-    if (found == m_valuesByName.end())
+    const auto found = valuesByName.find(FoldCase(name));
+    if (found == valuesByName.end())
         return;
-    m_values.erase(found->second);
-    m_valuesByName.erase(found);
-    m_valueCursor.Forget();
+    values.erase(found->second);
+    valuesByName.erase(found);
+    valueCursor.Forget();
 }
 
 void KeyNode::MarkDeleted()
 {
-    m_deleted = true;
-    for (const auto& [name, child] : m_children)
+    deleted = true;
+    for (const auto& [name, child] : children)
         child->MarkDeleted();
 }
 

@@ -1,6 +1,8 @@
-// The keys and values of one registry root in memory. Names ignore case and keep the case they
-// were made with; writing to an existing name keeps the case it has.
+// The keys and values of one registry root in memory. Names are compared without case; a key or
+// value keeps the case with which it was created.
 #pragma once
+
+#include <windows.h>
 
 #include <iterator>
 #include <list>
@@ -11,48 +13,46 @@
 #include <unordered_map>
 #include <vector>
 
-#include <windows.h>
-
 namespace Pal
 {
 
 // The names of the keys from below the root to a key; empty for the root itself.
 using KeyPath = std::vector<std::u16string>;
 
-// Equal for names that differ in case only, and the order in which keys are listed.
+// Equal for names that differ in case only. Keys are listed in the order of their folded names.
 std::u16string FoldCase(std::u16string_view name);
 
 struct RegistryValue
 {
     std::u16string name; // empty for the default value
     DWORD type = REG_NONE;
-    std::string data; // as on disk: text is UTF-16LE with the zeros it was given
+    std::string data; // as on disk: text is UTF-16LE, with the zeros of the caller
 };
 
-// Finds elements by number. Going through them in order costs one step each.
+// Finds elements by index. Access in ascending order costs one step per element.
 template <typename Container>
 class IndexCursor
 {
 public:
-    typename Container::const_iterator At(const Container& elements, size_t index)
+    typename Container::const_iterator At(const Container& elements, size_t wanted)
     {
-        if (!m_valid || index < m_index)
+        if (!valid || wanted < index)
         {
-            m_position = elements.begin();
-            m_index = 0;
-            m_valid = true;
+            position = elements.begin();
+            index = 0;
+            valid = true;
         }
-        std::advance(m_position, index - m_index);
-        m_index = index;
-        return m_position;
+        std::advance(position, wanted - index);
+        index = wanted;
+        return position;
     }
 
-    void Forget() { m_valid = false; }
+    void Forget() { valid = false; }
 
 private:
-    typename Container::const_iterator m_position;
-    size_t m_index = 0;
-    bool m_valid = false;
+    typename Container::const_iterator position;
+    size_t index = 0;
+    bool valid = false;
 };
 
 class KeyNode
@@ -65,19 +65,19 @@ public:
     KeyNode(const KeyNode&) = delete;
     KeyNode& operator=(const KeyNode&) = delete;
 
-    const std::u16string& Name() const { return m_name; }
-    bool Deleted() const { return m_deleted; }
+    const std::u16string& Name() const { return ownName; }
+    bool Deleted() const { return deleted; }
 
     // Sub-keys, sorted by folded name.
-    const Children& SubKeys() const { return m_children; }
-    const KeyNode& SubKeyAt(size_t index) { return *m_childCursor.At(m_children, index)->second; }
+    const Children& SubKeys() const { return children; }
+    const KeyNode& SubKeyAt(size_t index) { return *childCursor.At(children, index)->second; }
     std::shared_ptr<KeyNode> SubKey(std::u16string_view name) const;
     std::shared_ptr<KeyNode> MakeSubKey(const std::u16string& name);
     void RemoveSubKey(std::u16string_view name);
 
-    // Values, in the order in which they were made.
-    const Values& AllValues() const { return m_values; }
-    const RegistryValue& ValueAt(size_t index) { return *m_valueCursor.At(m_values, index); }
+    // Values, in the order of creation.
+    const Values& AllValues() const { return values; }
+    const RegistryValue& ValueAt(size_t index) { return *valueCursor.At(values, index); }
     const RegistryValue* Value(std::u16string_view name) const;
     void SetValue(RegistryValue value);
     void RemoveValue(std::u16string_view name);
@@ -85,19 +85,19 @@ public:
 private:
     void MarkDeleted();
 
-    const std::u16string m_name;
-    bool m_deleted = false;
-    Children m_children;
-    IndexCursor<Children> m_childCursor;
-    Values m_values;
-    IndexCursor<Values> m_valueCursor;
-    std::unordered_map<std::u16string, Values::iterator> m_valuesByName;
+    const std::u16string ownName;
+    bool deleted = false;
+    Children children;
+    IndexCursor<Children> childCursor;
+    Values values;
+    IndexCursor<Values> valueCursor;
+    std::unordered_map<std::u16string, Values::iterator> valuesByName;
 };
 
 // The key at the end of the path below root, or null.
 std::shared_ptr<KeyNode> FindKey(const std::shared_ptr<KeyNode>& root, const KeyPath& path);
 
-// The same; missing keys on the way are made.
+// The same; missing keys of the path are created.
 std::shared_ptr<KeyNode> MakeKey(const std::shared_ptr<KeyNode>& root, const KeyPath& path);
 
 // Removes the key at the end of the path with all below it. The path must not be empty.

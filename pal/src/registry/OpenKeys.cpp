@@ -1,4 +1,4 @@
-#include "OpenKeys.h"
+#include "registry/OpenKeys.h"
 
 #include <QString>
 
@@ -8,7 +8,7 @@ namespace Pal
 namespace
 {
 
-// What RegOverridePredefKey has put in the place of each root.
+// The replacement of each root by RegOverridePredefKey, or null.
 std::array<std::shared_ptr<OpenKey>, 2>& Overrides()
 {
     static auto& overrides = *new std::array<std::shared_ptr<OpenKey>, 2>;
@@ -22,29 +22,26 @@ RegistryRoot RootOf(HKEY predefined)
 
 } // namespace
 
-OpenKey::OpenKey(KeyLocation location, REGSAM access)
-    : m_location(std::move(location)), m_access(access)
-{
-}
+OpenKey::OpenKey(KeyLocation place, REGSAM rights) : location(std::move(place)), access(rights) {}
 
 std::string OpenKey::Name() const
 {
-    std::u16string name = RootName(m_location.root);
-    for (const std::u16string& component : m_location.path)
+    std::u16string name = RootName(location.root);
+    for (const std::u16string& component : location.path)
         name.append(u"\\").append(component);
     return QString::fromStdU16String(name).toStdString();
 }
 
 std::shared_ptr<KeyNode> OpenKey::Node()
 {
-    const RegistryFile& file = m_location.store->File(m_location.root);
-    if (m_generation != file.Generation() && !m_deleted)
+    const RegistryFile& file = location.store->File(location.root);
+    if (generation != file.Generation() && !deleted)
     {
-        m_node = FindKey(file.Root(), m_location.path);
-        m_generation = file.Generation();
+        node = FindKey(file.Root(), location.path);
+        generation = file.Generation();
     }
-    m_deleted = m_deleted || !m_node || m_node->Deleted();
-    return m_deleted ? nullptr : m_node;
+    deleted = deleted || !node || node->Deleted();
+    return deleted ? nullptr : node;
 }
 
 bool IsPredefined(HKEY key)

@@ -1,13 +1,13 @@
-// Keys behind an HKEY.
+// The objects of HKEY handles.
 #pragma once
 
-#include "../HandleTable.h"
-#include "RegistryStore.h"
+#include "HandleTable.h"
+#include "registry/RegistryStore.h"
 
 namespace Pal
 {
 
-// Where a key is: which root of which machine, and the names on the way.
+// The location of a key: machine, root and path.
 struct KeyLocation
 {
     std::shared_ptr<RegistryStore> store;
@@ -18,32 +18,32 @@ struct KeyLocation
 class OpenKey : public OpenObject
 {
 public:
-    OpenKey(KeyLocation location, REGSAM access);
+    OpenKey(KeyLocation place, REGSAM rights);
 
     std::string Name() const override;
 
-    const KeyLocation& Location() const { return m_location; }
-    bool Allows(REGSAM rights) const { return (m_access & rights) == rights; }
+    const KeyLocation& Location() const { return location; }
+    bool Allows(REGSAM rights) const { return (access & rights) == rights; }
 
     // The key in the tree as it is now, or null once the key was deleted. A key that was deleted
     // and made anew while the file was being replaced counts as the same one.
     std::shared_ptr<KeyNode> Node();
 
 private:
-    const KeyLocation m_location;
-    const REGSAM m_access;
-    std::shared_ptr<KeyNode> m_node;
-    unsigned m_generation = 0;
-    bool m_deleted = false;
+    const KeyLocation location;
+    const REGSAM access;
+    std::shared_ptr<KeyNode> node;
+    unsigned generation = 0;
+    bool deleted = false;
 };
 
 bool IsPredefined(HKEY key);
 
-// The key behind a handle, or null. For a predefined key that is what overrides it, or the root of
-// the current machine. The registry's mutex must be held.
+// The key of a handle, or null. For a predefined key that is its replacement, or the root of the
+// current machine. The registry's mutex must be held.
 std::shared_ptr<OpenKey> FindOpenKey(HKEY key);
 
-// Null undoes it.
+// A null replacement removes the override.
 void OverridePredefined(HKEY predefined, std::shared_ptr<OpenKey> replacement);
 
 } // namespace Pal

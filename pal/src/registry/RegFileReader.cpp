@@ -1,6 +1,6 @@
-#include "RegFileReader.h"
+#include "registry/RegFileReader.h"
 
-#include "RegFileWriter.h"
+#include "registry/ValueData.h"
 
 namespace Pal
 {
@@ -72,7 +72,7 @@ char16_t Unescaped(char16_t character)
     }
 }
 
-// Takes a quoted text with its escapes; the quotes must both be there.
+// Takes a quoted text and resolves its escapes. Both quotes are required.
 std::optional<std::u16string> TakeQuoted(std::u16string_view& text)
 {
     if (!TakePrefix(text, u"\""))
@@ -92,16 +92,16 @@ std::optional<std::u16string> TakeQuoted(std::u16string_view& text)
 class RecordParser
 {
 public:
-    RecordParser(std::u16string_view record, const std::shared_ptr<KeyNode>& root)
-        : m_rest(record), m_root(root)
+    RecordParser(std::u16string_view record, const std::shared_ptr<KeyNode>& treeRoot)
+        : rest(record), root(treeRoot)
     {
     }
 
     bool Apply()
     {
-        while (!m_rest.empty())
+        while (!rest.empty())
         {
-            const std::u16string_view line = TakeLine(m_rest);
+            const std::u16string_view line = TakeLine(rest);
             if (line.empty() || line.front() == u';')
                 continue;
             if (!(line.front() == u'[' ? ApplySection(line) : ApplyValue(line)))
@@ -113,7 +113,7 @@ public:
 private:
     bool ApplySection(std::u16string_view line)
     {
-        m_key.reset();
+        key.reset();
         if (!TakePrefix(line, u"[") || !TakeSuffix(line, u"]"))
             return false;
         const bool removed = TakePrefix(line, u"-");
@@ -121,9 +121,9 @@ private:
         if (!path || (removed && path->empty()))
             return false;
         if (removed)
-            RemoveKey(m_root, *path);
+            RemoveKey(root, *path);
         else
-            m_key = MakeKey(m_root, *path);
+            key = MakeKey(root, *path);
         return true;
     }
 
@@ -140,7 +140,7 @@ private:
                 break;
             text.remove_prefix(separator + 1);
         }
-        if (FoldCase(path.front()) != FoldCase(m_root->Name()))
+        if (FoldCase(path.front()) != FoldCase(root->Name()))
             return std::nullopt;
         path.erase(path.begin());
         return path;
@@ -156,16 +156,16 @@ private:
                 return false;
             value.name = *name;
         }
-        if (!m_key || !TakePrefix(line, u"="))
+        if (!key || !TakePrefix(line, u"="))
             return false;
         if (line == u"-")
         {
-            m_key->RemoveValue(value.name);
+            key->RemoveValue(value.name);
             return true;
         }
         if (!ParseData(line, value))
             return false;
-        m_key->SetValue(std::move(value));
+        key->SetValue(std::move(value));
         return true;
     }
 
@@ -215,14 +215,14 @@ private:
         return true;
     }
 
-    // Goes on with the following lines of the record as long as a line ends in a backslash.
+    // Continues with the next line as long as a line ends in a backslash.
     bool ParseHexLines(std::u16string_view text, RegistryValue& value)
     {
         while (TakeSuffix(text, u"\\"))
         {
-            if (m_rest.empty() || !ParseHexBytes(text, value))
+            if (rest.empty() || !ParseHexBytes(text, value))
                 return false;
-            text = TakeLine(m_rest);
+            text = TakeLine(rest);
             while (TakePrefix(text, u" "))
                 continue;
         }
@@ -243,9 +243,9 @@ private:
         return true;
     }
 
-    std::u16string_view m_rest;
-    const std::shared_ptr<KeyNode>& m_root;
-    std::shared_ptr<KeyNode> m_key; // of the section; null after a removed one
+    std::u16string_view rest;
+    const std::shared_ptr<KeyNode>& root;
+    std::shared_ptr<KeyNode> key; // of the section; null after a removed one
 };
 
 } // namespace

@@ -1,12 +1,12 @@
-// Reads what RegFileWriter and regedit write, and line ends that are escaped as \r and \n. A text
-// that goes over several lines is not understood.
+// Reads files of RegFileWriter and regedit, with line ends in texts escaped as \r and \n. A text
+// that spans several lines is an error.
 #pragma once
+
+#include "registry/KeyTree.h"
 
 #include <memory>
 #include <optional>
 #include <string_view>
-
-#include "KeyTree.h"
 
 namespace Pal
 {

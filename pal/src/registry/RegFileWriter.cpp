@@ -1,6 +1,6 @@
-#include "RegFileWriter.h"
+#include "registry/RegFileWriter.h"
 
-#include "ValueData.h"
+#include "registry/ValueData.h"
 
 namespace Pal
 {
@@ -53,7 +53,7 @@ void AppendHexNumber(std::u16string& text, DWORD number, int digits)
         text.push_back(u"0123456789abcdef"[(number >> shift) & 0xF]);
 }
 
-// A line that grows too long ends in a backslash and goes on after two blanks.
+// A line that becomes too long ends in a backslash and continues after two blanks.
 void AppendHexData(std::u16string& text, size_t lineStart, const std::string& data)
 {
     for (size_t i = 0; i < data.size(); ++i)
@@ -153,18 +153,6 @@ std::u16string WholeRegFile(const KeyNode& root)
     std::u16string text(regFileHeader);
     AppendKey(text, root, root.Name());
     return text;
-}
-
-std::string DiskBytes(std::u16string_view text)
-{
-    std::string bytes;
-    bytes.reserve(text.size() * sizeof(char16_t));
-    for (const char16_t unit : text)
-    {
-        bytes.push_back(static_cast<char>(unit & 0xFF));
-        bytes.push_back(static_cast<char>(unit >> 8));
-    }
-    return bytes;
 }
 
 } // namespace Pal

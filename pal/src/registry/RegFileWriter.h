@@ -4,9 +4,9 @@
 // stand, so a file of them is a journal and at every moment a file that regedit can import.
 #pragma once
 
-#include <string>
+#include "registry/KeyTree.h"
 
-#include "KeyTree.h"
+#include <string>
 
 namespace Pal
 {
@@ -22,8 +22,5 @@ std::u16string RemovedValueRecord(
 
 // A whole file: every key sorted, every value once, in its order.
 std::u16string WholeRegFile(const KeyNode& root);
-
-// The text as it lies on disk, UTF-16LE.
-std::string DiskBytes(std::u16string_view text);
 
 } // namespace Pal

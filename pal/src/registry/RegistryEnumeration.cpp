@@ -1,13 +1,13 @@
-// Calls that list what is in an open key.
+// Calls that list the values and sub-keys of an open key.
 #include <windows.h>
 
-#include <algorithm>
+#include "Faults.h"
+#include "WideText.h"
+#include "registry/RegistrySession.h"
+#include "registry/ValueData.h"
+#include "registry/ValueOutput.h"
 
-#include "../Faults.h"
-#include "../WideText.h"
-#include "RegistrySession.h"
-#include "ValueData.h"
-#include "ValueOutput.h"
+#include <algorithm>
 
 namespace Pal
 {

@@ -1,4 +1,9 @@
-#include "RegistryFile.h"
+#include "registry/RegistryFile.h"
+
+#include "ErrorMapping.h"
+#include "registry/RegFileReader.h"
+#include "registry/RegFileWriter.h"
+#include "registry/ValueData.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -6,11 +11,6 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include "../ErrorMapping.h"
-#include "RegFileReader.h"
-#include "RegFileWriter.h"
-#include "ValueData.h"
 
 namespace Pal
 {
@@ -74,36 +74,36 @@ off_t DiskSize(size_t characters)
 
 } // namespace
 
-RegistryFile::RegistryFile(fs::path path, std::u16string rootName)
-    : m_path(std::move(path)), m_rootName(std::move(rootName)), m_compactAbove(tolerableJournal)
+RegistryFile::RegistryFile(fs::path filePath, std::u16string nameOfRoot)
+    : path(std::move(filePath)), rootName(std::move(nameOfRoot)), compactAbove(tolerableJournal)
 {
     StartFresh();
 }
 
 void RegistryFile::StartFresh()
 {
-    m_root = std::make_shared<KeyNode>(m_rootName);
-    MakeKey(m_root, RunKey());
-    ++m_generation;
-    m_file = Descriptor();
-    m_seenSize = 0;
-    m_completeSize = 0;
+    root = std::make_shared<KeyNode>(rootName);
+    MakeKey(root, RunKey());
+    ++generation;
+    file = Descriptor();
+    seenSize = 0;
+    completeSize = 0;
 }
 
 DWORD RegistryFile::Refresh()
 {
     struct stat status = {};
-    if (stat(m_path.c_str(), &status) != 0)
+    if (stat(path.c_str(), &status) != 0)
     {
         if (errno != ENOENT)
             return ErrorFromErrno(errno);
-        if (m_file.IsOpen())
+        if (file.IsOpen())
             StartFresh();
         return ERROR_SUCCESS;
     }
-    if (!IsOwnFile(status) || status.st_size < m_completeSize)
+    if (!IsOwnFile(status) || status.st_size < completeSize)
         return ReadWhole();
-    if (status.st_size == m_completeSize)
+    if (status.st_size == completeSize)
         return ERROR_SUCCESS;
     return ReadAppended() == ERROR_SUCCESS ? ERROR_SUCCESS : ReadWhole();
 }
@@ -111,45 +111,45 @@ DWORD RegistryFile::Refresh()
 bool RegistryFile::IsOwnFile(const struct stat& status) const
 {
     struct stat own = {};
-    return m_file.IsOpen() && fstat(m_file.Get(), &own) == 0 && own.st_dev == status.st_dev &&
+    return file.IsOpen() && fstat(file.Get(), &own) == 0 && own.st_dev == status.st_dev &&
            own.st_ino == status.st_ino;
 }
 
 DWORD RegistryFile::ReadWhole()
 {
-    Descriptor file = OpenFileAt(m_path, O_RDONLY);
+    Descriptor opened = OpenFileAt(path, O_RDONLY);
     std::string bytes;
-    const DWORD error = file.IsOpen() ? ReadFrom(file.Get(), 0, bytes) : ErrorFromErrno(errno);
+    const DWORD error = opened.IsOpen() ? ReadFrom(opened.Get(), 0, bytes) : ErrorFromErrno(errno);
     if (error != ERROR_SUCCESS)
         return error;
     const std::u16string text = CharactersOf(bytes);
     const std::u16string_view content = text;
-    const auto root = std::make_shared<KeyNode>(m_rootName);
+    const auto readRoot = std::make_shared<KeyNode>(rootName);
     if (content.substr(0, regFileHeader.size()) != regFileHeader)
         return ERROR_BADDB;
-    const auto applied = ApplyRecords(content.substr(regFileHeader.size()), root);
+    const auto applied = ApplyRecords(content.substr(regFileHeader.size()), readRoot);
     if (!applied)
         return ERROR_BADDB;
-    m_file = std::move(file);
-    m_root = root;
-    ++m_generation;
-    m_seenSize = static_cast<off_t>(bytes.size());
-    m_completeSize = DiskSize(regFileHeader.size() + *applied);
-    m_compactAbove = tolerableJournal;
+    file = std::move(opened);
+    root = readRoot;
+    ++generation;
+    seenSize = static_cast<off_t>(bytes.size());
+    completeSize = DiskSize(regFileHeader.size() + *applied);
+    compactAbove = tolerableJournal;
     return ERROR_SUCCESS;
 }
 
 DWORD RegistryFile::ReadAppended()
 {
     std::string bytes;
-    const DWORD error = ReadFrom(m_file.Get(), m_completeSize, bytes);
+    const DWORD error = ReadFrom(file.Get(), completeSize, bytes);
     if (error != ERROR_SUCCESS)
         return error;
-    const auto applied = ApplyRecords(CharactersOf(bytes), m_root);
+    const auto applied = ApplyRecords(CharactersOf(bytes), root);
     if (!applied)
         return ERROR_BADDB;
-    m_seenSize = m_completeSize + static_cast<off_t>(bytes.size());
-    m_completeSize += DiskSize(*applied);
+    seenSize = completeSize + static_cast<off_t>(bytes.size());
+    completeSize += DiskSize(*applied);
     return ERROR_SUCCESS;
 }
 
@@ -157,14 +157,14 @@ DWORD RegistryFile::SetAside()
 {
     for (int number = 1;; ++number)
     {
-        const fs::path aside = m_path.string() + ".damaged-" + std::to_string(number);
+        const fs::path aside = path.string() + ".damaged-" + std::to_string(number);
         std::error_code error;
         if (fs::exists(fs::symlink_status(aside, error)))
             continue;
-        fs::rename(m_path, aside, error);
+        fs::rename(path, aside, error);
         if (error)
             return ErrorFromErrno(error.value());
-        m_reports.push_back("Registry file is damaged and was set aside: " + aside.string());
+        reports.push_back("Registry file is damaged and was set aside: " + aside.string());
         StartFresh();
         return ERROR_SUCCESS;
     }
@@ -172,19 +172,19 @@ DWORD RegistryFile::SetAside()
 
 DWORD RegistryFile::Append(const std::u16string& record)
 {
-    if (!m_file.IsOpen())
+    if (!file.IsOpen())
     {
-        const DWORD error = Replace(DiskBytes(WholeRegFile(*m_root)));
+        const DWORD error = Replace(DiskBytes(WholeRegFile(*root)));
         if (error != ERROR_SUCCESS)
             return error;
     }
-    const Descriptor file = OpenFileAt(m_path, O_WRONLY | O_APPEND);
-    if (!file.IsOpen())
+    const Descriptor writer = OpenFileAt(path, O_WRONLY | O_APPEND);
+    if (!writer.IsOpen())
         return ErrorFromErrno(errno);
-    if (m_seenSize > m_completeSize && ftruncate(file.Get(), m_completeSize) != 0)
+    if (seenSize > completeSize && ftruncate(writer.Get(), completeSize) != 0)
         return ErrorFromErrno(errno);
-    m_seenSize = m_completeSize;
-    return WriteRecord(file.Get(), DiskBytes(record));
+    seenSize = completeSize;
+    return WriteRecord(writer.Get(), DiskBytes(record));
 }
 
 DWORD RegistryFile::WriteRecord(int descriptor, const std::string& bytes)
@@ -192,11 +192,11 @@ DWORD RegistryFile::WriteRecord(int descriptor, const std::string& bytes)
     const DWORD error = WriteOnce(descriptor, bytes);
     if (error == ERROR_SUCCESS)
     {
-        m_completeSize += static_cast<off_t>(bytes.size());
-        m_seenSize = m_completeSize;
-        m_appended = true;
+        completeSize += static_cast<off_t>(bytes.size());
+        seenSize = completeSize;
+        appended = true;
     }
-    else if (ftruncate(descriptor, m_completeSize) != 0)
+    else if (ftruncate(descriptor, completeSize) != 0)
     {
         // The cut-off record stays until the next change: it is not complete, so nobody applies it.
         ReportFailure("repaired");
@@ -207,54 +207,54 @@ DWORD RegistryFile::WriteRecord(int descriptor, const std::string& bytes)
 // The new file is complete before it takes the name.
 DWORD RegistryFile::Replace(const std::string& content)
 {
-    const fs::path temporary = m_path.string() + ".tmp";
-    Descriptor file = OpenFileAt(temporary, O_RDWR | O_CREAT | O_TRUNC);
-    if (!file.IsOpen())
+    const fs::path temporary = path.string() + ".tmp";
+    Descriptor written = OpenFileAt(temporary, O_RDWR | O_CREAT | O_TRUNC);
+    if (!written.IsOpen())
         return ErrorFromErrno(errno);
-    const DWORD error = WriteOnce(file.Get(), content);
+    const DWORD error = WriteOnce(written.Get(), content);
     if (error != ERROR_SUCCESS)
     {
         unlink(temporary.c_str());
         return error;
     }
-    if (rename(temporary.c_str(), m_path.c_str()) != 0)
+    if (rename(temporary.c_str(), path.c_str()) != 0)
         return ErrorFromErrno(errno);
-    m_file = std::move(file);
-    m_completeSize = static_cast<off_t>(content.size());
-    m_seenSize = m_completeSize;
+    file = std::move(written);
+    completeSize = static_cast<off_t>(content.size());
+    seenSize = completeSize;
     return ERROR_SUCCESS;
 }
 
 void RegistryFile::CompactIfLarge()
 {
-    if (m_completeSize <= m_compactAbove)
+    if (completeSize <= compactAbove)
         return;
-    const std::string content = DiskBytes(WholeRegFile(*m_root));
-    m_compactAbove = 2 * static_cast<off_t>(content.size()) + tolerableJournal;
-    if (m_completeSize > m_compactAbove && Replace(content) != ERROR_SUCCESS)
+    const std::string content = DiskBytes(WholeRegFile(*root));
+    compactAbove = 2 * static_cast<off_t>(content.size()) + tolerableJournal;
+    if (completeSize > compactAbove && Replace(content) != ERROR_SUCCESS)
         ReportFailure("compacted");
 }
 
 void RegistryFile::CompactIfAppended()
 {
-    if (!m_appended || !m_file.IsOpen())
+    if (!appended || !file.IsOpen())
         return;
-    const std::string content = DiskBytes(WholeRegFile(*m_root));
-    if (m_completeSize > static_cast<off_t>(content.size()) && Replace(content) != ERROR_SUCCESS)
+    const std::string content = DiskBytes(WholeRegFile(*root));
+    if (completeSize > static_cast<off_t>(content.size()) && Replace(content) != ERROR_SUCCESS)
         ReportFailure("compacted");
-    m_appended = false;
+    appended = false;
 }
 
 void RegistryFile::ReportFailure(const char* access)
 {
-    if (!m_reportedFailures.insert(access).second)
+    if (!reportedFailures.insert(access).second)
         return;
-    m_reports.push_back(std::string("Registry file cannot be ") + access + ": " + m_path.string());
+    reports.push_back(std::string("Registry file cannot be ") + access + ": " + path.string());
 }
 
 std::vector<std::string> RegistryFile::TakeReports()
 {
-    return std::exchange(m_reports, {});
+    return std::exchange(reports, {});
 }
 
 } // namespace Pal

@@ -9,6 +9,9 @@
 // Nothing here locks: callers hold the registry's lock, exclusively for all but Refresh.
 #pragma once
 
+#include "Descriptor.h"
+#include "registry/KeyTree.h"
+
 #include <filesystem>
 #include <memory>
 #include <set>
@@ -17,16 +20,13 @@
 
 #include <sys/stat.h>
 
-#include "../Descriptor.h"
-#include "KeyTree.h"
-
 namespace Pal
 {
 
 class RegistryFile
 {
 public:
-    RegistryFile(std::filesystem::path path, std::u16string rootName);
+    RegistryFile(std::filesystem::path filePath, std::u16string nameOfRoot);
 
     // Brings the tree up to date. ERROR_BADDB: the file is damaged, see SetAside.
     DWORD Refresh();
@@ -43,10 +43,10 @@ public:
     // The same for any saving, if this process has appended anything.
     void CompactIfAppended();
 
-    const std::shared_ptr<KeyNode>& Root() const { return m_root; }
+    const std::shared_ptr<KeyNode>& Root() const { return root; }
 
     // Changes when the tree was read anew, so that the nodes are other ones.
-    unsigned Generation() const { return m_generation; }
+    unsigned Generation() const { return generation; }
 
     // Reports, once for each kind of access, that the file cannot be "read" or "written".
     void ReportFailure(const char* access);
@@ -63,17 +63,17 @@ private:
     DWORD WriteRecord(int descriptor, const std::string& bytes);
     DWORD Replace(const std::string& content);
 
-    const std::filesystem::path m_path;
-    const std::u16string m_rootName;
-    std::shared_ptr<KeyNode> m_root;
-    unsigned m_generation = 0;
-    Descriptor m_file;        // for reading; held so that its number goes to no other file
-    off_t m_seenSize = 0;     // of the file when it was last read
-    off_t m_completeSize = 0; // up to the end of its last complete record
-    off_t m_compactAbove;
-    bool m_appended = false;
-    std::set<std::string> m_reportedFailures;
-    std::vector<std::string> m_reports;
+    const std::filesystem::path path;
+    const std::u16string rootName;
+    std::shared_ptr<KeyNode> root;
+    unsigned generation = 0;
+    Descriptor file;        // for reading; held so that its number goes to no other file
+    off_t seenSize = 0;     // of the file when it was last read
+    off_t completeSize = 0; // up to the end of its last complete record
+    off_t compactAbove;
+    bool appended = false;
+    std::set<std::string> reportedFailures;
+    std::vector<std::string> reports;
 };
 
 } // namespace Pal

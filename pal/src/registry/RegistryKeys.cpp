@@ -1,9 +1,9 @@
-// Calls that open, make, close and delete keys.
+// Calls that open, create, close and delete keys.
 #include <windows.h>
 
-#include "../Faults.h"
-#include "../WideText.h"
-#include "RegistrySession.h"
+#include "Faults.h"
+#include "WideText.h"
+#include "registry/RegistrySession.h"
 
 namespace Pal
 {
@@ -30,7 +30,7 @@ LSTATUS AppendName(std::u16string_view name, KeyPath& path)
     return ERROR_SUCCESS;
 }
 
-// Appends the names of a sub-key's path. Empty ones, as at the end of "a\b\", do not count.
+// Appends the names of a sub-key's path. Empty names, as at the end of "a\b\", are skipped.
 LSTATUS AppendSubKey(LPCWSTR subKey, KeyPath& path)
 {
     const std::u16string text = Utf16FromWide(subKey ? subKey : L"");
@@ -48,7 +48,7 @@ LSTATUS AppendSubKey(LPCWSTR subKey, KeyPath& path)
     return ERROR_SUCCESS;
 }
 
-// In the 32-bit view HKEY_LOCAL_MACHINE\Software lies in its own key WOW6432Node.
+// In the 32-bit view HKEY_LOCAL_MACHINE\Software is the key WOW6432Node below it.
 void ApplyView(RegistryRoot root, REGSAM view, KeyPath& path)
 {
     constexpr std::u16string_view node = u"WOW6432Node";
@@ -134,14 +134,14 @@ LSTATUS DeleteKey(HKEY key, LPCWSTR subKey, REGSAM view)
 
 } // namespace Pal
 
-// Keeps:   makes every missing key on the way; an empty subKey opens the key itself; a name of more
-//          than 255 characters is ERROR_INVALID_PARAMETER and a leading backslash
-//          ERROR_BAD_PATHNAME. The handle's own rights do not limit what is made below it. In the
-//          32-bit view HKEY_LOCAL_MACHINE\Software is HKEY_LOCAL_MACHINE\Software\WOW6432Node.
+// Keeps:   creates every missing key of the path; an empty subKey opens the key itself; a name of
+//          more than 255 characters is ERROR_INVALID_PARAMETER and a leading backslash
+//          ERROR_BAD_PATHNAME. The handle's own rights do not limit what is created below it. In
+//          the 32-bit view HKEY_LOCAL_MACHINE\Software is HKEY_LOCAL_MACHINE\Software\WOW6432Node.
 // Differs: every right that is asked for is granted. All of HKEY_LOCAL_MACHINE\Software has two
 //          views, and a root that RegOverridePredefKey redirected has one.
 // Refuses: a class, every option but REG_OPTION_NON_VOLATILE, security attributes, rights that
-//          winreg.h does not name, and names that hold CR or LF, which the file cannot spell.
+//          winreg.h does not name, and names with CR or LF, which the file format cannot hold.
 LSTATUS RegCreateKeyExW(HKEY key, LPCWSTR subKey, DWORD reserved, LPWSTR className, DWORD options,
     REGSAM desiredAccess, const LPSECURITY_ATTRIBUTES securityAttributes, PHKEY result,
     LPDWORD disposition)
@@ -176,7 +176,8 @@ LSTATUS RegOpenKeyExW(HKEY key, LPCWSTR subKey, DWORD options, REGSAM desiredAcc
     return Pal::OpenExisting(key, subKey, desiredAccess, result);
 }
 
-// Keeps:   ERROR_INVALID_HANDLE for what is no open key; closing a predefined key does nothing.
+// Keeps:   ERROR_INVALID_HANDLE for a value that is no open key; closing a predefined key does
+//          nothing.
 LSTATUS RegCloseKey(HKEY key)
 {
     const auto fault = Pal::InjectedFault(__func__);
@@ -187,9 +188,9 @@ LSTATUS RegCloseKey(HKEY key)
     return closed ? ERROR_SUCCESS : ERROR_INVALID_HANDLE;
 }
 
-// Keeps:   the handle's rights do not matter; an empty subKey deletes the key itself; a key with
-//          sub-keys and a root are ERROR_ACCESS_DENIED; open handles of the key answer
-//          ERROR_KEY_DELETED from then on.
+// Keeps:   the handle's rights are not checked; an empty subKey deletes the key itself; a key with
+//          sub-keys and a root are ERROR_ACCESS_DENIED; after it, open handles of the key return
+//          ERROR_KEY_DELETED.
 LSTATUS RegDeleteKeyExW(HKEY key, LPCWSTR subKey, REGSAM view, DWORD reserved)
 {
     if (const auto fault = Pal::InjectedFault(__func__))
@@ -206,8 +207,8 @@ LSTATUS RegDeleteKeyW(HKEY key, LPCWSTR subKey)
 }
 
 // Keeps:   redirects a predefined key, for this process only, to the key of a handle, which may be
-//          closed afterwards; a null replacement undoes it.
-// Differs: the redirection keeps the machine on which the handle was opened.
+//          closed afterwards; a null replacement removes the redirection.
+// Differs: the redirection refers to the machine on which the handle was opened.
 LSTATUS RegOverridePredefKey(HKEY key, HKEY replacement)
 {
     if (const auto fault = Pal::InjectedFault(__func__))

@@ -1,10 +1,10 @@
-#include "RegistrySession.h"
+#include "registry/RegistrySession.h"
 
-#include <cstdlib>
+#include "registry/RegFileWriter.h"
 
 #include <QtDebug>
 
-#include "RegFileWriter.h"
+#include <cstdlib>
 
 namespace Pal
 {
@@ -41,47 +41,47 @@ void CompactWhenTheProcessEnds()
 
 std::mutex& RegistryMutex()
 {
-    static std::mutex& mutex = *new std::mutex; // used until the process ends
+    static std::mutex& mutex = *new std::mutex; // never destroyed: used during exit
     return mutex;
 }
 
-RegistrySession::RegistrySession(HKEY key, REGSAM rights, Access access)
-    : m_processLock(RegistryMutex()), m_key(FindOpenKey(key)), m_error(Open(rights, access))
+RegistrySession::RegistrySession(HKEY handle, REGSAM rights, Access access)
+    : processLock(RegistryMutex()), key(FindOpenKey(handle)), error(Open(rights, access))
 {
 }
 
 RegistrySession::~RegistrySession()
 {
-    m_fileLock = Descriptor();
+    fileLock = Descriptor();
     const std::vector<std::string> reports =
-        m_key ? File().TakeReports() : std::vector<std::string>{};
-    m_processLock.unlock();
+        key ? File().TakeReports() : std::vector<std::string>{};
+    processLock.unlock();
     PrintReports(reports);
 }
 
 LSTATUS RegistrySession::Open(REGSAM rights, Access access)
 {
-    if (!m_key)
+    if (!key)
         return ERROR_INVALID_HANDLE;
-    if (!m_key->Allows(rights))
+    if (!key->Allows(rights))
         return ERROR_ACCESS_DENIED;
-    const DWORD error = Location().store->Enter(Location().root, access, m_fileLock);
-    if (error != ERROR_SUCCESS)
-        return static_cast<LSTATUS>(error);
-    m_node = m_key->Node();
-    return m_node ? ERROR_SUCCESS : ERROR_KEY_DELETED;
+    const DWORD entered = Location().store->Enter(Location().root, access, fileLock);
+    if (entered != ERROR_SUCCESS)
+        return static_cast<LSTATUS>(entered);
+    node = key->Node();
+    return node ? ERROR_SUCCESS : ERROR_KEY_DELETED;
 }
 
 LSTATUS RegistrySession::SetValue(RegistryValue value)
 {
     const auto record = ValueRecord(RootName(Location().root), Location().path, value);
-    return Change(record, [&] { m_node->SetValue(std::move(value)); });
+    return Change(record, [&] { node->SetValue(std::move(value)); });
 }
 
 LSTATUS RegistrySession::RemoveValue(const std::u16string& name)
 {
     const auto record = RemovedValueRecord(RootName(Location().root), Location().path, name);
-    return Change(record, [&] { m_node->RemoveValue(name); });
+    return Change(record, [&] { node->RemoveValue(name); });
 }
 
 LSTATUS RegistrySession::MakeKeyAt(const KeyPath& path)
@@ -99,11 +99,11 @@ LSTATUS RegistrySession::Change(
     const std::u16string& record, const std::function<void()>& changeTree)
 {
     CompactWhenTheProcessEnds();
-    const DWORD error = File().Append(record);
-    if (error != ERROR_SUCCESS)
+    const DWORD appended = File().Append(record);
+    if (appended != ERROR_SUCCESS)
     {
         File().ReportFailure("written");
-        return static_cast<LSTATUS>(error);
+        return static_cast<LSTATUS>(appended);
     }
     changeTree();
     File().CompactIfLarge();

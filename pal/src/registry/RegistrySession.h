@@ -1,31 +1,31 @@
-// One call's hold on the registry.
+// Access to the registry for the duration of one call.
 #pragma once
+
+#include "registry/OpenKeys.h"
 
 #include <functional>
 #include <mutex>
 
-#include "OpenKeys.h"
-
 namespace Pal
 {
 
-// From construction to destruction the calling thread has the registry for itself within this
-// process, and holds the lock against other processes. Warnings that come up on the way are
-// printed when all that is released, so a message handler may use the registry.
+// From construction to destruction the thread holds the registry's mutex within this process and
+// the file lock against other processes. Warnings are printed after both are released, so a message
+// handler may use the registry.
 class RegistrySession
 {
 public:
-    // rights: what the handle must have been opened with.
-    RegistrySession(HKEY key, REGSAM rights, Access access);
+    // rights: required of the handle.
+    RegistrySession(HKEY handle, REGSAM rights, Access access);
     ~RegistrySession();
     RegistrySession(const RegistrySession&) = delete;
     RegistrySession& operator=(const RegistrySession&) = delete;
 
-    // Whether the session may be used: the members below only after ERROR_SUCCESS.
-    LSTATUS Error() const { return m_error; }
+    // The members below may be used only after ERROR_SUCCESS.
+    LSTATUS Error() const { return error; }
 
-    const KeyLocation& Location() const { return m_key->Location(); }
-    KeyNode& Key() const { return *m_node; }
+    const KeyLocation& Location() const { return key->Location(); }
+    KeyNode& Key() const { return *node; }
     const std::shared_ptr<KeyNode>& Root() const { return File().Root(); }
 
     // Changes of the key itself, on disk and then in the tree.
@@ -41,14 +41,14 @@ private:
     RegistryFile& File() const { return Location().store->File(Location().root); }
     LSTATUS Change(const std::u16string& record, const std::function<void()>& changeTree);
 
-    std::unique_lock<std::mutex> m_processLock;
-    std::shared_ptr<OpenKey> m_key;
-    std::shared_ptr<KeyNode> m_node;
-    Descriptor m_fileLock;
-    LSTATUS m_error;
+    std::unique_lock<std::mutex> processLock;
+    std::shared_ptr<OpenKey> key;
+    std::shared_ptr<KeyNode> node;
+    Descriptor fileLock;
+    LSTATUS error;
 };
 
-// The mutex that a session holds, for what needs no file.
+// The mutex that a session holds, for calls that need no file.
 std::mutex& RegistryMutex();
 
 } // namespace Pal

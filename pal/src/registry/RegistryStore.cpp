@@ -1,15 +1,15 @@
-#include "RegistryStore.h"
+#include "registry/RegistryStore.h"
+
+#include "ErrorMapping.h"
+#include "FileLock.h"
+#include "Machine.h"
+
+#include <Pal.h>
 
 #include <cerrno>
 
 #include <fcntl.h>
 #include <sys/file.h>
-
-#include <Pal.h>
-
-#include "../ErrorMapping.h"
-#include "../FileLock.h"
-#include "../Machine.h"
 
 namespace Pal
 {
@@ -29,7 +29,7 @@ DWORD RefreshOrSetAside(RegistryFile& file, const Descriptor& lock)
     DWORD error = file.Refresh();
     if (error != ERROR_BADDB)
         return error;
-    // Another process may have set it aside before this one has the lock for itself.
+    // Another process may have set it aside before this one had the exclusive lock.
     error = LockFile(lock, LOCK_EX);
     if (error == ERROR_SUCCESS)
         error = file.Refresh();
@@ -43,24 +43,24 @@ std::u16string RootName(RegistryRoot root)
     return root == RegistryRoot::CurrentUser ? u"HKEY_CURRENT_USER" : u"HKEY_LOCAL_MACHINE";
 }
 
-RegistryStore::RegistryStore(fs::path machineRoot)
-    : m_machineRoot(std::move(machineRoot)),
-      m_files{RegistryFile(RegistryFolder(m_machineRoot) / "HKEY_CURRENT_USER.reg",
-                  RootName(RegistryRoot::CurrentUser)),
-          RegistryFile(RegistryFolder(m_machineRoot) / "HKEY_LOCAL_MACHINE.reg",
+RegistryStore::RegistryStore(fs::path root)
+    : machineRoot(std::move(root)),
+      files{RegistryFile(RegistryFolder(machineRoot) / "HKEY_CURRENT_USER.reg",
+                RootName(RegistryRoot::CurrentUser)),
+          RegistryFile(RegistryFolder(machineRoot) / "HKEY_LOCAL_MACHINE.reg",
               RootName(RegistryRoot::LocalMachine))}
 {
 }
 
 DWORD RegistryStore::OpenLock(Descriptor& lock) const
 {
-    lock = OpenLockFile(LockPath(m_machineRoot), O_CREAT);
+    lock = OpenLockFile(LockPath(machineRoot), O_CREAT);
     if (!lock.IsOpen() && errno == ENOENT)
     {
-        const std::error_code error = CreateMachine(m_machineRoot);
+        const std::error_code error = CreateMachine(machineRoot);
         if (error)
             return ErrorFromErrno(error.value());
-        lock = OpenLockFile(LockPath(m_machineRoot), O_CREAT);
+        lock = OpenLockFile(LockPath(machineRoot), O_CREAT);
     }
     return lock.IsOpen() ? ERROR_SUCCESS : ErrorFromErrno(errno);
 }
@@ -79,10 +79,10 @@ DWORD RegistryStore::Enter(RegistryRoot root, Access access, Descriptor& lock)
 
 void RegistryStore::CompactAtExit()
 {
-    const Descriptor lock = OpenLockFile(LockPath(m_machineRoot), 0);
+    const Descriptor lock = OpenLockFile(LockPath(machineRoot), 0);
     if (!lock.IsOpen() || LockFile(lock, LOCK_EX) != ERROR_SUCCESS)
         return; // the machine is gone, or the files stay as they are: longer, but right
-    for (RegistryFile& file : m_files)
+    for (RegistryFile& file : files)
     {
         if (file.Refresh() == ERROR_SUCCESS)
             file.CompactIfAppended();
@@ -91,7 +91,7 @@ void RegistryStore::CompactAtExit()
 
 std::shared_ptr<RegistryStore> CurrentStore()
 {
-    static auto& current = *new std::shared_ptr<RegistryStore>; // used until the process ends
+    static auto& current = *new std::shared_ptr<RegistryStore>; // never destroyed: used during exit
     const fs::path root = MachineRoot();
     PutSystemFolderOnPath(root);
     if (!current || current->MachineRoot() != root)

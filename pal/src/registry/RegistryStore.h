@@ -1,10 +1,10 @@
 // The registry of one machine: its root files and the lock that all processes share.
 #pragma once
 
+#include "registry/RegistryFile.h"
+
 #include <array>
 #include <memory>
-
-#include "RegistryFile.h"
 
 namespace Pal
 {
@@ -24,13 +24,13 @@ enum class Access
 class RegistryStore
 {
 public:
-    explicit RegistryStore(std::filesystem::path machineRoot);
+    explicit RegistryStore(std::filesystem::path root);
 
-    RegistryFile& File(RegistryRoot root) { return m_files[static_cast<size_t>(root)]; }
-    const std::filesystem::path& MachineRoot() const { return m_machineRoot; }
+    RegistryFile& File(RegistryRoot root) { return files[static_cast<size_t>(root)]; }
+    const std::filesystem::path& MachineRoot() const { return machineRoot; }
 
-    // Takes the lock, making the machine first if it is not there, and brings the root's file up
-    // to date. The lock is held as long as its descriptor is open.
+    // Takes the lock, after creating the machine if it is missing, and updates the root's tree from
+    // its file. The lock is held until its descriptor is closed.
     DWORD Enter(RegistryRoot root, Access access, Descriptor& lock);
 
     // Tidies the files that this process has appended to. Nothing is made that is not there.
@@ -39,8 +39,8 @@ public:
 private:
     DWORD OpenLock(Descriptor& lock) const;
 
-    const std::filesystem::path m_machineRoot;
-    std::array<RegistryFile, 2> m_files;
+    const std::filesystem::path machineRoot;
+    std::array<RegistryFile, 2> files;
 };
 
 // The store of the machine root that the environment names now.

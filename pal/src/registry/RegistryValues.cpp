@@ -1,11 +1,11 @@
 // Calls on a value of an open key.
 #include <windows.h>
 
-#include "../Faults.h"
-#include "../WideText.h"
-#include "RegistrySession.h"
-#include "ValueData.h"
-#include "ValueOutput.h"
+#include "Faults.h"
+#include "WideText.h"
+#include "registry/RegistrySession.h"
+#include "registry/ValueData.h"
+#include "registry/ValueOutput.h"
 
 namespace Pal
 {
@@ -35,13 +35,12 @@ LSTATUS CheckNewValue(const std::u16string& name, DWORD type, const BYTE* data, 
 
 } // namespace Pal
 
-// Keeps:   the bytes as they are given, text with or without its closing zero; an existing name
-//          keeps its case; ERROR_INVALID_PARAMETER for a name of more than 16383 characters;
+// Keeps:   stores the bytes as they are given, text with or without its closing zero; an existing
+//          name keeps its case; ERROR_INVALID_PARAMETER for a name of more than 16383 characters;
 //          ERROR_ACCESS_DENIED without KEY_SET_VALUE.
-// Differs: a text is never lengthened by a zero that follows it. What is no character becomes
-//          U+FFFD.
-// Refuses: types that winreg.h does not name, text that ends within a character, and names that
-//          hold CR or LF, which the file cannot spell.
+// Differs: a text is never extended by a zero that follows it. Invalid characters become U+FFFD.
+// Refuses: types that winreg.h does not name, text that ends within a character, and names with CR
+//          or LF, which the file format cannot hold.
 LSTATUS RegSetValueExW(
     HKEY key, LPCWSTR valueName, DWORD reserved, DWORD type, const BYTE* data, DWORD dataSize)
 {
@@ -58,10 +57,10 @@ LSTATUS RegSetValueExW(
     return session.SetValue({name, type, Pal::DataFromCaller(type, data, dataSize)});
 }
 
-// Keeps:   without a buffer the size alone; ERROR_MORE_DATA with the size and the type when the
-//          buffer is too small; a text without its closing zero gets one where there is room;
+// Keeps:   without a buffer the size alone; ERROR_MORE_DATA with the size and the type if the
+//          buffer is too small; a text without its closing zero gets one if there is room;
 //          ERROR_FILE_NOT_FOUND for a missing value.
-// Differs: text comes as UTF-32, whichever way it was given, and sizes count that.
+// Differs: text is returned as UTF-32, whichever way it was stored, and sizes count that.
 LSTATUS RegQueryValueExW(
     HKEY key, LPCWSTR valueName, LPDWORD reserved, LPDWORD type, LPBYTE data, LPDWORD dataSize)
 {

@@ -1,9 +1,8 @@
-#include "ValueData.h"
+#include "registry/ValueData.h"
+
+#include "WideText.h"
 
 #include <algorithm>
-
-#include "RegFileWriter.h"
-#include "WideText.h"
 
 namespace Pal
 {
@@ -48,6 +47,18 @@ DWORD DwordOf(const std::string& data)
     for (size_t i = sizeof(DWORD); i-- > 0;)
         number = (number << 8) | static_cast<BYTE>(data[i]);
     return number;
+}
+
+std::string DiskBytes(std::u16string_view text)
+{
+    std::string bytes;
+    bytes.reserve(text.size() * sizeof(char16_t));
+    for (const char16_t unit : text)
+    {
+        bytes.push_back(static_cast<char>(unit & 0xFF));
+        bytes.push_back(static_cast<char>(unit >> 8));
+    }
+    return bytes;
 }
 
 std::u16string CharactersOf(std::string_view diskBytes)

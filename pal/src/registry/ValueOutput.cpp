@@ -1,11 +1,11 @@
-#include "ValueOutput.h"
+#include "registry/ValueOutput.h"
+
+#include "WideText.h"
+#include "registry/ValueData.h"
 
 #include <algorithm>
 #include <cstring>
 #include <utility>
-
-#include "../WideText.h"
-#include "ValueData.h"
 
 namespace Pal
 {
@@ -13,7 +13,7 @@ namespace Pal
 namespace
 {
 
-// A text that was stored without its closing zero gets one where there is room for it.
+// Adds the closing zero to a text that was stored without one, if there is room.
 void CloseText(const std::string& bytes, BYTE* data, DWORD room)
 {
     constexpr size_t width = sizeof(wchar_t);
