@@ -1,5 +1,7 @@
 #include "codecs/BoundedProcess.h"
 
+#include <Descriptor.h>
+
 #include <QFile>
 
 #include <algorithm>
@@ -28,26 +30,7 @@ namespace
 {
 
 using Clock = std::chrono::steady_clock;
-
-class Descriptor
-{
-public:
-    explicit Descriptor(int owned = -1) : descriptor(owned) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() { Reset(); }
-
-    int Get() const { return descriptor; }
-    void Reset(int owned = -1)
-    {
-        if (descriptor >= 0)
-            close(descriptor);
-        descriptor = owned;
-    }
-
-private:
-    int descriptor;
-};
+using Pal::Descriptor;
 
 struct Pipe
 {
@@ -59,8 +42,8 @@ struct Pipe
         std::array<int, 2> ends{};
         if (pipe2(ends.data(), O_CLOEXEC) != 0)
             throw std::system_error(errno, std::generic_category(), "pipe");
-        readEnd.Reset(ends[0]);
-        writeEnd.Reset(ends[1]);
+        readEnd = Descriptor(ends[0]);
+        writeEnd = Descriptor(ends[1]);
         fcntl(readEnd.Get(), F_SETFL, O_NONBLOCK);
     }
 };
@@ -216,7 +199,7 @@ void RunInGroup(const QString& program, const QStringList& arguments,
     Child child(id);
     if (child.PidFd() < 0)
         throw std::system_error(errno, std::generic_category(), "pidfd_open");
-    pipe.writeEnd.Reset();
+    pipe.writeEnd = Descriptor();
     const BoundedRun::End ending = Watch(child, pipe.readEnd.Get(), end, maxOutput, run.output);
     const int status = child.EndGroup();
     run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : 0;

@@ -1,5 +1,7 @@
 #include "platform/System.h"
 
+#include "foundation/NearestExisting.h"
+
 #include <Pal.h>
 
 #include <QDir>
@@ -28,10 +30,7 @@ QVariant MachineSetting(const QString& name)
 // without a device of their own do not say.
 bool IsOnRotationFreeDevice(const QString& path)
 {
-    QFileInfo existing(QDir::cleanPath(path));
-    while (!existing.exists() && !existing.isRoot())
-        existing.setFile(existing.path());
-
+    const QFileInfo existing = Platform::NearestExisting(path);
     struct stat status = {};
     if (stat(QFile::encodeName(existing.absoluteFilePath()).constData(), &status) != 0)
         return false;

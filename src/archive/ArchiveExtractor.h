@@ -15,8 +15,7 @@ namespace Vorlan
 // Reads a 7z payload archive. Used by one thread at a time.
 //
 // Entry names are as the archive holds them: UTF-16 code units, one per wchar_t on every system,
-// with
-// "/" between their components. An archive with a name that must not become a file name (see
+// their components separated by "/". An archive with a name that must not become a file name (see
 // IsSafeEntryName) is refused as corrupted.
 class ArchiveExtractor
 {

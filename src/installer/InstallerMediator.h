@@ -1,9 +1,7 @@
 #pragma once
 
 #include "base/Export.h"
-#include "base/ExtractSettings.h"
 #include "base/InstallationSettings.h"
-#include "registry/RegistrationProfile.h"
 
 #include <QFileInfoList>
 #include <QObject>
@@ -19,12 +17,15 @@
 #include <thread>
 #include <vector>
 
+struct ExtractSettings;
+
 /// The installation engine.
 namespace Vorlan
 {
 
 class ArchiveExtractor;
 class SettingsManager;
+struct RegistrationProfile;
 struct WaitClock;
 
 namespace App
@@ -56,7 +57,7 @@ struct INSTALLER_EXPORT ObjectsConnectorID
 /// The engine's one public object: it proposes the settings of an installation or an uninstallation
 /// and runs it. A front end constructs one, connects to its signals (queued), changes the proposed
 /// settings, and calls StartInstallation or StartUninstall.
-//
+///
 /// Threads: construction, slots and getters belong to the front end's thread. A run works on a
 /// thread of its own and emits its signals from there; while it is InProgress the settings must not
 /// be changed. Neither may the mediator be destroyed, nor a run started, from the run's own thread.
@@ -270,7 +271,7 @@ private:
     std::unique_ptr<App::URLHandler> urlHandler;
     std::thread worker;
     InstallationSettings settings;
-    RegistrationProfile profile;
+    std::unique_ptr<RegistrationProfile> profile; // never null
     bool parallelCopy = false;
     bool unattended = false;
     bool deleteUserSettings = false;
