@@ -128,6 +128,7 @@ int Spawn(const QString& program, const QStringList& arguments, int output, pid_
     for (const QString& argument : arguments)
         texts.push_back(argument.toStdString());
     std::vector<char*> words;
+    words.reserve(texts.size() + 1);
     for (std::string& text : texts)
         words.push_back(text.data());
     words.push_back(nullptr);

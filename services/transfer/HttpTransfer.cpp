@@ -14,8 +14,8 @@ namespace
 
 using Clock = std::chrono::steady_clock;
 
-constexpr long receiveBuffer = 256 * 1024;
-constexpr long long largestRedirectBody = 64 * 1024; // it is read and dropped
+constexpr long receiveBuffer = 256L * 1024;
+constexpr long long largestRedirectBody = 64LL * 1024; // it is read and dropped
 constexpr long statusOk = 200;
 
 bool IsRedirect(long status)

@@ -76,7 +76,7 @@ QString ReceivedConfigPath()
     return Platform::LogFolder() + QDir::separator() + "web-config.json";
 }
 
-ExitCode RequestWebConfig(Context context)
+ExitCode RequestWebConfig(const Context& context)
 {
     Networking::HttpRequest request;
     request.url = RequestUrl(context);

@@ -214,7 +214,7 @@ uint64_t ArchiveExtractor::GetTotalUnpackedSize() const
 }
 
 void ArchiveExtractor::Unpack(
-    const ExtractSettings& selection, const std::wstring& destination, Progress progress)
+    const ExtractSettings& selection, const std::wstring& destination, const Progress& progress)
 {
     std::vector<UInt32> entries;
     for (UInt32 index = 0; index < state->names.size(); ++index)

@@ -48,7 +48,7 @@ public:
     // directory", "Cannot open destination file for write", "Cannot write output file" or "Cannot
     // close output file". What was written before stays.
     void Unpack(
-        const ExtractSettings& selection, const std::wstring& destination, Progress progress);
+        const ExtractSettings& selection, const std::wstring& destination, const Progress& progress);
 
 private:
     struct State;

@@ -172,7 +172,7 @@ InstallationState InstallerMediator::GetInstallationState() const
 
 QString InstallerMediator::GetProductName() const
 {
-    const QString name = ProductProfile::productName;
+    QString name = ProductProfile::productName;
     if (!productIniSettings)
         return name;
     return productIniSettings->value(name + '_' + settings.locale.toUpper(), name).toString();
@@ -202,7 +202,7 @@ void InstallerMediator::StartPushNotificationHelper() {}
 
 void InstallerMediator::OnLocaleChanged(QString localeCode)
 {
-    settings.locale = localeCode;
+    settings.locale = std::move(localeCode);
 }
 
 void InstallerMediator::OnDeleteUserSettings(bool isChecked)

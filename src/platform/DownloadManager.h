@@ -50,7 +50,7 @@ public:
     // The checker, which may be empty, names the cause after a failure; it never forbids a
     // transfer.
     DownloadManager(std::shared_ptr<App::IInternetConnectionChecker> connectionChecker,
-        std::shared_ptr<App::ICustomizationManager> customization, QObject* parent = nullptr,
+        const std::shared_ptr<App::ICustomizationManager>& customization, QObject* parent = nullptr,
         Networking::TransferPolicy transferPolicy = {});
 
     // Ends a download in progress without a further signal.

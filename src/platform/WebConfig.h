@@ -43,7 +43,7 @@ struct Context
 // it nobody is asked. The query holds app, version, session, and where they are given parameter and
 // preview=1. Blocks until the end, at most five seconds. Throws std::runtime_error only when
 // libcurl gives no handle.
-ExitCode RequestWebConfig(Context context);
+ExitCode RequestWebConfig(const Context& context);
 
 // Where the configuration received last lies, for the host and the product to read: the file
 // "web-config.json" in the product's log folder, replaced as a whole by each request that succeeds.

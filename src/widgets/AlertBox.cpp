@@ -123,9 +123,11 @@ QLayout* AlertBox::Form::MakeBody(QFrame* frame)
     return body;
 }
 
+// The icon by value is part of the exported interface.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 AlertBox::AlertBox(const QString& text, QWidget* parent,
     QFlags<QDialogButtonBox::StandardButton> buttons, QPixmap pixmap)
-    : MovableWidget<QDialog>(parent), icon(std::move(pixmap))
+    : MovableWidget<QDialog>(parent), icon(pixmap)
 {
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     form = std::make_unique<Form>(*this);
