@@ -2,31 +2,8 @@
 
 #include "base/TriState.h"
 
-#include "base/ProductProfile.h"
-#include "installer/InstallerMediator.h"
-
-#include <QCoreApplication>
-#include <QFileInfo>
-
 namespace Vorlan::FrontEnd
 {
-
-QString ArchivePath()
-{
-    return QDir(QCoreApplication::applicationDirPath()).filePath(ProductProfile::archiveFileName);
-}
-
-bool HasArchive()
-{
-    return QFileInfo(ArchivePath()).isFile();
-}
-
-std::unique_ptr<InstallerMediator> MakeInstaller(QSettings::Scope scope, bool isUnattended)
-{
-    const QString programName = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
-    return std::make_unique<InstallerMediator>(
-        InstallerMediator::Initializer{programName, true, isUnattended, scope, true});
-}
 
 InstallationSettings ApplyOptions(InstallationSettings settings, const CommandLine& options)
 {

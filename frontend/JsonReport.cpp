@@ -1,6 +1,7 @@
 #include "JsonReport.h"
 
 #include <QJsonDocument>
+#include <QJsonObject>
 
 #include <ostream>
 
@@ -8,6 +9,74 @@ namespace Vorlan::FrontEnd
 {
 namespace
 {
+
+// The names in these objects are part of the documented output. "title" is a parameter without a
+// name in the mediator.
+QJsonObject ToJson(const Events::ApplicationStarted& event)
+{
+    return {{"signal", "ApplicationStarted"}, {"method", event.method}};
+}
+
+QJsonObject ToJson(const Events::InstallationStarted&)
+{
+    return {{"signal", "InstallationStarted"}};
+}
+
+QJsonObject ToJson(const Events::InstallationProgress& event)
+{
+    return {{"signal", "InstallationProgress"}, {"p", event.fraction}, {"title", event.title},
+        {"progressText", event.text}};
+}
+
+QJsonObject ToJson(const Events::InstallationFinished&)
+{
+    return {{"signal", "InstallationFinished"}};
+}
+
+QJsonObject ToJson(const Events::InstallationError& event)
+{
+    return {{"signal", "InstallationError"}, {"text", event.text}, {"currentPage", event.state}};
+}
+
+QJsonObject ToJson(const Events::TrackCoreStatistics& event)
+{
+    QJsonObject groups;
+    for (const auto& [groupName, values] : event.statistics)
+    {
+        QJsonObject group;
+        for (const auto& [name, value] : values)
+        {
+            group.insert(QString::fromStdString(name), QString::fromStdString(value));
+        }
+        groups.insert(QString::fromStdString(groupName), group);
+    }
+    return {{"signal", "TrackCoreStatistics"}, {"statisticInfo", groups}};
+}
+
+QJsonObject ToJson(const Events::ProcessStarted& event)
+{
+    return {{"signal", "ProcessStarted"}, {"process", QString::fromStdString(event.stage)}};
+}
+
+QJsonObject ToJson(const Events::WebConfigLoaderStarted&)
+{
+    return {{"signal", "WebConfigLoaderStarted"}};
+}
+
+QJsonObject ToJson(const Events::WebConfigLoaderFinished& event)
+{
+    return {{"signal", "WebConfigLoaderFinished"}, {"returnCode", event.returnCode}};
+}
+
+QJsonObject ToJson(const Events::FilesExtracted& event)
+{
+    return {{"signal", "FilesExtracted"}, {"time", qRound(event.seconds * 10) / 10.0}};
+}
+
+QJsonObject ToJson(const Events::CopyFileError& event)
+{
+    return {{"signal", "CopyFileError"}, {"fileName", event.fileName}, {"reason", event.reason}};
+}
 
 void WriteLine(std::ostream& out, const QJsonObject& object)
 {
@@ -18,9 +87,7 @@ void WriteLine(std::ostream& out, const QJsonObject& object)
 
 void WriteJsonEvent(std::ostream& out, const RunEvent& event)
 {
-    QJsonObject line = event.parameters;
-    line.insert("signal", event.signal);
-    WriteLine(out, line);
+    WriteLine(out, std::visit([](const auto& signal) { return ToJson(signal); }, event));
 }
 
 void WriteJsonOutcome(std::ostream& out, const Outcome& outcome)

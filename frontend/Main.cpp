@@ -6,7 +6,6 @@
 #include "ProgressReport.h"
 #include "SilentRun.h"
 #include "Terminal.h"
-#include "UninstallRun.h"
 #include "WindowedRun.h"
 #include "wizard/Appearance.h"
 

@@ -7,75 +7,57 @@ namespace Vorlan::FrontEnd
 namespace
 {
 
-using Statistics = std::map<std::string, std::map<std::string, std::string>>;
-
-// Queued signals carry copies of their parameters, and Qt finds the types by their written names.
+// Queued connections copy the parameters; Qt looks the types up by their names as written in the
+// signal.
 void RegisterParameterTypes()
 {
     qRegisterMetaType<std::string>("std::string");
-    qRegisterMetaType<Statistics>("std::map<std::string,std::map<std::string,std::string> >");
+    qRegisterMetaType<decltype(Events::TrackCoreStatistics::statistics)>(
+        "std::map<std::string,std::map<std::string,std::string> >");
 }
 
-QJsonObject ToJson(const Statistics& statistics)
+class Connector
 {
-    QJsonObject groups;
-    for (const auto& [groupName, values] : statistics)
+public:
+    Connector(const InstallerMediator& source, QObject& eventReceiver, const EventSink& eventSink)
+        : mediator(source), receiver(eventReceiver), sink(eventSink)
     {
-        QJsonObject group;
-        for (const auto& [name, value] : values)
-        {
-            group.insert(QString::fromStdString(name), QString::fromStdString(value));
-        }
-        groups.insert(QString::fromStdString(groupName), group);
     }
-    return groups;
-}
+
+    template <class Event, class... Parameters>
+    void Connect(void (InstallerMediator::*signal)(Parameters...)) const
+    {
+        QObject::connect(
+            &mediator, signal, &receiver,
+            [sink = sink](const std::decay_t<Parameters>&... parameters)
+            { sink(Event{parameters...}); },
+            Qt::QueuedConnection);
+    }
+
+private:
+    const InstallerMediator& mediator;
+    QObject& receiver;
+    const EventSink& sink;
+};
 
 } // namespace
 
 void ConnectEvents(const InstallerMediator& mediator, QObject& receiver, const EventSink& sink)
 {
     RegisterParameterTypes();
-    const auto connect = [&mediator, &receiver](auto signal, auto&& handler)
-    { QObject::connect(&mediator, signal, &receiver, handler, Qt::QueuedConnection); };
-
     using Mediator = InstallerMediator;
-    connect(&Mediator::ApplicationStarted,
-        [sink](const QString& method) {
-            sink({"ApplicationStarted", {{"method", method}}});
-        });
-    connect(&Mediator::InstallationStarted, [sink] { sink({"InstallationStarted", {}}); });
-    connect(&Mediator::InstallationProgress,
-        [sink](double p, const QString& title, const QString& progressText) {
-            sink({"InstallationProgress",
-                {{"p", p}, {"title", title}, {"progressText", progressText}}});
-        });
-    connect(&Mediator::InstallationFinished, [sink] { sink({"InstallationFinished", {}}); });
-    connect(&Mediator::InstallationError,
-        [sink](const QString& text, int currentPage) {
-            sink({"InstallationError", {{"text", text}, {"currentPage", currentPage}}});
-        });
-    connect(&Mediator::TrackCoreStatistics,
-        [sink](const Statistics& statisticInfo) {
-            sink({"TrackCoreStatistics", {{"statisticInfo", ToJson(statisticInfo)}}});
-        });
-    connect(&Mediator::ProcessStarted,
-        [sink](const std::string& process) {
-            sink({"ProcessStarted", {{"process", QString::fromStdString(process)}}});
-        });
-    connect(&Mediator::WebConfigLoaderStarted, [sink] { sink({"WebConfigLoaderStarted", {}}); });
-    connect(&Mediator::WebConfigLoaderFinished,
-        [sink](int returnCode) {
-            sink({"WebConfigLoaderFinished", {{"returnCode", returnCode}}});
-        });
-    connect(&Mediator::FilesExtracted,
-        [sink](float time) {
-            sink({"FilesExtracted", {{"time", qRound(time * 10) / 10.0}}});
-        });
-    connect(&Mediator::CopyFileError,
-        [sink](const QString& fileName, const QString& reason) {
-            sink({"CopyFileError", {{"fileName", fileName}, {"reason", reason}}});
-        });
+    const Connector connector(mediator, receiver, sink);
+    connector.Connect<Events::ApplicationStarted>(&Mediator::ApplicationStarted);
+    connector.Connect<Events::InstallationStarted>(&Mediator::InstallationStarted);
+    connector.Connect<Events::InstallationProgress>(&Mediator::InstallationProgress);
+    connector.Connect<Events::InstallationFinished>(&Mediator::InstallationFinished);
+    connector.Connect<Events::InstallationError>(&Mediator::InstallationError);
+    connector.Connect<Events::TrackCoreStatistics>(&Mediator::TrackCoreStatistics);
+    connector.Connect<Events::ProcessStarted>(&Mediator::ProcessStarted);
+    connector.Connect<Events::WebConfigLoaderStarted>(&Mediator::WebConfigLoaderStarted);
+    connector.Connect<Events::WebConfigLoaderFinished>(&Mediator::WebConfigLoaderFinished);
+    connector.Connect<Events::FilesExtracted>(&Mediator::FilesExtracted);
+    connector.Connect<Events::CopyFileError>(&Mediator::CopyFileError);
 }
 
 } // namespace Vorlan::FrontEnd

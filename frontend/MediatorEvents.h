@@ -12,8 +12,8 @@ class InstallerMediator;
 namespace Vorlan::FrontEnd
 {
 
-// Hands every signal of the mediator to `sink`, on the thread of `receiver` and as long as it
-// lives.
+// Passes every signal of the mediator to `sink`, on the thread of `receiver` until `receiver` is
+// destroyed.
 void ConnectEvents(const InstallerMediator& mediator, QObject& receiver, const EventSink& sink);
 
 } // namespace Vorlan::FrontEnd

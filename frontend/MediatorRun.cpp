@@ -49,13 +49,12 @@ Outcome RunToTheEnd(
         [&](const RunEvent& event)
         {
             sink(event);
-            if (event.signal == "InstallationError")
+            if (const auto* error = std::get_if<Events::InstallationError>(&event))
             {
-                const QString text = event.parameters["text"].toString();
-                outcome = {CodeOf(text), text};
+                outcome = {CodeOf(error->text), error->text};
                 loop.quit();
             }
-            else if (event.signal == "InstallationFinished")
+            else if (std::holds_alternative<Events::InstallationFinished>(event))
             {
                 loop.quit();
             }

@@ -46,24 +46,23 @@ ProgressReport::ProgressReport(std::ostream& stream, bool isTerminal)
 
 void ProgressReport::Show(const RunEvent& event)
 {
-    const QJsonObject& values = event.parameters;
-    if (event.signal == "ProcessStarted")
+    if (const auto* started = std::get_if<Events::ProcessStarted>(&event))
     {
-        ShowStage(values["process"].toString());
+        ShowStage(QString::fromStdString(started->stage));
     }
-    else if (event.signal == "InstallationProgress")
+    else if (const auto* progress = std::get_if<Events::InstallationProgress>(&event))
     {
-        ShowProgress(values["p"].toDouble());
+        ShowProgress(progress->fraction);
     }
-    else if (event.signal == "FilesExtracted")
+    else if (const auto* extracted = std::get_if<Events::FilesExtracted>(&event))
     {
-        ShowLine(QString("Files placed in %1 s").arg(values["time"].toDouble(), 0, 'f', 1));
+        ShowLine(QString("Files placed in %1 s").arg(extracted->seconds, 0, 'f', 1));
     }
-    else if (event.signal == "CopyFileError")
+    else if (const auto* problem = std::get_if<Events::CopyFileError>(&event))
     {
-        ShowLine("Problem: " + values["fileName"].toString() + ": " + values["reason"].toString());
+        ShowLine("Problem: " + problem->fileName + ": " + problem->reason);
     }
-    else if (event.signal == "InstallationFinished")
+    else if (std::holds_alternative<Events::InstallationFinished>(event))
     {
         ShowLine("Done");
     }

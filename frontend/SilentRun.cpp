@@ -1,12 +1,16 @@
 #include "SilentRun.h"
 
 #include "InstallOptions.h"
+#include "InstallRun.h"
 #include "MachineAccess.h"
 #include "MediatorRun.h"
+#include "OwnFolder.h"
+#include "UninstallRun.h"
 #include "WebUserId.h"
 
 #include "installer/InstallerMediator.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QTranslator>
 
@@ -22,7 +26,7 @@ Outcome Failure(const QString& error)
     return {ExitCode::Failed, error};
 }
 
-// The engine would tell of a missing archive in a box that waits for a person.
+// The engine reports a missing archive in a modal box, which an unattended run must not open.
 Outcome CheckArchive()
 {
     if (HasArchive())
@@ -33,7 +37,7 @@ Outcome CheckArchive()
                        .arg(QDir::toNativeSeparators(ArchivePath())));
 }
 
-// A folder that cannot be used at all, and a volume without enough room, end differently.
+// An unusable folder and a volume without enough space have different exit codes.
 Outcome CheckFolder(const InstallationSettings& settings)
 {
     QString error;
@@ -54,7 +58,8 @@ Outcome CheckFolder(const InstallationSettings& settings)
     return {};
 }
 
-Outcome InstallWith(InstallerMediator& mediator, const CommandLine& options, const EventSink& sink)
+Outcome InstallWithOptions(
+    InstallerMediator& mediator, const CommandLine& options, const EventSink& sink)
 {
     InstallationSettings settings = ApplyOptions(mediator.GetSettings(), options);
     const auto translator = InstallTranslation(settings.locale);
@@ -64,9 +69,7 @@ Outcome InstallWith(InstallerMediator& mediator, const CommandLine& options, con
         return refusal;
     }
     settings.userInfo.webUid = FindWebUid(mediator, options);
-    mediator.SetSettings(settings);
-    mediator.OnLocaleChanged(settings.locale);
-    return RunToTheEnd(mediator, &InstallerMediator::StartInstallation, sink);
+    return InstallWith(mediator, settings, sink);
 }
 
 } // namespace
@@ -84,12 +87,29 @@ Outcome InstallSilently(const CommandLine& options, const EventSink& sink)
     }
     try
     {
-        return InstallWith(*MakeInstaller(options.Scope(), true), options, sink);
+        return InstallWithOptions(*MakeInstaller(options.Scope(), true), options, sink);
     }
     catch (const std::exception& error)
     {
         return Failure(QString("The setup cannot start: %1. Download it again.").arg(error.what()));
     }
+}
+
+Outcome UninstallSilently(const CommandLine& options, const EventSink& sink)
+{
+    const QString folder = QCoreApplication::applicationDirPath();
+    const OwnFolder own = ExamineOwnFolder(folder, options.Scope());
+    if (!own.refusal.isEmpty())
+    {
+        return Failure(own.refusal);
+    }
+    if (own.scope == QSettings::SystemScope && !CanChangeMachine())
+    {
+        return Failure(MachineRightsMissing());
+    }
+    const auto mediator = MakeUninstaller(own.scope, options, true);
+    const auto translator = InstallTranslation(mediator->GetSettings().locale);
+    return UninstallWith(*mediator, folder, options, sink);
 }
 
 } // namespace Vorlan::FrontEnd

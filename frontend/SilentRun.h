@@ -7,8 +7,12 @@
 namespace Vorlan::FrontEnd
 {
 
-// Installs without any window and without a question, and returns when the run is over. Needs a
+// Install or uninstall without windows and questions, and return after the run. They need a
 // QApplication, the program's own folder as current folder, and absolute paths in the options.
 Outcome InstallSilently(const CommandLine& options, const EventSink& sink);
+
+// Deletes all files at the top of the program's own folder; refuses a folder that is not the
+// product's.
+Outcome UninstallSilently(const CommandLine& options, const EventSink& sink);
 
 } // namespace Vorlan::FrontEnd

@@ -1,6 +1,5 @@
 #include "UninstallRun.h"
 
-#include "MachineAccess.h"
 #include "MediatorRun.h"
 #include "OwnFolder.h"
 
@@ -10,14 +9,13 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryFile>
-#include <QTranslator>
 
 namespace Vorlan::FrontEnd
 {
 namespace
 {
 
-// The script that removes the folder at last is copied there.
+// The script that removes the folder after the run is copied there.
 bool CanUseTemporaryFolder()
 {
     return QTemporaryFile().open();
@@ -56,23 +54,6 @@ Outcome UninstallWith(InstallerMediator& mediator, const QString& folder,
         mark.Finish();
     }
     return outcome;
-}
-
-Outcome UninstallSilently(const CommandLine& options, const EventSink& sink)
-{
-    const QString folder = QCoreApplication::applicationDirPath();
-    const OwnFolder own = ExamineOwnFolder(folder, options.Scope());
-    if (!own.refusal.isEmpty())
-    {
-        return {ExitCode::Failed, own.refusal};
-    }
-    if (own.scope == QSettings::SystemScope && !CanChangeMachine())
-    {
-        return {ExitCode::Failed, MachineRightsMissing()};
-    }
-    const auto mediator = MakeUninstaller(own.scope, options, true);
-    const auto translator = InstallTranslation(mediator->GetSettings().locale);
-    return UninstallWith(*mediator, folder, options, sink);
 }
 
 } // namespace Vorlan::FrontEnd

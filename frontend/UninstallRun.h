@@ -14,16 +14,13 @@ class InstallerMediator;
 namespace Vorlan::FrontEnd
 {
 
-// Uninstalls the product from the program's own folder, without any window. Everything at the top
-// of that folder is deleted, so a folder that is not the product's is refused.
-Outcome UninstallSilently(const CommandLine& options, const EventSink& sink);
-
-// A mediator for an uninstallation. Unattended is a run that nobody watches: it leaves additional
-// modules alone unless all is removed.
+// A mediator for an uninstallation. An unattended run uninstalls additional modules only with
+// /REMOVEALL.
 std::unique_ptr<InstallerMediator> MakeUninstaller(
     QSettings::Scope scope, const CommandLine& options, bool isUnattended);
 
-// The uninstallation itself, from a folder that may be emptied.
+// Uninstalls the product from `folder`, whose files are deleted, and returns after the run. The
+// caller has checked that the folder is the product's.
 Outcome UninstallWith(InstallerMediator& mediator, const QString& folder,
     const CommandLine& options, const EventSink& sink);
 

@@ -1,6 +1,6 @@
 #include "WindowedRun.h"
 
-#include "InstallOptions.h"
+#include "InstallRun.h"
 #include "MachineAccess.h"
 #include "MediatorRun.h"
 #include "OwnFolder.h"

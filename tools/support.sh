@@ -38,23 +38,13 @@ PrintUsage()
     awk 'NR > 1 && !/^#/ { exit } NR > 1 { sub(/^# ?/, ""); print }' "$1"
 }
 
-WriteSourceList()
-{
-    local keyring=/usr/share/keyrings/debian-archive-keyring.gpg
-    cat >"$1" <<LIST
-deb-src [signed-by=$keyring] http://deb.debian.org/debian bookworm main
-deb-src [signed-by=$keyring] http://deb.debian.org/debian bookworm-updates main
-deb-src [signed-by=$keyring] http://deb.debian.org/debian-security bookworm-security main
-LIST
-}
-
-# PrivateApt <folder> <apt-get arguments...>: apt-get with lists and cache of its own, so that the
-# user's package sources stay as they are.
+# PrivateApt <folder> <apt-get arguments...>: apt-get with the source list debian.sources of the folder,
+# with lists and cache of its own, so that the machine's apt configuration stays unchanged.
 PrivateApt()
 {
     local folder=$1
     shift
-    (cd "$folder" && apt-get -o Dir::Etc::sourcelist="$folder/sources.list" \
+    (cd "$folder" && apt-get -o Dir::Etc::sourcelist="$folder/debian.sources" \
         -o Dir::Etc::sourceparts=- -o Dir::State::lists="$folder/lists" \
         -o Dir::Cache="$folder/cache" -o APT::Sandbox::User="$(id -un)" \
         -o APT::Update::Error-Mode=any "$@")
@@ -71,7 +61,7 @@ FetchSource()
     local package=$1 folder=$2 log=$3
     local advice="Check the network and the proxy settings of apt, then run $tool again"
     mkdir -p "$folder"/{lists/partial,cache/archives/partial}
-    WriteSourceList "$folder/sources.list"
+    "$top/tools/source-list" >"$folder/debian.sources" || exit
     RunStep "reading Debian's list of source packages" "$advice" "$log" PrivateApt "$folder" update
     RunStep "downloading Debian's source package $package" "$advice" "$log" \
         PrivateApt "$folder" source --download-only "$package"

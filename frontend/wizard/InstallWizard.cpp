@@ -1,8 +1,8 @@
 #include "wizard/InstallWizard.h"
 
 #include "InstallOptions.h"
+#include "InstallRun.h"
 #include "MachineAccess.h"
-#include "MediatorRun.h"
 #include "WebUserId.h"
 #include "base/ProductProfile.h"
 #include "installer/InstallerMediator.h"
@@ -242,9 +242,7 @@ void InstallWizard::RunInstallation()
     progress->Clear();
     GoTo(Step::Running);
     settings.userInfo.webUid = AskForWebUid();
-    mediator->SetSettings(settings);
-    mediator->OnLocaleChanged(settings.locale);
-    ShowResult(RunToTheEnd(*mediator, &InstallerMediator::StartInstallation,
+    ShowResult(InstallWith(*mediator, settings,
         [this](const RunEvent& event)
         {
             sink(event);

@@ -81,21 +81,18 @@ void ProgressPage::Clear()
 
 void ProgressPage::Show(const RunEvent& event)
 {
-    const QJsonObject& values = event.parameters;
-    if (event.signal == "ProcessStarted")
-        ShowStep(StageText(values["process"].toString()));
-    else if (event.signal == "CopyFileError")
+    if (const auto* started = std::get_if<Events::ProcessStarted>(&event))
+        ShowStep(StageText(QString::fromStdString(started->stage)));
+    else if (const auto* problem = std::get_if<Events::CopyFileError>(&event))
     {
-        copyErrors << values["fileName"].toString() + ": " + values["reason"].toString();
+        copyErrors << problem->fileName + ": " + problem->reason;
         AddDetail(copyErrors.last());
     }
-    else if (event.signal == "InstallationProgress")
+    else if (const auto* position = std::get_if<Events::InstallationProgress>(&event))
     {
-        const QString title = values["title"].toString();
-        const QString text = values["progressText"].toString();
-        if (!title.isEmpty() || !text.isEmpty())
-            ShowStep(title.isEmpty() ? text : title);
-        ShowPosition(values["p"].toDouble());
+        if (!position->title.isEmpty() || !position->text.isEmpty())
+            ShowStep(position->title.isEmpty() ? position->text : position->title);
+        ShowPosition(position->fraction);
     }
 }
 

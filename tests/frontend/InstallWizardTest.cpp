@@ -19,6 +19,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
+
 using namespace Vorlan;
 using namespace Vorlan::FrontEnd;
 
@@ -37,8 +39,15 @@ protected:
         archive =
             std::make_unique<ArchiveBesideProgram>(QFile::exists(made) ? made : Payload(payload));
         wizard = std::make_unique<InstallWizard>(
-            options, [this](const RunEvent& event) { events << event.signal; });
+            options, [this](const RunEvent& event) { events.push_back(event); });
         driver = std::make_unique<WizardDriver>(*wizard);
+    }
+
+    template <class Event>
+    int Count() const
+    {
+        return static_cast<int>(std::count_if(events.begin(), events.end(),
+            [](const RunEvent& event) { return std::holds_alternative<Event>(event); }));
     }
 
     QString Folder() const { return machine.Path("target/Vorlan Quillax"); }
@@ -64,7 +73,7 @@ protected:
 
     Machine machine;
     CommandLine options;
-    QStringList events;
+    std::vector<RunEvent> events;
     std::unique_ptr<ArchiveBesideProgram> archive;
     std::unique_ptr<InstallWizard> wizard;
     std::unique_ptr<WizardDriver> driver;
@@ -88,14 +97,14 @@ TEST_F(InstallWizardTest, IsWalkedAndFinishedByKeysAlone)
         << "this product has no program for it";
     driver->Press(Qt::Key_Return); // returns when the run is over
     EXPECT_EQ(driver->PageName(), "resultPage");
-    EXPECT_EQ(events.count("InstallationFinished"), 1);
+    EXPECT_EQ(Count<Events::InstallationFinished>(), 1);
     EXPECT_TRUE(QFile::exists(Folder() + "/uninst.exe"));
     EXPECT_TRUE(driver->TabTo("startNow"));
     driver->Press(Qt::Key_Space);
     driver->Press(Qt::Key_Return);
     EXPECT_TRUE(wizard->IsOver());
     EXPECT_EQ(wizard->Result().code, ExitCode::Done);
-    EXPECT_EQ(events.count("ApplicationStarted"), 0);
+    EXPECT_EQ(Count<Events::ApplicationStarted>(), 0);
 }
 
 TEST_F(InstallWizardTest, ADoubleClickInstallsOnceAndTheWindowStaysAlive)
@@ -109,7 +118,7 @@ TEST_F(InstallWizardTest, ADoubleClickInstallsOnceAndTheWindowStaysAlive)
     auto* forward = driver->Find<ButtonWithIcon>("forward");
     QTimer::singleShot(0, forward, [&] { QTest::mouseClick(forward, Qt::LeftButton); });
     driver->Click("forward");
-    EXPECT_EQ(events.count("InstallationStarted"), 1);
+    EXPECT_EQ(Count<Events::InstallationStarted>(), 1);
     EXPECT_EQ(driver->PageName(), "resultPage");
     EXPECT_GT(repaints, 0);
 }
@@ -140,7 +149,7 @@ TEST_F(InstallWizardTest, ClosingAsksBeforeTheRunAndIsDeclinedDuringIt)
     ASSERT_EQ(declined.size(), 2);
     EXPECT_TRUE(declined[0].startsWith("The installation cannot be stopped now"));
     EXPECT_EQ(declined[1], declined[0]);
-    EXPECT_EQ(events.count("InstallationFinished"), 1);
+    EXPECT_EQ(Count<Events::InstallationFinished>(), 1);
     driver->Press(Qt::Key_Escape);
     EXPECT_TRUE(wizard->IsOver());
     EXPECT_EQ(wizard->Result().code, ExitCode::Done);
@@ -199,7 +208,7 @@ TEST_F(InstallWizardTest, AnArchiveThatIsGoneAtTheLastMomentCanBePutBack)
             archive->Put(Payload("small.7z"));
             QTest::mouseClick(box.findChild<QWidget*>("retryButton"), Qt::LeftButton);
         });
-    EXPECT_EQ(events.count("InstallationFinished"), 1);
+    EXPECT_EQ(Count<Events::InstallationFinished>(), 1);
 }
 
 TEST_F(InstallWizardTest, TheFolderIsCheckedOnceMoreBeforeTheRun)
@@ -209,7 +218,7 @@ TEST_F(InstallWizardTest, TheFolderIsCheckedOnceMoreBeforeTheRun)
     WriteFile(machine.Path("target"), "in the way");
     driver->Press(Qt::Key_Return);
     EXPECT_EQ(driver->PageName(), "destinationPage");
-    EXPECT_EQ(events, QStringList());
+    EXPECT_TRUE(events.empty());
 }
 
 TEST_F(InstallWizardTest, AFailureIsToldAndCanBeTriedAgain)
@@ -224,7 +233,7 @@ TEST_F(InstallWizardTest, AFailureIsToldAndCanBeTriedAgain)
         GoToOptions();
         driver->Press(Qt::Key_Return);
         ASSERT_EQ(driver->PageName(), "resultPage");
-        EXPECT_EQ(events.count("InstallationError"), attempt);
+        EXPECT_EQ(Count<Events::InstallationError>(), attempt);
         EXPECT_TRUE(driver->Find<QLabel>("resultText")->text().contains("the.log"));
         EXPECT_FALSE(driver->Find<QCheckBox>("startNow")->isVisible());
         driver->Press(attempt == 1 ? Qt::Key_Return : Qt::Key_Escape);
@@ -242,14 +251,14 @@ TEST(ProgressPageTest, CountsStepsAndKeepsWhatCouldNotBeCopied)
 {
     ProgressPage page(QStringList(), "Installing %1");
     page.Retranslate("en_US");
-    page.Show({"ProcessStarted", {{"process", "EXTRACT_FILES"}}});
-    page.Show({"InstallationProgress", {{"p", 0.456}, {"title", ""}, {"progressText", ""}}});
+    page.Show(Events::ProcessStarted{"EXTRACT_FILES"});
+    page.Show(Events::InstallationProgress{0.456, {}, {}});
     EXPECT_EQ(page.findChild<QLabel*>("step")->text(), "Placing the files...");
     EXPECT_EQ(page.findChild<QLabel*>("percent")->text(), "46 %");
     EXPECT_EQ(page.findChild<QProgressBar*>("bar")->value(), 456);
-    page.Show({"InstallationProgress", {{"p", 7.0}, {"title", "Data"}, {"progressText", ""}}});
+    page.Show(Events::InstallationProgress{7.0, "Data", {}});
     EXPECT_EQ(page.findChild<QProgressBar*>("bar")->value(), 1000);
-    page.Show({"CopyFileError", {{"fileName", "a.dll"}, {"reason", "in use"}}});
+    page.Show(Events::CopyFileError{"a.dll", "in use"});
     EXPECT_EQ(page.CopyErrors(), QStringList("a.dll: in use"));
     const auto* details = page.findChild<QListWidget*>("details");
     EXPECT_EQ(details->item(details->count() - 1)->text(), "a.dll: in use");

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QRegularExpression>
 
 namespace
@@ -34,6 +35,25 @@ TEST(ReadmeTest, ThePageOfTheCommandLineNamesEveryOptionAndExitCodeOfTheHelp)
         EXPECT_TRUE(page.contains(quoted)) << name.toStdString();
     }
     EXPECT_EQ(count, 17 + 7);
+}
+
+TEST(ReadmeTest, EveryLinkToAFileOfTheProjectLeadsToOne)
+{
+    const QStringList pages = QDir(PROJECT_SOURCES "/docs")
+                                  .entryList({"*.md"})
+                                  .replaceInStrings(QRegularExpression("^"), "docs/");
+    int count = 0;
+    for (const QString& page : pages + QStringList("README.md"))
+    {
+        const QDir folder = QFileInfo(PROJECT_SOURCES "/" + page).dir();
+        auto links = QRegularExpression("\\[[^\\]]+\\]\\(([^)#:]+)[)#]").globalMatch(TextOf(page));
+        for (; links.hasNext(); ++count)
+        {
+            const QString target = links.next().captured(1);
+            EXPECT_TRUE(folder.exists(target)) << qPrintable(page + " -> " + target);
+        }
+    }
+    EXPECT_GT(count, 50);
 }
 
 } // namespace

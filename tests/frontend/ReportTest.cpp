@@ -1,3 +1,4 @@
+#include "JsonReport.h"
 #include "ProgressReport.h"
 
 #include <gtest/gtest.h>
@@ -9,11 +10,11 @@ namespace Vorlan::FrontEnd
 namespace
 {
 
-const RunEvent extracting{"ProcessStarted", {{"process", "EXTRACT_FILES"}}};
+const RunEvent extracting = Events::ProcessStarted{"EXTRACT_FILES"};
 
 RunEvent Progress(double fraction)
 {
-    return {"InstallationProgress", {{"p", fraction}}};
+    return Events::InstallationProgress{fraction, {}, {}};
 }
 
 std::string Shown(bool terminal, const std::vector<RunEvent>& events)
@@ -41,7 +42,7 @@ TEST(ProgressReportTest, ATerminalSeesOneBarDrawnAnew)
     const std::string half = RenderBar(0.5).toStdString();
     const std::string full = RenderBar(1.0).toStdString();
     EXPECT_EQ(Shown(true, {extracting, Progress(0.5), Progress(0.501), Progress(1.0),
-                              {"FilesExtracted", {{"time", 1.25}}}}),
+                              Events::FilesExtracted{1.25F}}),
         "Placing the files...\n\r" + half + "\r" + full + "\nFiles placed in 1.3 s\n");
 }
 
@@ -62,10 +63,41 @@ TEST(ProgressReportTest, AnotherStageMayBeginBelowTheLastOne)
 
 TEST(ProgressReportTest, ProblemsAndUnknownStagesAreTold)
 {
-    EXPECT_EQ(Shown(false, {{"CopyFileError", {{"fileName", "a.dll"}, {"reason", "no room"}}},
-                               {"ProcessStarted", {{"process", "NEW_STAGE"}}},
-                               {"WebConfigLoaderStarted", {}}}),
+    EXPECT_EQ(
+        Shown(false, {Events::CopyFileError{"a.dll", "no room"},
+                         Events::ProcessStarted{"NEW_STAGE"}, Events::WebConfigLoaderStarted{}}),
         "Problem: a.dll: no room\nNEW_STAGE...\n");
+}
+
+TEST(JsonReportTest, EachEventIsALineWithTheDocumentedNames)
+{
+    const std::vector<std::pair<RunEvent, std::string>> table{
+        {Events::ApplicationStarted{"Manual"},
+            R"({"method":"Manual","signal":"ApplicationStarted"})"},
+        {Events::InstallationStarted{}, R"({"signal":"InstallationStarted"})"},
+        {Events::InstallationProgress{0.25, "Stage", "step"},
+            R"({"p":0.25,"progressText":"step","signal":"InstallationProgress","title":"Stage"})"},
+        {Events::InstallationFinished{}, R"({"signal":"InstallationFinished"})"},
+        {Events::InstallationError{"no \"room\"", 2},
+            R"({"currentPage":2,"signal":"InstallationError","text":"no \"room\""})"},
+        {Events::TrackCoreStatistics{{{"check", {{"pairs", "45"}}}}},
+            R"({"signal":"TrackCoreStatistics","statisticInfo":{"check":{"pairs":"45"}}})"},
+        {Events::ProcessStarted{"EXTRACT_FILES"},
+            R"({"process":"EXTRACT_FILES","signal":"ProcessStarted"})"},
+        {Events::WebConfigLoaderStarted{}, R"({"signal":"WebConfigLoaderStarted"})"},
+        {Events::WebConfigLoaderFinished{8},
+            R"({"returnCode":8,"signal":"WebConfigLoaderFinished"})"},
+        {Events::FilesExtracted{1.2F}, R"({"signal":"FilesExtracted","time":1.2})"},
+        {Events::CopyFileError{"a.dll", "in use"},
+            R"({"fileName":"a.dll","reason":"in use","signal":"CopyFileError"})"},
+    };
+    for (const auto& [event, line] : table)
+    {
+        std::ostringstream out;
+        WriteJsonEvent(out, event);
+        EXPECT_EQ(out.str(), line + "\n");
+    }
+    EXPECT_EQ(table.size(), std::variant_size_v<RunEvent>);
 }
 
 } // namespace

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Outcome.h"
+#include "RunEvent.h"
+
+#include <QSettings>
+#include <QString>
+
+#include <memory>
+
+namespace Vorlan
+{
+class InstallerMediator;
+struct InstallationSettings;
+} // namespace Vorlan
+
+namespace Vorlan::FrontEnd
+{
+
+// Where the payload archive must be: in the program's folder.
+QString ArchivePath();
+bool HasArchive();
+
+// A mediator for an installation from this program's folder. Throws std::runtime_error when the
+// archive cannot be read.
+std::unique_ptr<InstallerMediator> MakeInstaller(QSettings::Scope scope, bool isUnattended);
+
+// Installs with these settings and returns after the run.
+Outcome InstallWith(
+    InstallerMediator& mediator, const InstallationSettings& settings, const EventSink& sink);
+
+} // namespace Vorlan::FrontEnd
