@@ -18,7 +18,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-extern "C" // which this header does not say itself
+extern "C" // missing in this header
 {
 #include <sys/pidfd.h>
 }
@@ -48,7 +48,7 @@ struct Pipe
     }
 };
 
-// Standard input and error lead nowhere, standard output into the pipe.
+// Standard input and error are the null device, standard output is the pipe.
 class FileActions
 {
 public:
@@ -91,8 +91,8 @@ private:
     posix_spawnattr_t attributes{};
 };
 
-// A started program. Its number stays its own until it is reaped, so the group can be ended after
-// the program itself has ended.
+// A started program. Its process id is not reused before it is reaped, so the group can be ended
+// after the program itself has ended.
 class Child
 {
 public:
@@ -185,7 +185,7 @@ BoundedRun::End Watch(
         if (timeLeft == 0)
             return BoundedRun::End::TimedOut;
         if (reading == Reading::Ended)
-            pipe = -1; // it goes on without its output
+            pipe = -1; // end of its output; the process may still run
     }
 }
 

@@ -411,7 +411,7 @@ QSettings::Status RegistrySettings::status() const
     return implementation->status;
 }
 
-// Every write has gone through already.
+// Writes are not buffered.
 void RegistrySettings::sync() {}
 
 } // namespace Vorlan

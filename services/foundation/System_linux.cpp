@@ -26,8 +26,8 @@ QVariant MachineSetting(const QString& name)
     return QSettings(fileName, QSettings::IniFormat).value(name);
 }
 
-// The block device of a path says whether it rotates; a partition asks its disk. File systems
-// without a device of their own do not say.
+// From the block device of a path, or the disk of a partition; false for file systems without a
+// device.
 bool IsOnRotationFreeDevice(const QString& path)
 {
     const QFileInfo existing = Platform::NearestExisting(path);

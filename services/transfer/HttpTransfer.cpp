@@ -57,8 +57,8 @@ TransferCode CodeOf(CURLcode error)
     }
 }
 
-// One request and its answer; redirects are told, not followed, so that each address on the way is
-// checked and asked of the proxy provider like the first.
+// One request and its answer; redirects are reported, not followed, so that each address on the way
+// is checked and asked of the proxy provider like the first.
 class Hop
 {
 public:

@@ -89,7 +89,7 @@ ExitCode RequestWebConfig(const Context& context)
     if (answer.code != TransferCode::Done)
     {
         const ExitCode code = CodeOf(answer.code);
-        if (code == ExitCode::Failed) // every other code says what happened
+        if (code == ExitCode::Failed) // every other code names the cause
             qWarning() << "Web config failed: " << answer.text;
         return code;
     }

@@ -34,7 +34,7 @@ void ThrowUnless(bool condition, const char* error)
         throw std::runtime_error(error);
 }
 
-// A file to be written; closed at the latest when the object goes.
+// A file to be written; closed by the destructor at the latest.
 class OutputFile
 {
 public:

@@ -71,8 +71,8 @@ public:
     {
         const QString& installerName; ///< file name of the running installer
         bool withArchive;             ///< an installer: look for the payload archive and open it
-        bool unattended;              ///< nobody watches: no default applications, and an
-                                      ///< uninstallation only does what the settings ask for
+        bool unattended;              ///< silent: no default applications, and an uninstallation
+                                      ///< only does what the settings ask for
         QSettings::Scope scope;       ///< for this user or for all users
         bool parallelCopy;            ///< files may be copied in parallel
     };
@@ -89,8 +89,8 @@ public:
     };
 
     /// Proposes the settings from the product and from what is on the machine. With `withArchive` a
-    /// missing archive is told in a modal box and leaves a mediator that cannot install; one that
-    /// cannot be read throws std::runtime_error.
+    /// missing archive is reported in a modal box and leaves a mediator that cannot install; one
+    /// that cannot be read throws std::runtime_error.
     explicit InstallerMediator(const Initializer& initializer);
 
     /// Waits for a run in progress.
@@ -146,7 +146,7 @@ public slots:
     /// the program is the uninstaller that was placed with the product.
     void StartUninstall();
     /// Starts the installed main application with the settings' arguments; whether that works is
-    /// not examined. `method` is the front end's word for the occasion, handed on with
+    /// not examined. `method` is the front end's name for the occasion, handed on with
     /// ApplicationStarted.
     void StartMainExecutable(const QString& method = QStringLiteral("Manual"));
     /// Does nothing: this product has no such helper.

@@ -138,8 +138,8 @@ void InstallerMediator::CreateShortcuts() const
 
 void InstallerMediator::RemoveShortcuts()
 {
-    // Where the machine does not tell such a folder, its path is empty, and a path below it would
-    // be one below the current folder.
+    // The path of a shell folder that the machine does not have is empty; a path below it would be
+    // relative to the current folder.
     const QString root = StartMenuRoot(settings.scope);
     const QString menuBase = CreateMenuBasePath(root);
     // A name such as "" or ".." would take away the whole Start menu, or more.

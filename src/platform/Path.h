@@ -82,7 +82,8 @@ QString ToNativePath(QString path);
 // the machine's policy for long paths is.
 std::wstring PathForCall(std::wstring path);
 
-// What the free space is asked of: "C:\" on Windows, the path itself where volumes have no letters.
+// The path whose free space is queried: "C:\" on Windows, the path itself where volumes have no
+// letters.
 QString DriveRoot(const QString& path);
 
 // Whether Windows allows a file of that name: not empty, "." or "..", no control character, no

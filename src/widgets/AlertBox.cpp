@@ -145,7 +145,7 @@ AlertBox::AlertBox(const QString& text, QWidget* parent,
 
 AlertBox::~AlertBox() = default;
 
-// A style has looked for rules before the button had its name: it must look again.
+// The style sheet was applied before the button had its name.
 void AlertBox::NameButtons()
 {
     const std::pair<QDialogButtonBox::StandardButton, const char*> names[] = {
