@@ -73,6 +73,9 @@ private:
     const std::unique_ptr<State> state;
 };
 
+// The Windows error for an errno value; ERROR_GEN_FAILURE for a value without a counterpart.
+DWORD ErrorFromErrno(int systemError);
+
 // The names of this process's open handles, sorted: the path of a file or key, the number of a
 // process, the name of a mutex.
 std::vector<std::string> OpenHandles();

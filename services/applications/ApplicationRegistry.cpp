@@ -29,11 +29,11 @@ std::string ReadProductValue(const std::string& key, const QString& name)
     return helper.GetValue(name).toStdString();
 }
 
-void AddKeyNames(HKEY root, std::set<std::string>& names)
+void AddKeyNames(HKEY root, REGSAM view, std::set<std::string>& names)
 {
     Platform::UniqueKey company;
     const std::wstring path = Platform::WideFromText(CompanyKey());
-    if (RegOpenKeyExW(root, path.c_str(), 0, KEY_READ, company.Put()) != ERROR_SUCCESS)
+    if (RegOpenKeyExW(root, path.c_str(), 0, KEY_READ | view, company.Put()) != ERROR_SUCCESS)
         return;
     std::array<wchar_t, longestKeyName> name = {};
     for (DWORD index = 0;; ++index)
@@ -52,8 +52,11 @@ public:
     std::vector<Info> GetApplications() const override
     {
         std::set<std::string> keys;
-        AddKeyNames(HKEY_CURRENT_USER, keys);
-        AddKeyNames(HKEY_LOCAL_MACHINE, keys);
+        for (const REGSAM view : {KEY_WOW64_64KEY, KEY_WOW64_32KEY})
+        {
+            AddKeyNames(HKEY_CURRENT_USER, view, keys);
+            AddKeyNames(HKEY_LOCAL_MACHINE, view, keys);
+        }
         std::vector<Info> applications;
         for (const std::string& key : keys)
         {

@@ -49,9 +49,9 @@ try
     const QString folder = Platform::LogFolder();
     const QJsonObject record{{"time", QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs)},
         {"type", QString::fromStdString(type)}, {"message", QString::fromStdString(message)}};
-    QDir().mkpath(folder);
     const QString fileName = folder + "/exceptions.jsonl";
-    if (!AppendLine(fileName, QJsonDocument(record).toJson(QJsonDocument::Compact)))
+    if (folder.isEmpty() || !QDir().mkpath(folder) ||
+        !AppendLine(fileName, QJsonDocument(record).toJson(QJsonDocument::Compact)))
         qWarning() << "Exception could not be recorded in" << fileName;
 }
 catch (...)

@@ -85,14 +85,19 @@ RegistryHelper::RegistryHelper(const QStringList& keyPaths, AccessFlags accessFl
 
 QString RegistryHelper::GetValue(const QString& name) const
 {
+    return GetValueBeside(name, name);
+}
+
+QString RegistryHelper::GetValueBeside(const QString& name, const QString& anchor) const
+{
     for (const Place& place : Places())
     {
         if (!flags.testFlag(place.flag))
             continue;
         for (const QString& key : keys)
         {
-            if (const std::optional<QString> text = ReadValue(place, key, name))
-                return *text;
+            if (ReadValue(place, key, anchor))
+                return ReadValue(place, key, name).value_or(QString());
         }
     }
     return QString();

@@ -62,6 +62,8 @@ QString LogFolder()
 {
     const QChar separator = QDir::separator();
     QString folder = ShellFolder(CSIDL_LOCAL_APPDATA);
+    if (folder.isEmpty())
+        return folder; // else the folder would lie in the root of a drive
     if (!folder.endsWith(separator))
         folder += separator;
     return folder + ProductProfile::companyName + separator + "Logs" + separator +

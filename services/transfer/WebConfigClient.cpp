@@ -64,16 +64,18 @@ ExitCode CodeOf(TransferCode code)
 
 bool Store(const QByteArray& config)
 {
-    QSaveFile file(ReceivedConfigPath());
-    return QDir().mkpath(Platform::LogFolder()) && file.open(QIODevice::WriteOnly) &&
-           file.write(config) == config.size() && file.commit();
+    const QString path = ReceivedConfigPath();
+    QSaveFile file(path);
+    return !path.isEmpty() && QDir().mkpath(Platform::LogFolder()) &&
+           file.open(QIODevice::WriteOnly) && file.write(config) == config.size() && file.commit();
 }
 
 } // namespace
 
 QString ReceivedConfigPath()
 {
-    return Platform::LogFolder() + QDir::separator() + "web-config.json";
+    const QString folder = Platform::LogFolder();
+    return folder.isEmpty() ? folder : folder + QDir::separator() + "web-config.json";
 }
 
 ExitCode RequestWebConfig(const Context& context)

@@ -91,7 +91,13 @@ bool WebUidManager::concatenateWebUids(
 {
     Form form{{"id", id}};
     for (const std::string& other : others)
-        form.emplace_back("other", other);
+    {
+        if (isValidWebUid(other))
+            form.emplace_back("other", other);
+    }
+    const bool isAnyLeft = form.size() > 1;
+    if (!isAnyLeft || !isValidWebUid(id))
+        return isValidWebUid(id);
     return Post("merge", form, parameters.limit).answer.code == Networking::TransferCode::Done;
 }
 

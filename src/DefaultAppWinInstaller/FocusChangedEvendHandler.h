@@ -11,7 +11,7 @@ namespace Vorlan
 // Waits until the element with one automation id gets the keyboard focus, clicks it, and
 // unregisters itself. UI Automation calls it on threads of its own. A COM object: it is made with
 // one reference and is deleted with the last.
-class FocusChangedEvendHandler final : public UiAutomation::IUIAutomationFocusChangedEventHandler
+class FocusChangedEvendHandler : public UiAutomation::IUIAutomationFocusChangedEventHandler
 {
 public:
     // automation: what it is registered with; the handler holds a reference.
@@ -25,9 +25,10 @@ public:
     // The result of clicking, S_OK for any other element, or why the element cannot be read.
     HRESULT WINAPI HandleFocusChangedEvent(UiAutomation::IUIAutomationElement* element) override;
 
-private:
-    ~FocusChangedEvendHandler();
+protected:
+    virtual ~FocusChangedEvendHandler(); // ends the slots; called by the last Release
 
+private:
     HRESULT Click(UiAutomation::IUIAutomationElement& element);
 
     std::atomic<ULONG> references = 1;

@@ -4,6 +4,7 @@
 #include <exception>
 #include <limits>
 #include <thread>
+#include <utility>
 
 namespace Vorlan
 {
@@ -11,7 +12,6 @@ namespace Vorlan
 namespace
 {
 
-constexpr ISzAlloc heap = {SzAlloc, SzFree};
 constexpr std::size_t smallestBudget = std::size_t{256} << 20; // bytes
 
 std::size_t TwoOf(std::size_t size)
@@ -22,9 +22,15 @@ std::size_t TwoOf(std::size_t size)
 
 } // namespace
 
+const ISzAlloc BlockDecoder::defaultHeap = {SzAlloc, SzFree};
+
 BlockDecoder::BlockDecoder(const CSzArEx& archive, ArchiveStream& stream, const std::wstring& path,
-    const std::vector<UInt32>& blocks)
-    : database(archive), slots(blocks.size()), budget(smallestBudget)
+    const std::vector<UInt32>& blocks, ISzAllocPtr blockHeap)
+    : database(archive),
+      archivePath(path),
+      heap(blockHeap),
+      slots(blocks.size()),
+      budget(smallestBudget)
 {
     for (std::size_t i = 0; i < blocks.size(); ++i)
     {
@@ -86,17 +92,20 @@ BlockDecoder::Block* BlockDecoder::Next()
     }
     Slot& slot = slots[handedOut++];
     changed.wait(lock, [&slot] { return slot.isDone; });
-    return slot.isGood ? &slot.block : nullptr;
+    lock.unlock(); // the slot belongs to the caller now
+    if (slot.result == SZ_ERROR_MEM)
+        slot.result = DecodeAgain(slot.block);
+    return slot.result == SZ_OK ? &slot.block : nullptr;
 }
 
 void BlockDecoder::Work(ArchiveStream& stream)
 {
     while (Slot* slot = Reserve())
     {
-        const bool isGood = Decode(slot->block, stream);
+        const SRes result = Decode(slot->block, stream);
         {
             const std::lock_guard lock(mutex);
-            slot->isGood = isGood;
+            slot->result = result;
             slot->isDone = true;
         }
         changed.notify_all();
@@ -121,18 +130,30 @@ bool BlockDecoder::FitsNext() const
     return inUse == 0 || slots[reserved].block.size <= budget - inUse;
 }
 
-bool BlockDecoder::Decode(Block& block, ArchiveStream& stream) const
+SRes BlockDecoder::Decode(Block& block, ArchiveStream& stream) const
 {
-    block.data = static_cast<Byte*>(ISzAlloc_Alloc(&heap, block.size));
-    return block.data && SzAr_DecodeFolder(&database.db, block.index, stream.Get(),
-                             database.dataPos, block.data, block.size, &heap) == SZ_OK;
+    block.data = static_cast<Byte*>(ISzAlloc_Alloc(heap, block.size));
+    if (!block.data)
+        return SZ_ERROR_MEM;
+    const SRes result = SzAr_DecodeFolder(
+        &database.db, block.index, stream.Get(), database.dataPos, block.data, block.size, heap);
+    if (result == SZ_ERROR_MEM) // others may need it meanwhile
+        ISzAlloc_Free(heap, std::exchange(block.data, nullptr));
+    return result;
+}
+
+// On a stream of its own: a worker may still use the others.
+SRes BlockDecoder::DecodeAgain(Block& block) const
+{
+    const auto stream = std::make_unique<ArchiveStream>();
+    return stream->Open(archivePath) ? Decode(block, *stream) : SZ_ERROR_MEM;
 }
 
 void BlockDecoder::Release(Slot& slot)
 {
     if (!slot.isDone)
         return;
-    ISzAlloc_Free(&heap, slot.block.data);
+    ISzAlloc_Free(heap, slot.block.data);
     slot.block.data = nullptr;
     slot.isDone = false;
     inUse -= slot.block.size;

@@ -28,15 +28,17 @@ public:
 
     // blocks: those that will be asked for, in that order.
     // stream: the open archive, read by this decoder only; path: for further threads.
+    // heap: where the blocks and the decoder's own memory come from.
     BlockDecoder(const CSzArEx& database, ArchiveStream& stream, const std::wstring& path,
-        const std::vector<UInt32>& blocks);
+        const std::vector<UInt32>& blocks, ISzAllocPtr heap = &defaultHeap);
     // Waits for the blocks that are being decoded.
     ~BlockDecoder();
     BlockDecoder(const BlockDecoder&) = delete;
     BlockDecoder& operator=(const BlockDecoder&) = delete;
 
-    // The next block, valid until the next call; null when it cannot be decoded. Waits for
-    // it.
+    // The next block, valid until the next call; null when it cannot be decoded. Waits for it. A
+    // block for which memory was short is decoded again in its turn, when its predecessors are
+    // released.
     Block* Next();
 
 private:
@@ -44,18 +46,23 @@ private:
     {
         Block block;
         bool isDone = false;
-        bool isGood = false;
+        SRes result = SZ_OK;
     };
+
+    static const ISzAlloc defaultHeap;
 
     void StartWorker(ArchiveStream& stream);
     bool StartFurtherWorker(const std::wstring& path);
     void Work(ArchiveStream& stream);
     Slot* Reserve();
-    bool Decode(Block& block, ArchiveStream& stream) const;
+    SRes Decode(Block& block, ArchiveStream& stream) const;
+    SRes DecodeAgain(Block& block) const;
     bool FitsNext() const;
     void Release(Slot& slot);
 
     const CSzArEx& database;
+    const std::wstring archivePath;
+    const ISzAllocPtr heap;
     std::vector<Slot> slots;
     std::size_t budget = 0; // bytes
     std::vector<std::unique_ptr<ArchiveStream>> furtherStreams;

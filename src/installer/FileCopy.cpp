@@ -3,6 +3,7 @@
 #include "archive/EntryName.h"
 #include "base/ExtractSettings.h"
 #include "platform/CopyFile.h"
+#include "platform/Links.h"
 #include "platform/Path.h"
 
 #include <QDebug>
@@ -27,16 +28,11 @@ namespace Vorlan
 namespace
 {
 
-bool IsSameFile(const QString& source, const QString& destination)
-{
-    return QFileInfo(source).canonicalFilePath() == QFileInfo(destination).canonicalFilePath();
-}
-
 QString PlaceFile(QFile& source, QFile& destination)
 {
     if (destination.exists())
     {
-        if (IsSameFile(source.fileName(), destination.fileName()))
+        if (Platform::IsSameFile(source.fileName(), destination.fileName()))
             return QString();
         if (!destination.remove())
             return QString("Failed to remove existing file from destination %1 error %2")
@@ -55,8 +51,10 @@ constexpr std::chrono::milliseconds collectInterval{5};
 class CopyQueue
 {
 public:
-    CopyQueue(const std::vector<CopyJob>& jobsToDo, int threads) : jobs(jobsToDo), working(threads)
+    CopyQueue(const std::vector<CopyJob>& jobsToDo, const Copier& copier, int threads)
+        : jobs(jobsToDo), copy(copier), working(threads)
     {
+        results.reserve(jobs.size()); // the threads must not run out of memory
     }
 
     // Copies until there is no job left or a copy failed.
@@ -65,28 +63,37 @@ public:
         const auto atTheEnd = qScopeGuard([this] { End(); });
         for (std::size_t index = next++; index < jobs.size() && !isStopped; index = next++)
         {
-            const CopyFileOperationStatus status =
-                CopyOneFile(jobs[index].source, jobs[index].destination);
-            if (!status.error.isEmpty())
+            Result result{index, {}, nullptr};
+            try
+            {
+                result.status = copy(jobs[index].source, jobs[index].destination);
+            }
+            catch (...)
+            {
+                result.exception = std::current_exception();
+            }
+            if (result.exception || !result.status.error.isEmpty())
                 isStopped = true;
             const std::lock_guard lock(mutex);
-            results.push_back({index, status});
+            results.push_back(std::move(result));
         }
     }
 
     // Hands out the results until every thread has ended.
     void Collect(const CopyCollector& collect)
     {
+        std::vector<Result> finished;
+        finished.reserve(jobs.size());
         for (bool isWorking = true; isWorking;)
         {
-            std::vector<Result> finished;
+            finished.clear();
             {
                 std::unique_lock lock(mutex);
                 isWorking = !ended.wait_for(lock, collectInterval, [this] { return working == 0; });
                 finished.swap(results);
             }
             for (const Result& result : finished)
-                collect(jobs[result.index], result.status);
+                collect(jobs[result.index], StatusOf(result));
         }
     }
 
@@ -95,7 +102,24 @@ private:
     {
         std::size_t index;
         CopyFileOperationStatus status;
+        std::exception_ptr exception; // null: the status counts
     };
+
+    static CopyFileOperationStatus StatusOf(const Result& result)
+    {
+        CopyFileOperationStatus status = result.status;
+        try
+        {
+            if (result.exception)
+                std::rethrow_exception(result.exception);
+        }
+        catch (const std::exception& exception)
+        {
+            qInfo() << "Copy exception:" << exception.what();
+            status.error = exception.what();
+        }
+        return status;
+    }
 
     void End()
     {
@@ -105,6 +129,7 @@ private:
     }
 
     const std::vector<CopyJob>& jobs;
+    const Copier& copy;
     std::atomic<std::size_t> next = 0;
     std::atomic<bool> isStopped = false;
     std::mutex mutex; // guards what follows
@@ -157,10 +182,11 @@ CopyFileOperationStatus CopyOneFile(const QString& source, const QString& destin
     return status;
 }
 
-void RunCopies(int threadCount, const std::vector<CopyJob>& jobs, const CopyCollector& collect)
+void RunCopies(int threadCount, const std::vector<CopyJob>& jobs, const CopyCollector& collect,
+    const Copier& copy)
 {
     const int useful = static_cast<int>(std::min<std::size_t>(jobs.size(), threadCount));
-    CopyQueue queue(jobs, useful);
+    CopyQueue queue(jobs, copy, useful);
     QFutureSynchronizer<void> threads;
     for (int thread = 0; thread < useful; ++thread)
         threads.addFuture(QtConcurrent::run([&queue] { queue.Work(); }));

@@ -37,9 +37,12 @@ CopyFileOperationStatus CopyOneFile(const QString& source, const QString& destin
 
 using CopyCollector = std::function<void(const CopyJob&, const CopyFileOperationStatus&)>;
 
-// Runs CopyOneFile for the jobs, in order, on `threadCount` threads of the global pool; starts no
-// further copy once one has failed. `collect` gets the result of each copy that was made, on the
-// caller's thread.
-void RunCopies(int threadCount, const std::vector<CopyJob>& jobs, const CopyCollector& collect);
+using Copier = std::function<CopyFileOperationStatus(const QString&, const QString&)>;
+
+// Copies the jobs' files, in order, on `threadCount` threads of the global pool; starts no further
+// copy once one has failed. `collect` gets the result of each copy that was made, on the caller's
+// thread; what a copy threw is logged there and is its error.
+void RunCopies(int threadCount, const std::vector<CopyJob>& jobs, const CopyCollector& collect,
+    const Copier& copy = CopyOneFile);
 
 } // namespace Vorlan

@@ -16,7 +16,6 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
-#include <QSet>
 #include <QThread>
 #include <QThreadPool>
 
@@ -60,31 +59,29 @@ void CreateDirectoryTree(const std::vector<std::wstring>& names, const ExtractSe
     qInfo() << "Directory tree've been created";
 }
 
-QSet<QString> FileLinksBelow(const QString& folder)
+bool HoldsFileLinks(const QString& folder)
 {
-    QSet<QString> links;
     QDirIterator file(
         folder, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
     while (file.hasNext())
     {
-        const QString path = file.next();
+        file.next();
         if (file.fileInfo().isSymbolicLink())
-            links.insert(path);
+            return true;
     }
-    return links;
+    return false;
 }
 
 // The files to be placed take the place of links, and what lies behind these stays as it is.
 void RemoveLinksInTheWay(const std::vector<std::wstring>& names, const ExtractSettings& selection,
     const QString& installDir)
 {
-    const QSet<QString> links = FileLinksBelow(QDir::cleanPath(installDir));
-    if (links.isEmpty())
+    if (!HoldsFileLinks(installDir)) // the usual case, decided without looking at every name
         return;
     for (const std::wstring& name : names)
     {
         const CopyJob job = CreateCopyJob(selection, name, installDir);
-        if (job.valid && links.contains(QDir::cleanPath(job.destination)))
+        if (job.valid)
             Platform::RemoveFileLink(job.destination);
     }
 }

@@ -11,9 +11,7 @@
 #include "registry/RegistrationProfile.h"
 #include "registry/SettingsManager.h"
 
-#include <QCoreApplication>
 #include <QDebug>
-#include <QDir>
 #include <QProcess>
 
 #include <stdexcept>
@@ -156,9 +154,7 @@ void InstallerMediator::StopRunningPrograms()
     if (!profile->stopProcesses)
         return;
     settingsManager->SetKilledByInstaller(true);
-    // From a setup that runs out of the destination itself this process would be among them.
-    if (QDir(settings.installDir) != QDir(QCoreApplication::applicationDirPath()))
-        KillAllProcessesInFolder(settings.installDir);
+    KillOtherProcessesInFolder(settings.installDir); // the setup may run from its own destination
 }
 
 void InstallerMediator::PlaceFiles(const QStringList& reservedNames, double weight)

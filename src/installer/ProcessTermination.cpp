@@ -71,9 +71,7 @@ void EndProcessOf(DWORD id, const QString& canonicalFolder)
     qInfo() << "Process " << executable.absoluteFilePath() << " terminated.";
 }
 
-} // namespace
-
-void KillAllProcessesInFolder(const QString& folder)
+void KillProcessesInFolder(const QString& folder, DWORD exempt)
 {
     if (!QFile::exists(folder))
         return;
@@ -89,9 +87,21 @@ void KillAllProcessesInFolder(const QString& folder)
     const QString canonicalFolder = QDir(folder).canonicalPath();
     for (std::size_t i = 0; i < bytes / sizeof(DWORD); ++i)
     {
-        if (ids[i] != 0)
+        if (ids[i] != 0 && ids[i] != exempt)
             EndProcessOf(ids[i], canonicalFolder);
     }
+}
+
+} // namespace
+
+void KillAllProcessesInFolder(const QString& folder)
+{
+    KillProcessesInFolder(folder, 0);
+}
+
+void KillOtherProcessesInFolder(const QString& folder)
+{
+    KillProcessesInFolder(folder, static_cast<DWORD>(QCoreApplication::applicationPid()));
 }
 
 void InstallerMediator::TerminateApps()

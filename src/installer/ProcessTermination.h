@@ -13,4 +13,7 @@ namespace Vorlan
 /// ended or does not end in time; those before it have ended then.
 INSTALLER_EXPORT void KillAllProcessesInFolder(const QString& folder);
 
+/// The same, but the caller's own process is exempt.
+void KillOtherProcessesInFolder(const QString& folder);
+
 } // namespace Vorlan

@@ -3,6 +3,7 @@
 #include "base/ProductProfile.h"
 #include "installer/Shortcuts.h"
 #include "platform/Links.h"
+#include "platform/Path.h"
 #include "registry/RegistrationProfile.h"
 
 #include <QCoreApplication>
@@ -69,9 +70,20 @@ void RemoveMenuFolder(const QString& folder)
         qInfo() << "Error! remaining link=" << link;
 }
 
+// A product name such as "" or ".." would take away the whole Start menu, or more.
+bool IsBelow(const QString& path, const QString& root)
+{
+    QString cleanRoot = QDir::cleanPath(root);
+    if (!cleanRoot.endsWith('/')) // as that of a drive does
+        cleanRoot += '/';
+    const QString cleanPath = QDir::cleanPath(path);
+    return !root.isEmpty() && cleanPath.startsWith(cleanRoot) && cleanPath != cleanRoot;
+}
+
 void RemoveDesktopLink(const QString& link)
 {
-    qInfo() << "Removing " << link << "(" << QFile::exists(link) << ")";
+    // QFile would look at the target of the shortcut on Windows.
+    qInfo() << "Removing " << link << "(" << ioPath(link.toStdString()).exists() << ")";
     if (!QFile::remove(link))
         qInfo() << "Failed to remove desktop shortcut.";
 }
@@ -142,9 +154,10 @@ void InstallerMediator::RemoveShortcuts()
     // relative to the current folder.
     const QString root = StartMenuRoot(settings.scope);
     const QString menuBase = CreateMenuBasePath(root);
-    // A name such as "" or ".." would take away the whole Start menu, or more.
-    if (!root.isEmpty() && QDir::cleanPath(menuBase).startsWith(QDir::fromNativeSeparators(root)))
+    if (IsBelow(menuBase, root))
         RemoveMenuFolder(menuBase);
+    else if (!root.isEmpty())
+        qInfo() << "Not removing " << menuBase << ": it is not below " << root;
     const QString desktop = DesktopRoot(settings.scope);
     if (!desktop.isEmpty())
         RemoveDesktopLink(desktop + settings.previousFolderName + ".lnk");

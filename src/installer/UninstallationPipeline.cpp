@@ -140,7 +140,7 @@ void InstallerMediator::RemoveFiles(const QFileInfoList& files, unsigned long lo
 void InstallerMediator::RemoveLogs()
 {
     const QString folder = GetLocationLogs();
-    if (QDir(folder).exists() && !Platform::RemoveFolder(folder))
+    if (!folder.isEmpty() && QDir(folder).exists() && !Platform::RemoveFolder(folder))
         qInfo() << "Failed to remove logs " << folder << ", error=" << GetLastError();
 }
 

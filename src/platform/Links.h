@@ -5,6 +5,10 @@
 namespace Vorlan::Platform
 {
 
+// Whether two paths lead to one existing file, as the system tells: links and, on Windows, another
+// case lead to the same file.
+bool IsSameFile(const QString& left, const QString& right);
+
 // Removes a link to a file, so that what is written next takes its place and not that of the file
 // behind it. Anything else stays.
 void RemoveFileLink(const QString& path);
@@ -12,7 +16,7 @@ void RemoveFileLink(const QString& path);
 // Removes a folder with everything in it. Of a link, to a file or to a folder, only the link is
 // removed, also where the folder itself is one; what lies behind it stays. On Windows junctions are
 // links and read-only files are removed, too. False when something could not be removed; the rest
-// is removed then.
+// is removed then, and the thread's last system error is that of the first failure.
 bool RemoveFolder(const QString& folder);
 
 } // namespace Vorlan::Platform

@@ -33,6 +33,10 @@ public:
     // The value's text; a number as decimal digits; empty when no place has it.
     QString GetValue(const QString& name) const;
 
+    // The same from the first place that has the value `anchor`, so that values of one record do
+    // not come from two.
+    QString GetValueBeside(const QString& name, const QString& anchor) const;
+
 private:
     QStringList keys;
     AccessFlags flags;

@@ -72,7 +72,8 @@ bool MaySetUpWhileLoading();
 // already.
 bool IsProcessEnding();
 
-// The product's log folder, without a separator at its end; it need not exist.
+// The product's log folder, without a separator at its end; it need not exist. Empty where the
+// machine has no local application-data folder.
 QString LogFolder();
 
 } // namespace Platform

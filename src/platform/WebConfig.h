@@ -47,6 +47,7 @@ ExitCode RequestWebConfig(const Context& context);
 
 // Where the configuration received last lies, for the host and the product to read: the file
 // "web-config.json" in the product's log folder, replaced as a whole by each request that succeeds.
+// Empty where the machine has no log folder: what is received is NotStored then.
 QString ReceivedConfigPath();
 
 } // namespace Vorlan::App::WebConfig

@@ -41,7 +41,9 @@ public:
     std::string requestWebUid(const std::map<std::string, std::string>& request) const;
 
     /// Lets several ids mean one identity: POST to "merge" with the form entries "id" and, for each
-    /// of the others, "other". True when the service answers with status 200.
+    /// of the others, "other". Texts that cannot be ids are left out; where no other is left there
+    /// is nothing to merge and no request is sent. True when the service answers with status 200,
+    /// or where there is nothing to merge; false for an invalid `id`.
     bool concatenateWebUids(const std::string& id, const std::set<std::string>& others) const;
 
 private:

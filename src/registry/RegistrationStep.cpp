@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QDate>
+#include <QDebug>
 
 namespace Vorlan
 {
@@ -75,10 +76,14 @@ void InstallerMediator::AddRegistryInfo()
 
 void InstallerMediator::AddContextMenu(int choice, const char* label) const
 {
-    if (choice == TriState::chosen)
-        SettingsManager::AddToContextMenu(TranslateForLocale(settings.systemLocale, label),
-            settings.installDir + profile->contextMenuExecutable, profile->contextMenuExtensions,
-            settings.scope);
+    if (choice != TriState::chosen)
+        return;
+    const QString text = TranslateForLocale(settings.systemLocale, label);
+    if (text.isEmpty())
+        qWarning() << "The verb" << label << "is left out: it is not translated to"
+                   << settings.systemLocale;
+    SettingsManager::AddToContextMenu(text, settings.installDir + profile->contextMenuExecutable,
+        profile->contextMenuExtensions, settings.scope);
 }
 
 void InstallerMediator::RemoveRegistryInfo()

@@ -1,6 +1,7 @@
 #include "registry/SettingsManager.h"
 
 #include "platform/Path.h"
+#include "platform/Registry.h"
 #include "registry/RegistrySettings.h"
 
 #include <QCoreApplication>
@@ -44,27 +45,39 @@ QString WithBackslashes(QString path)
     return path.replace('/', '\\');
 }
 
-// A ProgID named after the association is that of another product when it exists and opens with
-// another program.
+// Whether the key holds neither values nor sub-keys, or does not exist.
+bool IsEmpty(RegistrySettings& settings, const QString& key)
+{
+    const App::QSettingsGroupGuard group(settings, key);
+    return settings.childKeys().isEmpty() && settings.childGroups().isEmpty();
+}
+
+// Whether a ProgID belongs to the association: it is named after it and opens with its program in
+// every root that has it. One that is registered nowhere is what RemoveProgId leaves of it.
 bool IsProgIdOf(
     const ExtensionAssociation& association, const QString& extension, const QString& progId)
 {
     if (!progId.endsWith('.' + association.name + extension))
         return false;
-    const RegistrySettings classes(QString(classesKey).arg("HKEY_CURRENT_USER"));
-    const QString command = classes.value(progId + "/shell/open/command/Default").toString();
-    const QString program = WithBackslashes(command).section('"', 1, 1).section('\\', -1);
-    return command.isEmpty() || program == association.executable;
+    for (const char* root : {"HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE"})
+    {
+        RegistrySettings classes(QString(classesKey).arg(root));
+        const QString command = classes.value(progId + "/shell/open/command/Default").toString();
+        const QString program = WithBackslashes(command).section('"', 1, 1).section('\\', -1);
+        if (program != association.executable && !IsEmpty(classes, progId))
+            return false;
+    }
+    return true;
 }
 
-// Whether the verb starts this program. One without a command is what a registration or removal
-// that was cut off has left, and is told by its icon.
-bool IsVerbOf(const QString& executablePath, const RegistrySettings& settings, const QString& verb)
+// Whether the verb starts this program. A verb with nothing in it is what a removal that was cut
+// off has left: the command, which proves the owner, is removed last.
+bool IsVerbOf(const QString& executablePath, RegistrySettings& settings, const QString& verb)
 {
-    const QString program = WithBackslashes(executablePath);
-    const QString command = WithBackslashes(settings.value(verb + "/Command/Default").toString());
-    const QString icon = WithBackslashes(settings.value(verb + "/Icon").toString());
-    return command.isEmpty() ? icon == program : command.startsWith(Quoted(program));
+    const QString marker = Quoted(WithBackslashes(executablePath));
+    return WithBackslashes(settings.value(verb + "/Command/Default").toString())
+               .startsWith(marker) ||
+           IsEmpty(settings, verb);
 }
 
 } // namespace
@@ -257,6 +270,7 @@ void SettingsManager::RemoveContextMenu(const QString& label, const QString& exe
         const QString verb = QString("%1/Shell/%2").arg(extension, label);
         if (!IsVerbOf(executablePath, settings, verb))
             continue;
+        settings.remove(verb + "/Icon");
         settings.remove(verb);
         qInfo() << "Remove key " << verb;
     }

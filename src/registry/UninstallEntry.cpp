@@ -13,22 +13,24 @@ namespace
 {
 
 constexpr char uninstallKey[] = "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
-constexpr char uninstallKey32[] =
-    "Software\\WOW6432Node\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\";
 
-// A value of an entry, from whichever root and view has it.
-QString EntryValue(const QString& name, const std::string& valueName)
+// The lists of installed programs below "Software", in the 64-bit and the 32-bit view.
+constexpr const char* programLists[] = {"Microsoft/Windows/CurrentVersion/Uninstall",
+    "WOW6432Node/Microsoft/Windows/CurrentVersion/Uninstall"};
+
+Util::RegistryHelper EntryReader(const QString& name)
 {
     using Util::RegistryHelper;
-    const RegistryHelper helper(
+    return RegistryHelper(
         {uninstallKey + name}, RegistryHelper::AccessFlags(RegistryHelper::everywhere));
-    return helper.GetValue(QString::fromStdString(valueName));
 }
 
-// The entry below one list of installed programs.
-QString FindEntry(const QString& listKey, const QString& executableFileName)
+// The entry below one list of installed programs. The list is read as a group of its root's
+// "Software" key: opened by its own path it would be created.
+QString FindEntry(const QString& root, const QString& listGroup, const QString& executableFileName)
 {
-    RegistrySettings list(listKey);
+    RegistrySettings list(root + "\\Software");
+    const App::QSettingsGroupGuard listGuard(list, listGroup);
     for (const QString& name : list.childGroups())
     {
         const App::QSettingsGroupGuard group(list, name);
@@ -65,7 +67,7 @@ void SettingsManager::RemoveUninstaller(const QString& name, QSettings::Scope sc
 
 QString SettingsManager::GetUninstallerPath(const QString& name)
 {
-    QString path = EntryValue(name, uninstallString);
+    QString path = EntryReader(name).GetValue(QString::fromStdString(uninstallString));
     if (path.startsWith('"'))
         path = path.mid(1, path.size() - 2);
     if (!path.isEmpty())
@@ -75,16 +77,17 @@ QString SettingsManager::GetUninstallerPath(const QString& name)
 
 bool SettingsManager::IsUninstallerUACNeeded(const QString& name)
 {
-    return EntryValue(name, useUAC) == "true";
+    return EntryReader(name).GetValueBeside(
+               QString::fromStdString(useUAC), QString::fromStdString(uninstallString)) == "true";
 }
 
 QString SettingsManager::GetProductNameByExecutableName(const QString& executableFileName)
 {
-    for (const char* list : {"HKEY_CURRENT_USER\\%1", "HKEY_LOCAL_MACHINE\\%1"})
+    for (const char* root : {"HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE"})
     {
-        for (const char* key : {uninstallKey, uninstallKey32})
+        for (const char* list : programLists)
         {
-            QString name = FindEntry(QString(list).arg(key), executableFileName);
+            QString name = FindEntry(root, list, executableFileName);
             if (!name.isEmpty())
                 return name;
         }

@@ -1,3 +1,4 @@
+#include "support/ChildProgram.h"
 #include "support/Machine.h"
 #include "support/SetupRun.h"
 
@@ -124,6 +125,21 @@ TEST_F(SilentRunTest, ARunThatFailsIsOneLineInTheChosenLanguage)
     EXPECT_EQ(result.exitCode, failed);
     ExpectOneLineWith(result, QString::fromUtf8("L'installation a échoué."));
     EXPECT_TRUE(ReadFile(LogNamedIn(result.errors)).contains("warning  Error "));
+}
+
+TEST_F(SilentRunTest, ASetupInItsOwnDestinationEndsTheProductThereAndNotItself)
+{
+    setup.AddArchive("small.7z");
+    const QString folder = setup.WorkFolder() + "/Vorlan Quillax";
+    QDir().mkpath(folder);
+    for (const QString& file : QDir(setup.SetupFolder()).entryList(QDir::Files))
+        ASSERT_TRUE(QFile::copy(setup.SetupFolder() + '/' + file, folder + '/' + file));
+    ChildProgram product(folder + "/quill.exe", "wait");
+    product.Start();
+    const auto result = setup.StartFrom(folder, "installergui.exe", {"/S", "/D=" + folder});
+    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
+    EXPECT_TRUE(product.HasEnded());
+    EXPECT_TRUE(QFile::exists(folder + "/uninst.exe"));
 }
 
 TEST_F(SilentRunTest, ADestinationThatIsAFileIsRefusedByName)

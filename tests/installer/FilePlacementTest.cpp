@@ -175,6 +175,20 @@ TEST_F(FilePlacementTest, ParallelCopyStopsLaunchingAfterAnErrorAndReportsEachOn
     EXPECT_EQ(ReadTree(installDir), (QMap<QString, QByteArray>()));
 }
 
+TEST(RunCopies, WhatACopyThrowsIsLoggedAndItsError)
+{
+    const Machine machine;
+    const std::vector<CopyJob> jobs{{true, "a", "b", L"a"}, {true, "c", "d", L"c"}};
+    QStringList errors;
+    RunCopies(
+        1, jobs,
+        [&errors](const CopyJob&, const CopyFileOperationStatus& status)
+        { errors += status.error; },
+        [](const QString&, const QString&) -> CopyFileOperationStatus { throw std::bad_alloc(); });
+    EXPECT_EQ(errors, QStringList("std::bad_alloc"));
+    EXPECT_EQ(machine.Log(), QStringList("Copy exception: std::bad_alloc"));
+}
+
 TEST_F(FilePlacementTest, HostHearsOfNineCopyErrors)
 {
     for (int i = 1; i <= 11; ++i)

@@ -1,5 +1,5 @@
 #include "installer/InstallerMediator.h"
-
+#include "platform/System.h"
 #include "support/Machine.h"
 #include "support/MediatorAccess.h"
 #include "support/SignalLog.h"
@@ -96,6 +96,10 @@ TEST_F(InstallationFaultsTest, MachineWithoutShellFoldersGetsNothingIntoTheRootO
         const InstallerMediator next({name, false, true, QSettings::UserScope, false});
         EXPECT_EQ(next.GetSettings().installDir, "");
         mediator.SetSettings(next.GetSettings());
+    }
+    {
+        const Pal::ScopedFault missing("SHGetSpecialFolderPathW", ERROR_FILE_NOT_FOUND);
+        EXPECT_EQ(Platform::LogFolder(), "");
     }
     Install();
     EXPECT_EQ(signalLog.Count("InstallationError"), 1);

@@ -192,7 +192,14 @@ TEST_F(ShortcutsTest, RemovalNeverTakesTheWholeStartMenu)
     for (const char* productName : {"", ".", "..", "../..", "Other/.."})
     {
         access.Settings().productFolderName = productName;
+        const int lines = machine.Log().size();
         access.RemoveShortcuts();
         EXPECT_TRUE(QFile::exists(foreign)) << '"' << productName << '"';
+        EXPECT_EQ(machine.Log().mid(lines).filter("Not removing ").size(), 1) << productName;
     }
+    // Below the Start menu, though not written in the shortest way.
+    access.Settings().productFolderName = "./A//../Vorlan Quillax";
+    access.CreateShortcuts();
+    access.RemoveShortcuts();
+    EXPECT_EQ(Links(StandardLocation::Programs), (QStringList{"A/", "Other/", "Other/notes.txt"}));
 }

@@ -90,12 +90,21 @@ TEST_F(ShellRecordsTest, AssociationsAreCandidatesOrDefaults)
     key.setValue(".avi/OpenWithProgids/Other.video.avi", "");
     key.setValue(".avi/OpenWithProgids/VLC.avi", "");
     key.setValue(".mp4/Default", "VLC.mp4");
+    key.setValue("Bare.video.mp4/DefaultIcon/Default", "other.ico");
+    key.setValue(".mp4/OpenWithProgids/Bare.video.mp4", "");
+    key.setValue(".mp4/OpenWithProgids/Wide.video.mp4", "");
+    RegistrySettings ofAll("HKEY_LOCAL_MACHINE\\Software\\Classes");
+    ofAll.setValue("Wide.video.mp4/shell/open/command/Default", "\"C:\\O\\other.exe\" \"%1\"");
     SettingsManager::RemoveAssociations(video, user);
     SettingsManager::RemoveAssociations(byDefault, allUsers);
     EXPECT_EQ(RegistryTree(userRoot, classes).filter(" = "),
         QStringList({".avi\\OpenWithProgids: Other.video.avi = REG_SZ ",
             ".avi\\OpenWithProgids: VLC.avi = REG_SZ ", ".mp4: @ = REG_SZ VLC.mp4",
+            ".mp4\\OpenWithProgids: Bare.video.mp4 = REG_SZ ",
+            ".mp4\\OpenWithProgids: Wide.video.mp4 = REG_SZ ",
+            "Bare.video.mp4\\DefaultIcon: @ = REG_SZ other.ico",
             "Other.video.avi\\shell\\open\\command: @ = REG_SZ \"C:\\O\\other.exe\" \"%1\""}));
+    ofAll.remove("Wide.video.mp4");
     EXPECT_EQ(RegistryTree(machineRoot, classes).filter(" = "), QStringList());
 }
 
@@ -171,15 +180,17 @@ TEST_F(ShellRecordsTest, ContextMenuVerbOfAnotherProgramStays)
             ".mp4\\Shell\\Convert to\\Command: @ = REG_SZ \"C:\\Other\\o.exe\" \"%1\""}));
 }
 
-TEST_F(ShellRecordsTest, VerbWithoutCommandGoesWhenItsIconIsTheProgram)
+TEST_F(ShellRecordsTest, VerbWithoutCommandStaysUnlessNothingIsLeftOfIt)
 {
     const QString key = QString("HKEY_CURRENT_USER\\") + classes + "\\SystemFileAssociations";
     const QString icon = "/Shell/Convert to/Icon";
     RegistrySettings(key).setValue(".avi" + icon, "C:/Q/quill.exe");
-    RegistrySettings(key).setValue(".mp4" + icon, "C:/Other/o.exe");
+    RegistrySettings(key).setValue(".mp4" + icon, "C:/Q/quill.exe");
+    RegistrySettings(key).remove(".mp4" + icon);
     SettingsManager::RemoveContextMenu("Convert to", "C:\\Q\\quill.exe", {".avi", ".mp4"}, user);
-    EXPECT_FALSE(RegistrySettings(key).contains(".avi" + icon));
-    EXPECT_TRUE(RegistrySettings(key).contains(".mp4" + icon));
+    EXPECT_TRUE(RegistrySettings(key).contains(".avi" + icon));
+    RegistrySettings shell(key + "\\.mp4\\Shell");
+    EXPECT_EQ(shell.childGroups(), QStringList());
 }
 
 TEST_F(ShellRecordsTest, RunValueThatPointsElsewhereStays)
@@ -236,6 +247,8 @@ TEST_F(ShellRecordsTest, UninstallerIsLookedUpForTheUserThenForAll)
     EXPECT_TRUE(SettingsManager::IsUninstallerUACNeeded("Q"));
 
     RegistrySettings ofUser("HKEY_CURRENT_USER" + key);
+    ofUser.setValue("UseUAC", "false"); // an entry without an uninstaller does not count
+    EXPECT_TRUE(SettingsManager::IsUninstallerUACNeeded("Q"));
     ofUser.setValue("UninstallString", "\"C:\\User\\uninst.exe\"");
     EXPECT_EQ(SettingsManager::GetUninstallerPath("Q"), "C:\\User\\uninst.exe");
     for (const QVariant& value : {QVariant("True"), QVariant(1), QVariant("")})
@@ -257,6 +270,8 @@ TEST_F(ShellRecordsTest, ProductIsFoundByItsExecutableInEveryList)
     const auto find = [] { return SettingsManager::GetProductNameByExecutableName("quill.exe"); };
     addEntry("HKEY_CURRENT_USER\\Software", "A Foreign One", "Other Ltd.");
     EXPECT_EQ(find(), "");
+    for (const char* root : {userRoot, machineRoot})
+        EXPECT_EQ(RegistryTree(root, "Software\\WOW6432Node"), QStringList()) << root;
     addEntry("HKEY_LOCAL_MACHINE\\Software\\WOW6432Node", "Of 32 Bits", "Vorlan");
     EXPECT_EQ(find(), "Of 32 Bits");
     addEntry("HKEY_LOCAL_MACHINE\\Software", "Of All", "The Vorlan Company");

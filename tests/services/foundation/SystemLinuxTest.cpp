@@ -1,6 +1,9 @@
+#include "platform/Links.h"
 #include "platform/Proxy.h"
 #include "platform/System.h"
 #include "support/Machine.h"
+
+#include <windows.h>
 
 #include <gtest/gtest.h>
 
@@ -30,6 +33,12 @@ TEST(SystemOfTheMachine, KindOfDiskIsASetting)
         EXPECT_EQ(Core::IsRunningOnSSD(), isSolidState);
         EXPECT_EQ(Core::IsPathOnSSD(machine.Path("a").toStdString()), isSolidState);
     }
+}
+
+TEST(LinksLinuxTest, AFailedRemovalLeavesItsErrorBehind)
+{
+    EXPECT_FALSE(Platform::RemoveFolder("/proc/sys/kernel/random"));
+    EXPECT_EQ(GetLastError(), DWORD{ERROR_ACCESS_DENIED});
 }
 
 TEST(Proxy, IsThatOfTheEnvironment)
