@@ -1,6 +1,6 @@
 #pragma once
 
-// The values of a setting with three states: only `chosen` switches it on.
+// The values of a setting with three states: only `chosen` enables it.
 namespace Vorlan::FrontEnd::TriState
 {
 
