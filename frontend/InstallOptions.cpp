@@ -1,6 +1,6 @@
 #include "InstallOptions.h"
 
-#include "TriState.h"
+#include "base/TriState.h"
 
 namespace Vorlan::FrontEnd
 {

@@ -1,6 +1,6 @@
 #include "wizard/OptionsPage.h"
 
-#include "TriState.h"
+#include "base/TriState.h"
 #include "widgets/MultiLayerBackgroundFrame.h"
 #include "wizard/Texts.h"
 

@@ -24,8 +24,8 @@ std::filesystem::path MachineRoot();
 // that CloseHandle and RegCloseKey do close the handle before they report the error.
 // COM functions and methods return the error as an HRESULT, and may be given one; a method is named
 // with the interface that declares it, as "IShellLinkW::SetPath". Functions that cannot fail are
-// not counted: GetLastError, SetLastError, GetCurrentProcessId, AddRef, Release, CoUninitialize,
-// CoTaskMemFree and those of oleauto.h.
+// not counted: GetLastError, SetLastError, AddRef, Release, CoUninitialize
+// and those of oleauto.h.
 class ScopedFault
 {
 public:

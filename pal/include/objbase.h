@@ -73,7 +73,6 @@ extern "C"
     void WINAPI CoUninitialize(void);
     HRESULT WINAPI CoCreateInstance(
         REFCLSID classId, IUnknown* outer, DWORD context, REFIID iid, LPVOID* object);
-    void WINAPI CoTaskMemFree(LPVOID memory);
     HRESULT WINAPI CoAllowSetForegroundWindow(IUnknown* object, LPVOID reserved);
 }
 

@@ -60,7 +60,6 @@ extern "C"
     HANDLE WINAPI OpenProcess(DWORD desiredAccess, BOOL inheritHandle, DWORD processId);
     BOOL WINAPI TerminateProcess(HANDLE process, UINT exitCode);
     BOOL WINAPI GetExitCodeProcess(HANDLE process, LPDWORD exitCode);
-    DWORD WINAPI GetCurrentProcessId(void);
     HANDLE WINAPI GetStdHandle(DWORD stream);
 
 #ifdef __cplusplus

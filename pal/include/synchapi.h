@@ -18,7 +18,6 @@ extern "C"
     DWORD WINAPI WaitForSingleObject(HANDLE object, DWORD milliseconds);
     HANDLE WINAPI CreateMutexW(
         LPSECURITY_ATTRIBUTES mutexAttributes, BOOL initialOwner, LPCWSTR name);
-    HANDLE WINAPI OpenMutexW(DWORD desiredAccess, BOOL inheritHandle, LPCWSTR name);
 
 #ifdef __cplusplus
 }

@@ -10,15 +10,12 @@
 #include <wchar.h>
 
 typedef int BOOL;
-typedef int INT;
 typedef unsigned int UINT;
 typedef uint8_t BYTE;
 typedef uint16_t WORD;
 typedef uint32_t DWORD;
 typedef int32_t LONG;
 typedef uint32_t ULONG;
-typedef long long LONGLONG;
-typedef unsigned long long ULONGLONG;
 typedef intptr_t LONG_PTR;
 typedef uintptr_t ULONG_PTR;
 typedef size_t SIZE_T;
@@ -26,7 +23,6 @@ typedef int32_t HRESULT;
 
 typedef char CHAR;
 typedef wchar_t WCHAR;
-typedef CHAR* LPSTR;
 typedef const CHAR* LPCSTR;
 typedef WCHAR* LPWSTR;
 typedef const WCHAR* LPCWSTR;
@@ -34,7 +30,6 @@ typedef const WCHAR* LPCWSTR;
 typedef void* LPVOID;
 typedef const void* LPCVOID;
 typedef BYTE* LPBYTE;
-typedef BOOL* LPBOOL;
 typedef DWORD* LPDWORD;
 typedef LONG* PLONG;
 
@@ -64,8 +59,6 @@ typedef struct _OVERLAPPED OVERLAPPED, *LPOVERLAPPED;
 
 #define MAX_PATH 260
 #define WINAPI
-#define CALLBACK
-#define STDMETHODCALLTYPE
 #define INVALID_HANDLE_VALUE ((HANDLE)(LONG_PTR)(-1))
 
 #endif

@@ -50,7 +50,6 @@ typedef LONG LSTATUS;
 #define E_NOINTERFACE ((HRESULT)0x80004002)
 #define E_POINTER ((HRESULT)0x80004003)
 #define E_FAIL ((HRESULT)0x80004005)
-#define E_UNEXPECTED ((HRESULT)0x8000FFFF)
 #define CLASS_E_NOAGGREGATION ((HRESULT)0x80040110)
 #define REGDB_E_CLASSNOTREG ((HRESULT)0x80040154)
 #define CO_E_NOTINITIALIZED ((HRESULT)0x800401F0)
@@ -60,7 +59,6 @@ typedef LONG LSTATUS;
 
 #define SUCCEEDED(result) (((HRESULT)(result)) >= 0)
 #define FAILED(result) (((HRESULT)(result)) < 0)
-#define HRESULT_CODE(result) ((result)&0xFFFF)
 #define HRESULT_FROM_WIN32(error)                                                                  \
     ((HRESULT)(error) <= 0 ? (HRESULT)(error)                                                      \
                            : (HRESULT)(((DWORD)(error)&0x0000FFFFu) | 0x80070000u))

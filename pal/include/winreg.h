@@ -26,9 +26,7 @@ extern "C"
 
 #define KEY_QUERY_VALUE 0x0001
 #define KEY_SET_VALUE 0x0002
-#define KEY_CREATE_SUB_KEY 0x0004
 #define KEY_ENUMERATE_SUB_KEYS 0x0008
-#define KEY_NOTIFY 0x0010
 #define KEY_WOW64_64KEY 0x0100
 #define KEY_WOW64_32KEY 0x0200
 #define KEY_READ 0x20019
@@ -45,9 +43,7 @@ extern "C"
     LSTATUS WINAPI RegOpenKeyExW(
         HKEY key, LPCWSTR subKey, DWORD options, REGSAM desiredAccess, PHKEY result);
     LSTATUS WINAPI RegCloseKey(HKEY key);
-    LSTATUS WINAPI RegDeleteKeyExW(HKEY key, LPCWSTR subKey, REGSAM view, DWORD reserved);
     LSTATUS WINAPI RegDeleteKeyW(HKEY key, LPCWSTR subKey);
-    LSTATUS WINAPI RegOverridePredefKey(HKEY key, HKEY replacement);
 
     LSTATUS WINAPI RegSetValueExW(
         HKEY key, LPCWSTR valueName, DWORD reserved, DWORD type, const BYTE* data, DWORD dataSize);
@@ -59,10 +55,6 @@ extern "C"
         LPDWORD reserved, LPDWORD type, LPBYTE data, LPDWORD dataSize);
     LSTATUS WINAPI RegEnumKeyExW(HKEY key, DWORD index, LPWSTR name, LPDWORD nameLength,
         LPDWORD reserved, LPWSTR className, LPDWORD classLength, PFILETIME lastWriteTime);
-    LSTATUS WINAPI RegQueryInfoKeyW(HKEY key, LPWSTR className, LPDWORD classLength,
-        LPDWORD reserved, LPDWORD subKeyCount, LPDWORD longestSubKey, LPDWORD longestClass,
-        LPDWORD valueCount, LPDWORD longestValueName, LPDWORD longestValueData,
-        LPDWORD securityDescriptorSize, PFILETIME lastWriteTime);
 
 #ifdef __cplusplus
 }

@@ -1,7 +1,7 @@
 // File locks between processes. A lock is released when its descriptor is closed.
 #pragma once
 
-#include "Descriptor.h"
+#include <Descriptor.h>
 
 #include <windows.h>
 

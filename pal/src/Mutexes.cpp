@@ -58,8 +58,8 @@ DWORD FileNameOf(LPCWSTR name, std::string& fileName)
     return ERROR_SUCCESS;
 }
 
-// Tells whether anybody has the mutex, and takes part in it if so or if it may be made.
-DWORD TakePart(const std::string& fileName, bool mayMake, Descriptor& file, bool& existed)
+// Locks the mutex's file as one of its holders; existed tells whether there were others.
+DWORD Join(const std::string& fileName, Descriptor& file, bool& existed)
 {
     const fs::path folder = MutexFolder(MachineRoot());
     const Descriptor guard = OpenLockFile(folder / "lock", O_CREAT);
@@ -72,14 +72,10 @@ DWORD TakePart(const std::string& fileName, bool mayMake, Descriptor& file, bool
     bool taken = false;
     error = TryLockFile(file, taken);
     existed = !taken;
-    if (error != ERROR_SUCCESS)
-        return error;
-    if (!existed && !mayMake)
-        return ERROR_FILE_NOT_FOUND;
-    return LockFile(file, LOCK_SH);
+    return error == ERROR_SUCCESS ? LockFile(file, LOCK_SH) : error;
 }
 
-HANDLE OpenMutex(LPCWSTR name, bool mayMake)
+HANDLE CreateNamedMutex(LPCWSTR name)
 {
     std::string fileName;
     Descriptor file;
@@ -88,13 +84,11 @@ HANDLE OpenMutex(LPCWSTR name, bool mayMake)
     if (error == ERROR_SUCCESS)
         error = EnterMachine();
     if (error == ERROR_SUCCESS)
-        error = TakePart(fileName, mayMake, file, existed);
-    if (error == ERROR_SUCCESS && mayMake)
-        SetLastError(existed ? ERROR_ALREADY_EXISTS : ERROR_SUCCESS);
-    if (error == ERROR_SUCCESS)
-        return HandleTable::Instance().Add(std::make_shared<Mutex>(fileName, std::move(file)));
-    SetLastError(error);
-    return nullptr;
+        error = Join(fileName, file, existed);
+    SetLastError(error == ERROR_SUCCESS && existed ? ERROR_ALREADY_EXISTS : error);
+    if (error != ERROR_SUCCESS)
+        return nullptr;
+    return HandleTable::Instance().Add(std::make_shared<Mutex>(fileName, std::move(file)));
 }
 
 } // namespace
@@ -111,19 +105,7 @@ HANDLE CreateMutexW(LPSECURITY_ATTRIBUTES mutexAttributes, BOOL initialOwner, LP
     if (Pal::FaultHits(__func__))
         return nullptr;
     if (!mutexAttributes && !initialOwner)
-        return Pal::OpenMutex(name, true);
-    SetLastError(ERROR_NOT_SUPPORTED);
-    return nullptr;
-}
-
-// Keeps:   ERROR_FILE_NOT_FOUND when nobody has the mutex.
-// Refuses: access other than SYNCHRONIZE, inheriting.
-HANDLE OpenMutexW(DWORD desiredAccess, BOOL inheritHandle, LPCWSTR name)
-{
-    if (Pal::FaultHits(__func__))
-        return nullptr;
-    if (desiredAccess == SYNCHRONIZE && !inheritHandle)
-        return Pal::OpenMutex(name, false);
+        return Pal::CreateNamedMutex(name);
     SetLastError(ERROR_NOT_SUPPORTED);
     return nullptr;
 }

@@ -1,7 +1,7 @@
 #include "WholeFile.h"
 
-#include "Descriptor.h"
 #include "ErrorMapping.h"
+#include <Descriptor.h>
 
 #include <atomic>
 #include <cerrno>

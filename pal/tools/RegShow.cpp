@@ -119,21 +119,18 @@ bool More(LSTATUS result)
 
 std::vector<Value> ValuesOf(HKEY key)
 {
-    DWORD longestData = 0;
-    More(RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-        nullptr, &longestData, nullptr, nullptr));
     std::vector<Value> values;
     for (DWORD index = 0;; ++index)
     {
         std::vector<wchar_t> name(longestName);
         DWORD nameLength = longestName;
-        DWORD size = longestData;
+        DWORD size = 0;
         Value value;
-        value.data.resize(longestData);
-        if (!More(RegEnumValueW(key, index, name.data(), &nameLength, nullptr, &value.type,
-                value.data.data(), &size)))
+        if (!More(RegEnumValueW(
+                key, index, name.data(), &nameLength, nullptr, &value.type, nullptr, &size)))
             return values;
         value.data.resize(size);
+        More(RegQueryValueExW(key, name.data(), nullptr, nullptr, value.data.data(), &size));
         value.name = nameLength ? Utf8({name.data(), nameLength}) : "(Default)";
         values.push_back(std::move(value));
     }

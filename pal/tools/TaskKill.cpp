@@ -3,6 +3,7 @@
 //
 // Exit codes: 0 if all of them were terminated, 128 if there is none, 1 for every other failure.
 // Refuses calls without /F, which would ask a process to close, and every other option.
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QStringList>
 
@@ -70,7 +71,7 @@ ExitCode EndAll(const QString& name)
     for (const DWORD id : AllProcesses())
     {
         const HANDLE process =
-            id == GetCurrentProcessId() ? nullptr : OpenProcess(access, FALSE, id);
+            id == QCoreApplication::applicationPid() ? nullptr : OpenProcess(access, FALSE, id);
         if (!process)
             continue;
         if (ImageName(process).compare(name, Qt::CaseInsensitive) == 0)

@@ -15,11 +15,11 @@ struct BoundedRun
 {
     enum class End
     {
-        NotStarted,    // `error` says why
+        NotStarted,    // with `error`
         Exited,        // by itself, with `exitCode`
         Crashed,       // by a signal on Linux, by an exception on Windows
-        TimedOut,      // was ended because its time was over
-        TooMuchOutput, // was ended because it wrote more than it may
+        TimedOut,      // ended at its time limit
+        TooMuchOutput, // ended at the limit of its output
     };
 
     End end = End::NotStarted;
@@ -32,7 +32,7 @@ struct BoundedRun
 // of its own (a process group on Linux, a job on Windows); when it has ended by itself, when the
 // limit has passed, or when it has written `maxOutput` bytes, the whole group is ended,
 // so that nothing of what it started outlives the call. A program that leaves its group on purpose
-// is not found on Linux. Its error output goes nowhere.
+// is not found on Linux. Its error output is discarded.
 // The arguments hold neither quotes nor backslashes. Any number of threads may call it at once.
 BoundedRun RunBounded(const QString& program, const QStringList& arguments,
     std::chrono::milliseconds limit, std::size_t maxOutput);

@@ -1,5 +1,7 @@
 #include "codecs/BoundedProcess.h"
 
+#include <Descriptor.h>
+
 #include <QFile>
 
 #include <algorithm>
@@ -16,7 +18,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-extern "C" // which this header does not say itself
+extern "C" // missing in this header
 {
 #include <sys/pidfd.h>
 }
@@ -28,26 +30,7 @@ namespace
 {
 
 using Clock = std::chrono::steady_clock;
-
-class Descriptor
-{
-public:
-    explicit Descriptor(int owned = -1) : descriptor(owned) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() { Reset(); }
-
-    int Get() const { return descriptor; }
-    void Reset(int owned = -1)
-    {
-        if (descriptor >= 0)
-            close(descriptor);
-        descriptor = owned;
-    }
-
-private:
-    int descriptor;
-};
+using Pal::Descriptor;
 
 struct Pipe
 {
@@ -59,13 +42,13 @@ struct Pipe
         std::array<int, 2> ends{};
         if (pipe2(ends.data(), O_CLOEXEC) != 0)
             throw std::system_error(errno, std::generic_category(), "pipe");
-        readEnd.Reset(ends[0]);
-        writeEnd.Reset(ends[1]);
+        readEnd = Descriptor(ends[0]);
+        writeEnd = Descriptor(ends[1]);
         fcntl(readEnd.Get(), F_SETFL, O_NONBLOCK);
     }
 };
 
-// Standard input and error lead nowhere, standard output into the pipe.
+// Standard input and error are the null device, standard output is the pipe.
 class FileActions
 {
 public:
@@ -108,8 +91,8 @@ private:
     posix_spawnattr_t attributes{};
 };
 
-// A started program. Its number stays its own until it is reaped, so the group can be ended after
-// the program itself has ended.
+// A started program. Its process id is not reused before it is reaped, so the group can be ended
+// after the program itself has ended.
 class Child
 {
 public:
@@ -145,6 +128,7 @@ int Spawn(const QString& program, const QStringList& arguments, int output, pid_
     for (const QString& argument : arguments)
         texts.push_back(argument.toStdString());
     std::vector<char*> words;
+    words.reserve(texts.size() + 1);
     for (std::string& text : texts)
         words.push_back(text.data());
     words.push_back(nullptr);
@@ -201,7 +185,7 @@ BoundedRun::End Watch(
         if (timeLeft == 0)
             return BoundedRun::End::TimedOut;
         if (reading == Reading::Ended)
-            pipe = -1; // it goes on without its output
+            pipe = -1; // end of its output; the process may still run
     }
 }
 
@@ -216,7 +200,7 @@ void RunInGroup(const QString& program, const QStringList& arguments,
     Child child(id);
     if (child.PidFd() < 0)
         throw std::system_error(errno, std::generic_category(), "pidfd_open");
-    pipe.writeEnd.Reset();
+    pipe.writeEnd = Descriptor();
     const BoundedRun::End ending = Watch(child, pipe.readEnd.Get(), end, maxOutput, run.output);
     const int status = child.EndGroup();
     run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : 0;

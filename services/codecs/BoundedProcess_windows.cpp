@@ -136,13 +136,13 @@ UniqueProcess StartInJob(
         const DWORD error = GetLastError();
         TerminateProcess(process.Get(), 1);
         SetLastError(error);
-        ThrowLastError("AssignProcessToJobObject"); // Windows 7 inside a job of somebody else
+        ThrowLastError("AssignProcessToJobObject"); // Windows 7 cannot nest jobs
     }
     ResumeThread(thread.Get());
     return process;
 }
 
-// Reads until nobody can write any more; false, with the job ended, when there is too much.
+// Reads to the end of the pipe; false, with the job ended, at the limit of the output.
 bool ReadOutput(HANDLE pipe, HANDLE job, std::size_t maxOutput, std::string& output)
 {
     std::array<char, 4096> buffer{};

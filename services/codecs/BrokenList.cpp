@@ -32,7 +32,7 @@ QByteArray ReadBounded(const QString& fileName)
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly))
         Refuse(fileName, file.errorString());
-    const QByteArray content = file.read(maxFileSize + 1);
+    QByteArray content = file.read(maxFileSize + 1);
     if (file.error() != QFileDevice::NoError)
         Refuse(fileName, file.errorString());
     return content;

@@ -14,12 +14,12 @@ namespace Vorlan::Core::Utils
 // underscores and hyphens of ASCII.
 bool IsCodecName(const std::string& name);
 
-// A text file of what is known to be broken on this machine: a first line that says what the file
-// is, then an entry per line. Entries that are no such text are left out when it is read.
+// A text file of what is known to be broken on this machine: a header line, then an entry per line.
+// Malformed entries are ignored.
 //   "# Vorlan broken codecs 1"      then "<codec>=<implementation>,<implementation>..."
 //   "# Vorlan broken plug-ins 1"    then "<implementation>"
-// An empty file is an empty list. What is longer than 1 MiB or begins with another line is no such
-// file, and is neither read nor written, so that nobody's file is lost.
+// An empty file is an empty list. A file that is longer than 1 MiB or has another header is neither
+// read nor overwritten.
 class BrokenList
 {
 public:
@@ -30,7 +30,7 @@ public:
     };
 
     // An empty path stands for no file: nothing is known and nothing is written. Throws
-    // std::runtime_error for what is no such file, or cannot be read.
+    // std::runtime_error for a file of another kind, or one that cannot be read.
     BrokenList(Kind kind, const ioPath& path);
 
     const std::vector<std::string>& Lines() const { return lines; }

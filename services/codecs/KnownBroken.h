@@ -12,8 +12,8 @@
 namespace Vorlan::Core::Utils
 {
 
-// What both files of what is broken say. A file that cannot be used is as good as none, and one
-// that cannot be written stays as it is; `onError` is told why.
+// The lists of broken codecs and plug-ins. A file that cannot be read counts as absent, one that
+// cannot be written is left unchanged; `onError` receives the cause.
 class KnownBroken
 {
 public:

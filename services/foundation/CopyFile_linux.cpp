@@ -1,5 +1,7 @@
 #include "platform/CopyFile.h"
 
+#include <Descriptor.h>
+
 #include <QFileInfo>
 
 #include <string>
@@ -16,27 +18,12 @@ namespace Vorlan::Platform
 namespace
 {
 
-class Descriptor
+using Pal::Descriptor;
+
+Descriptor Open(const QString& path, int flags)
 {
-public:
-    Descriptor(const QString& path, int flags)
-        : descriptor(open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, 0600))
-    {
-    }
-    ~Descriptor()
-    {
-        if (IsOpen())
-            close(descriptor);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    bool IsOpen() const { return descriptor >= 0; }
-    int Get() const { return descriptor; }
-
-private:
-    int descriptor;
-};
+    return Descriptor(open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, 0600));
+}
 
 // Shares the blocks where the file system can do so, and copies them otherwise.
 bool CopyContent(int source, int destination)
@@ -64,8 +51,8 @@ bool Name(int unnamed, const QByteArray& path)
 // system has no files without a name.
 bool CopyUnnamed(const QFile& source, const QString& destination)
 {
-    const Descriptor from(source.fileName(), O_RDONLY);
-    const Descriptor to(QFileInfo(destination).path(), O_WRONLY | O_TMPFILE);
+    const Descriptor from = Open(source.fileName(), O_RDONLY);
+    const Descriptor to = Open(QFileInfo(destination).path(), O_WRONLY | O_TMPFILE);
     return from.IsOpen() && to.IsOpen() && CopyContent(from.Get(), to.Get()) &&
            Name(to.Get(), QFile::encodeName(destination));
 }

@@ -1,5 +1,7 @@
 #include "platform/Path.h"
 
+#include "foundation/NearestExisting.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -91,15 +93,6 @@ namespace Util
 namespace
 {
 
-// The path itself, or the first of its parents that exists.
-QFileInfo NearestExisting(const QString& path)
-{
-    QFileInfo info(QDir::cleanPath(path));
-    while (!info.exists() && !info.isRoot())
-        info.setFile(info.path());
-    return info;
-}
-
 bool AreNamesAllowed(const QString& path)
 {
     QStringList names = path.split('/', Qt::SkipEmptyParts);
@@ -118,7 +111,7 @@ PathValidationState IsThisPathValid(const QString& path)
         return PathValidationState::NotAbsolute;
     if (!AreNamesAllowed(portable))
         return PathValidationState::ForbiddenName;
-    const QFileInfo existing = NearestExisting(portable);
+    const QFileInfo existing = Platform::NearestExisting(portable);
     if (!existing.isDir())
         return PathValidationState::NotAFolder;
     return existing.isWritable() ? PathValidationState::Valid : PathValidationState::NotWritable;
@@ -126,7 +119,7 @@ PathValidationState IsThisPathValid(const QString& path)
 
 std::int64_t GetAvailableDiskSpace(const ioPath& path)
 {
-    const QFileInfo existing = NearestExisting(QString::fromStdString(path.utf8string()));
+    const QFileInfo existing = Platform::NearestExisting(QString::fromStdString(path.utf8string()));
     const qint64 available = QStorageInfo(existing.absoluteFilePath()).bytesAvailable();
     return available < 0 ? 0 : available;
 }

@@ -250,10 +250,12 @@ public:
         const RegistryKey key = WriteHandle() ? Create(handle.Get(), place.keyPath) : RegistryKey();
         if (!key)
             return ERROR_ACCESS_DENIED;
-        const StoredValue stored = ToStored(value);
-        return RegSetValueExW(key.Get(), place.WideName().c_str(), 0, stored.type,
-            reinterpret_cast<const BYTE*>(stored.data.constData()),
-            static_cast<DWORD>(stored.data.size()));
+        const std::optional<StoredValue> stored = ToStored(value);
+        if (!stored)
+            return ERROR_NOT_SUPPORTED;
+        return RegSetValueExW(key.Get(), place.WideName().c_str(), 0, stored->type,
+            reinterpret_cast<const BYTE*>(stored->data.constData()),
+            static_cast<DWORD>(stored->data.size()));
     }
 
     void RemoveValue(const QString& fullKey)
@@ -298,12 +300,12 @@ public:
 
 RegistrySettings::RegistrySettings(
     QSettings::Scope scope, const QString& organisation, const QString& application)
-    : m_implementation(std::make_unique<Implementation>(scope, organisation, application))
+    : implementation(std::make_unique<Implementation>(scope, organisation, application))
 {
 }
 
 RegistrySettings::RegistrySettings(const QString& keyPath)
-    : m_implementation(std::make_unique<Implementation>(keyPath))
+    : implementation(std::make_unique<Implementation>(keyPath))
 {
 }
 
@@ -317,7 +319,7 @@ QVariant RegistrySettings::value(const QString& key, const QVariant& defaultValu
         return {};
     }
     StoredValue stored;
-    return m_implementation->Read(key, stored) ? FromStored(stored) : defaultValue;
+    return implementation->Read(key, stored) ? FromStored(stored) : defaultValue;
 }
 
 void RegistrySettings::setValue(const QString& key, const QVariant& value)
@@ -327,89 +329,89 @@ void RegistrySettings::setValue(const QString& key, const QVariant& value)
         qWarning("RegistrySettings::setValue: empty key");
         return;
     }
-    const LSTATUS error = m_implementation->Write(m_implementation->FullKey(key), value);
+    const LSTATUS error = implementation->Write(implementation->FullKey(key), value);
     if (error == ERROR_SUCCESS)
     {
-        m_implementation->deleteWhenDone = false;
+        implementation->deleteWhenDone = false;
         return;
     }
     WarnOf("Registry value cannot be written", key, error);
-    m_implementation->status = QSettings::AccessError;
+    implementation->status = QSettings::AccessError;
 }
 
 bool RegistrySettings::contains(const QString& key) const
 {
     StoredValue stored;
-    return m_implementation->Read(key, stored);
+    return implementation->Read(key, stored);
 }
 
 void RegistrySettings::remove(const QString& key)
 {
     const QString name = NormalizedKey(key);
-    const QString fullKey = name.isEmpty() ? group() : m_implementation->FullKey(name);
-    if (!m_implementation->WriteHandle())
+    const QString fullKey = name.isEmpty() ? group() : implementation->FullKey(name);
+    if (!implementation->WriteHandle())
     {
-        m_implementation->status = QSettings::AccessError;
+        implementation->status = QSettings::AccessError;
         return;
     }
     if (fullKey.isEmpty())
     {
-        m_implementation->Clear();
+        implementation->Clear();
         return;
     }
-    m_implementation->RemoveValue(fullKey);
-    m_implementation->RemoveSubKey(fullKey);
+    implementation->RemoveValue(fullKey);
+    implementation->RemoveSubKey(fullKey);
 }
 
 QStringList RegistrySettings::childKeys() const
 {
-    return m_implementation->ChildrenOfGroup(Children::Values);
+    return implementation->ChildrenOfGroup(Children::Values);
 }
 
 QStringList RegistrySettings::childGroups() const
 {
-    return m_implementation->ChildrenOfGroup(Children::SubKeys);
+    return implementation->ChildrenOfGroup(Children::SubKeys);
 }
 
 QString RegistrySettings::fileName() const
 {
-    if (!m_implementation->root)
+    if (!implementation->root)
         return {};
-    const bool user = m_implementation->root == HKEY_CURRENT_USER;
-    return (user ? "\\HKEY_CURRENT_USER\\" : "\\HKEY_LOCAL_MACHINE\\") + m_implementation->path;
+    const bool user = implementation->root == HKEY_CURRENT_USER;
+    return (user ? "\\HKEY_CURRENT_USER\\" : "\\HKEY_LOCAL_MACHINE\\") + implementation->path;
 }
 
 void RegistrySettings::beginGroup(const QString& prefix)
 {
     const QString name = NormalizedKey(prefix);
-    m_implementation->groups.append(name);
+    implementation->groups.append(name);
     if (!name.isEmpty())
-        m_implementation->groupPrefix += name + '/';
+        implementation->groupPrefix += name + '/';
 }
 
 void RegistrySettings::endGroup()
 {
-    if (m_implementation->groups.isEmpty())
+    if (implementation->groups.isEmpty())
     {
         qWarning("RegistrySettings::endGroup: no group was begun");
         return;
     }
-    const QString name = m_implementation->groups.takeLast();
+    const QString name = implementation->groups.takeLast();
     if (!name.isEmpty())
-        m_implementation->groupPrefix.chop(name.size() + 1);
+        implementation->groupPrefix.chop(name.size() + 1);
 }
 
 QString RegistrySettings::group() const
 {
-    return m_implementation->groupPrefix.chopped(m_implementation->groupPrefix.isEmpty() ? 0 : 1);
+    return implementation->groupPrefix.chopped(implementation->groupPrefix.isEmpty() ? 0 : 1);
 }
 
 QSettings::Status RegistrySettings::status() const
 {
-    return m_implementation->status;
+    return implementation->status;
 }
 
-// Every write has gone through already.
+// Writes are not buffered.
 void RegistrySettings::sync() {}
 
 } // namespace Vorlan

@@ -22,12 +22,12 @@ public:
 
 RegistrySettings::RegistrySettings(
     QSettings::Scope scope, const QString& organisation, const QString& application)
-    : m_implementation(std::make_unique<Implementation>(scope, organisation, application))
+    : implementation(std::make_unique<Implementation>(scope, organisation, application))
 {
 }
 
 RegistrySettings::RegistrySettings(const QString& keyPath)
-    : m_implementation(std::make_unique<Implementation>(keyPath))
+    : implementation(std::make_unique<Implementation>(keyPath))
 {
 }
 
@@ -35,62 +35,62 @@ RegistrySettings::~RegistrySettings() = default;
 
 QVariant RegistrySettings::value(const QString& key, const QVariant& defaultValue) const
 {
-    return m_implementation->settings.value(key, defaultValue);
+    return implementation->settings.value(key, defaultValue);
 }
 
 void RegistrySettings::setValue(const QString& key, const QVariant& value)
 {
-    m_implementation->settings.setValue(key, value);
+    implementation->settings.setValue(key, value);
 }
 
 bool RegistrySettings::contains(const QString& key) const
 {
-    return m_implementation->settings.contains(key);
+    return implementation->settings.contains(key);
 }
 
 void RegistrySettings::remove(const QString& key)
 {
-    m_implementation->settings.remove(key);
+    implementation->settings.remove(key);
 }
 
 QStringList RegistrySettings::childKeys() const
 {
-    return m_implementation->settings.childKeys();
+    return implementation->settings.childKeys();
 }
 
 QStringList RegistrySettings::childGroups() const
 {
-    return m_implementation->settings.childGroups();
+    return implementation->settings.childGroups();
 }
 
 QString RegistrySettings::fileName() const
 {
-    return m_implementation->settings.fileName();
+    return implementation->settings.fileName();
 }
 
 void RegistrySettings::beginGroup(const QString& prefix)
 {
-    m_implementation->settings.beginGroup(prefix);
+    implementation->settings.beginGroup(prefix);
 }
 
 void RegistrySettings::endGroup()
 {
-    m_implementation->settings.endGroup();
+    implementation->settings.endGroup();
 }
 
 QString RegistrySettings::group() const
 {
-    return m_implementation->settings.group();
+    return implementation->settings.group();
 }
 
 QSettings::Status RegistrySettings::status() const
 {
-    return m_implementation->settings.status();
+    return implementation->settings.status();
 }
 
 void RegistrySettings::sync()
 {
-    m_implementation->settings.sync();
+    implementation->settings.sync();
 }
 
 } // namespace Vorlan

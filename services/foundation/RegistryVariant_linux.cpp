@@ -3,10 +3,6 @@
 #include <algorithm>
 #include <cstring>
 
-#include <QDataStream>
-#include <QIODevice>
-#include <QRect>
-#include <QVector>
 #include <QtDebug>
 
 namespace Vorlan
@@ -36,16 +32,6 @@ QString Latin1Text(const QByteArray& bytes)
     return QString::fromLatin1(bytes.constData(), bytes.size());
 }
 
-QString Streamed(const QVariant& value)
-{
-    const bool isTime = value.userType() == QMetaType::QDateTime;
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    stream.setVersion(isTime ? QDataStream::Qt_5_6 : QDataStream::Qt_4_0);
-    stream << value;
-    return (isTime ? "@DateTime(" : "@Variant(") + Latin1Text(bytes) + ')';
-}
-
 QString EscapedText(const QString& text)
 {
     if (text.contains(QChar::Null))
@@ -53,15 +39,8 @@ QString EscapedText(const QString& text)
     return text.startsWith('@') ? '@' + text : text;
 }
 
-QString TextOfNumbers(const char* name, std::initializer_list<int> numbers)
-{
-    QStringList texts;
-    for (const int number : numbers)
-        texts.append(QString::number(number));
-    return '@' + QLatin1String(name) + '(' + texts.join(' ') + ')';
-}
-
-QString TextOf(const QVariant& value)
+// Nothing for a type that is refused.
+std::optional<QString> TextOf(const QVariant& value)
 {
     switch (value.userType())
     {
@@ -77,31 +56,23 @@ QString TextOf(const QVariant& value)
     case QMetaType::ULongLong:
     case QMetaType::Double:
         return EscapedText(value.toString());
-    case QMetaType::QRect:
-    {
-        const QRect rect = value.toRect();
-        return TextOfNumbers("Rect", {rect.x(), rect.y(), rect.width(), rect.height()});
-    }
-    case QMetaType::QSize:
-        return TextOfNumbers("Size", {value.toSize().width(), value.toSize().height()});
-    case QMetaType::QPoint:
-        return TextOfNumbers("Point", {value.toPoint().x(), value.toPoint().y()});
     default:
-        return Streamed(value);
+        return std::nullopt;
     }
 }
 
-StoredValue StoredList(const QVariant& value)
+// An element that is empty or holds a NUL would end the list.
+std::optional<StoredValue> StoredList(const QVariant& value)
 {
     QByteArray data;
     for (const QVariant& element : value.toList())
     {
-        const QString text = TextOf(element);
-        if (text.isEmpty() || text.contains(QChar::Null))
-            return StoredText(Streamed(value));
-        data += WideData(text);
+        const std::optional<QString> text = TextOf(element);
+        if (!text || text->isEmpty() || text->contains(QChar::Null))
+            return std::nullopt;
+        data += WideData(*text);
     }
-    return {REG_MULTI_SZ, data + QByteArray(sizeof(wchar_t), '\0')};
+    return StoredValue{REG_MULTI_SZ, data + QByteArray(sizeof(wchar_t), '\0')};
 }
 
 template <typename Number>
@@ -120,30 +91,9 @@ bool TakeForm(const QString& text, const char* name, QString& inside)
     return true;
 }
 
-bool TakeNumbers(const QString& text, const char* name, int count, QVector<int>& numbers)
-{
-    QString inside;
-    if (!TakeForm(text, name, inside))
-        return false;
-    numbers.clear();
-    for (const QString& number : inside.split(' '))
-        numbers.append(number.toInt());
-    return numbers.size() == count;
-}
-
-QVariant FromStream(const QByteArray& bytes, int version)
-{
-    QDataStream stream(bytes);
-    stream.setVersion(version);
-    QVariant value;
-    stream >> value;
-    return value;
-}
-
 QVariant FromText(const QString& text)
 {
     QString inside;
-    QVector<int> numbers;
     if (text.startsWith("@@"))
         return text.mid(1);
     if (text == "@Invalid()")
@@ -152,16 +102,6 @@ QVariant FromText(const QString& text)
         return inside;
     if (TakeForm(text, "ByteArray", inside))
         return inside.toLatin1();
-    if (TakeForm(text, "Variant", inside))
-        return FromStream(inside.toLatin1(), QDataStream::Qt_4_0);
-    if (TakeForm(text, "DateTime", inside))
-        return FromStream(inside.toLatin1(), QDataStream::Qt_5_6);
-    if (TakeNumbers(text, "Rect", 4, numbers))
-        return QRect(numbers[0], numbers[1], numbers[2], numbers[3]);
-    if (TakeNumbers(text, "Size", 2, numbers))
-        return QSize(numbers[0], numbers[1]);
-    if (TakeNumbers(text, "Point", 2, numbers))
-        return QPoint(numbers[0], numbers[1]);
     return text;
 }
 
@@ -196,22 +136,24 @@ QString WideText(const QByteArray& data)
 
 } // namespace
 
-StoredValue ToStored(const QVariant& value)
+std::optional<StoredValue> ToStored(const QVariant& value)
 {
     switch (value.userType())
     {
     case QMetaType::Int:
     case QMetaType::UInt:
-        return {REG_DWORD, NumberData(static_cast<DWORD>(value.toUInt()))};
+        return StoredValue{REG_DWORD, NumberData(static_cast<DWORD>(value.toUInt()))};
     case QMetaType::LongLong:
     case QMetaType::ULongLong:
-        return {REG_QWORD, NumberData(value.toULongLong())};
+        return StoredValue{REG_QWORD, NumberData(value.toULongLong())};
     case QMetaType::QStringList:
     case QMetaType::QVariantList:
         return StoredList(value);
     default:
-        return StoredText(TextOf(value));
+        break;
     }
+    const std::optional<QString> text = TextOf(value);
+    return text ? std::optional(StoredText(*text)) : std::nullopt;
 }
 
 QVariant FromStored(const StoredValue& stored)

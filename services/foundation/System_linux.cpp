@@ -1,5 +1,7 @@
 #include "platform/System.h"
 
+#include "foundation/NearestExisting.h"
+
 #include <Pal.h>
 
 #include <QDir>
@@ -24,14 +26,11 @@ QVariant MachineSetting(const QString& name)
     return QSettings(fileName, QSettings::IniFormat).value(name);
 }
 
-// The block device of a path says whether it rotates; a partition asks its disk. File systems
-// without a device of their own do not say.
+// From the block device of a path, or the disk of a partition; false for file systems without a
+// device.
 bool IsOnRotationFreeDevice(const QString& path)
 {
-    QFileInfo existing(QDir::cleanPath(path));
-    while (!existing.exists() && !existing.isRoot())
-        existing.setFile(existing.path());
-
+    const QFileInfo existing = Platform::NearestExisting(path);
     struct stat status = {};
     if (stat(QFile::encodeName(existing.absoluteFilePath()).constData(), &status) != 0)
         return false;

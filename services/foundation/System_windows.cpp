@@ -1,6 +1,7 @@
 #include "platform/System.h"
 
 #include "base/Handle.h"
+#include "foundation/NearestExisting.h"
 #include "platform/Registry.h"
 
 #include <QDir>
@@ -121,9 +122,7 @@ bool IsRunningOnSSD()
 
 bool IsPathOnSSD(const std::string& path)
 {
-    QFileInfo existing(QDir::cleanPath(QString::fromStdString(path)));
-    while (!existing.exists() && !existing.isRoot())
-        existing.setFile(existing.path());
+    const QFileInfo existing = Platform::NearestExisting(QString::fromStdString(path));
     const std::wstring device = VolumeDevice(existing.absoluteFilePath());
     return !device.empty() && HasNoSeekPenalty(device);
 }

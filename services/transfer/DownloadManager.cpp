@@ -26,7 +26,7 @@ bool IsExplainedByConnection(TransferCode code)
 } // namespace
 
 DownloadManager::DownloadManager(std::shared_ptr<App::IInternetConnectionChecker> connectionChecker,
-    std::shared_ptr<App::ICustomizationManager>, QObject* parent,
+    const std::shared_ptr<App::ICustomizationManager>&, QObject* parent,
     Networking::TransferPolicy transferPolicy)
     : QObject(parent), checker(std::move(connectionChecker)), policy(std::move(transferPolicy))
 {

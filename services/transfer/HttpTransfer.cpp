@@ -14,8 +14,8 @@ namespace
 
 using Clock = std::chrono::steady_clock;
 
-constexpr long receiveBuffer = 256 * 1024;
-constexpr long long largestRedirectBody = 64 * 1024; // it is read and dropped
+constexpr long receiveBuffer = 256L * 1024;
+constexpr long long largestRedirectBody = 64LL * 1024; // it is read and dropped
 constexpr long statusOk = 200;
 
 bool IsRedirect(long status)
@@ -57,8 +57,8 @@ TransferCode CodeOf(CURLcode error)
     }
 }
 
-// One request and its answer; redirects are told, not followed, so that each address on the way is
-// checked and asked of the proxy provider like the first.
+// One request and its answer; redirects are reported, not followed, so that each address on the way
+// is checked and asked of the proxy provider like the first.
 class Hop
 {
 public:

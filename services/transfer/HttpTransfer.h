@@ -41,7 +41,7 @@ bool IsAddressAllowed(const QUrl& url);
 // Throws std::runtime_error only when libcurl gives no handle.
 HttpAnswer Fetch(const HttpRequest& request, const std::atomic<bool>& keepRunning);
 
-// The same for a body of text that is kept in memory; nobody cancels it.
+// The same for a body of text that is kept in memory; it cannot be cancelled.
 struct TextAnswer
 {
     HttpAnswer answer;

@@ -48,7 +48,7 @@ UserConfiguration ReadUserConfiguration()
         {TakeText(config.lpszProxy), TakeText(config.lpszProxyBypass)}};
 }
 
-// What the configuration script, given or found in the network, says about the URL.
+// The proxies that the configuration script, given or found in the network, returns for the URL.
 ProxyLists AskScript(const UserConfiguration& user, const QUrl& url)
 {
     const HINTERNET session =

@@ -76,7 +76,7 @@ QString ReceivedConfigPath()
     return Platform::LogFolder() + QDir::separator() + "web-config.json";
 }
 
-ExitCode RequestWebConfig(Context context)
+ExitCode RequestWebConfig(const Context& context)
 {
     Networking::HttpRequest request;
     request.url = RequestUrl(context);
@@ -89,7 +89,7 @@ ExitCode RequestWebConfig(Context context)
     if (answer.code != TransferCode::Done)
     {
         const ExitCode code = CodeOf(answer.code);
-        if (code == ExitCode::Failed) // every other code says what happened
+        if (code == ExitCode::Failed) // every other code names the cause
             qWarning() << "Web config failed: " << answer.text;
         return code;
     }

@@ -20,7 +20,7 @@ enum class AppType : int
 // may decide silently. From Windows 10 on it opens the page of the Settings application and clicks
 // the category's button there; from Windows 7 on it runs the association registrator elevated and
 // then asks Windows for each extension. It does not wait for the user's choice. Failures of COM end
-// a step without a word; an unknown type throws Vorlan::Exception before anything is opened.
+// a step silently; an unknown type throws Vorlan::Exception before anything is opened.
 // applicationName: the name under which the product is registered with Windows.
 void SetDefaultApplication(AppType type, const QStringList& extensions,
     const QString& applicationName, const QString& installDir);

@@ -10,11 +10,11 @@ namespace Vorlan
 
 // Waits until the element with one automation id gets the keyboard focus, clicks it, and
 // unregisters itself. UI Automation calls it on threads of its own. A COM object: it is made with
-// one reference and goes with its last one.
+// one reference and is deleted with the last.
 class FocusChangedEvendHandler final : public UiAutomation::IUIAutomationFocusChangedEventHandler
 {
 public:
-    // automation: what it is registered with; a reference is held as long as the handler lives.
+    // automation: what it is registered with; the handler holds a reference.
     FocusChangedEvendHandler(std::wstring automationId, UiAutomation::IUIAutomation* automation);
     FocusChangedEvendHandler(const FocusChangedEvendHandler&) = delete;
     FocusChangedEvendHandler& operator=(const FocusChangedEvendHandler&) = delete;

@@ -1,6 +1,6 @@
 // The part of the UI Automation interfaces that is used here, in the order of their published
-// tables of methods (Windows SDK, UIAutomationClient.h). Methods that nobody calls stand for their
-// places only: their names and arguments are left out.
+// tables of methods (Windows SDK, UIAutomationClient.h). Methods that are not called
+// only fill their slots: their names and arguments are left out.
 #pragma once
 
 #include <objbase.h>

@@ -34,7 +34,7 @@ void ThrowUnless(bool condition, const char* error)
         throw std::runtime_error(error);
 }
 
-// A file to be written; closed at the latest when the object goes.
+// A file to be written; closed by the destructor at the latest.
 class OutputFile
 {
 public:
@@ -214,7 +214,7 @@ uint64_t ArchiveExtractor::GetTotalUnpackedSize() const
 }
 
 void ArchiveExtractor::Unpack(
-    const ExtractSettings& selection, const std::wstring& destination, Progress progress)
+    const ExtractSettings& selection, const std::wstring& destination, const Progress& progress)
 {
     std::vector<UInt32> entries;
     for (UInt32 index = 0; index < state->names.size(); ++index)

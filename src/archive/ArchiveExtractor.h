@@ -15,8 +15,7 @@ namespace Vorlan
 // Reads a 7z payload archive. Used by one thread at a time.
 //
 // Entry names are as the archive holds them: UTF-16 code units, one per wchar_t on every system,
-// with
-// "/" between their components. An archive with a name that must not become a file name (see
+// their components separated by "/". An archive with a name that must not become a file name (see
 // IsSafeEntryName) is refused as corrupted.
 class ArchiveExtractor
 {
@@ -49,7 +48,7 @@ public:
     // directory", "Cannot open destination file for write", "Cannot write output file" or "Cannot
     // close output file". What was written before stays.
     void Unpack(
-        const ExtractSettings& selection, const std::wstring& destination, Progress progress);
+        const ExtractSettings& selection, const std::wstring& destination, const Progress& progress);
 
 private:
     struct State;

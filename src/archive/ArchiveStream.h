@@ -36,7 +36,7 @@ public:
 private:
     CFileInStream stream = {};
     CLookToRead2 look = {};
-    std::array<Byte, 256 * 1024> buffer;
+    std::array<Byte, std::size_t{256} * 1024> buffer;
 };
 
 } // namespace Vorlan

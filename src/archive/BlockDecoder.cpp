@@ -37,7 +37,7 @@ BlockDecoder::BlockDecoder(const CSzArEx& archive, ArchiveStream& stream, const 
         std::min<std::size_t>(slots.size(), std::max(1u, std::thread::hardware_concurrency()));
     if (threads > 0)
         StartWorker(stream);
-    // Where one of the others cannot be had, fewer do the same work.
+    // Where a thread cannot be created, fewer do the same work.
     while (workers.size() < threads && StartFurtherWorker(path))
     {
     }

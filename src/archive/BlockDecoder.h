@@ -27,7 +27,7 @@ public:
     };
 
     // blocks: those that will be asked for, in that order.
-    // stream: the archive, opened, which nobody else reads meanwhile; path: for further threads.
+    // stream: the open archive, read by this decoder only; path: for further threads.
     BlockDecoder(const CSzArEx& database, ArchiveStream& stream, const std::wstring& path,
         const std::vector<UInt32>& blocks);
     // Waits for the blocks that are being decoded.
@@ -35,7 +35,7 @@ public:
     BlockDecoder(const BlockDecoder&) = delete;
     BlockDecoder& operator=(const BlockDecoder&) = delete;
 
-    // The next block, which lives until the next call; null when it cannot be decoded. Waits for
+    // The next block, valid until the next call; null when it cannot be decoded. Waits for
     // it.
     Block* Next();
 
@@ -63,11 +63,12 @@ private:
     std::mutex mutex; // guards what follows, and the slots' states
     std::condition_variable changed;
     std::size_t inUse = 0;    // bytes of the blocks that are reserved and not released
-    std::size_t reserved = 0; // so many slots have been taken by the threads
+    std::size_t reserved = 0; // number of slots taken by the threads
     std::size_t handedOut = 0;
     bool isStopped = false;
 
-    std::vector<std::future<void>> workers; // the last member: they end before the rest goes
+    std::vector<std::future<void>>
+        workers; // the last member: joined before the others are destroyed
 };
 
 } // namespace Vorlan

@@ -8,7 +8,7 @@
 namespace Vorlan
 {
 
-// A program that starts at logon, as the id of its entry tells:
+// A program that starts at logon, parsed from the id of its entry:
 // company "_" product "_" major "." minor "." patch "_" app.
 struct AutoLauncherApp
 {

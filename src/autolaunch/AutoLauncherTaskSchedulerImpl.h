@@ -6,7 +6,7 @@ namespace Vorlan
 {
 
 // Logon tasks of the task scheduler, through the elevated "schtasks" command. Each operation blocks
-// for up to 5 seconds; a person who refuses the elevation makes it fail.
+// for up to 5 seconds; a refused elevation makes it fail.
 class AutoLauncherTaskSchedulerImpl : public IAutoLauncher
 {
 public:

@@ -1,6 +1,7 @@
 #include "autolaunch/StartupRegistration.h"
 
 #include "autolaunch/CreateAutoLauncher.h"
+#include "base/ProductProfile.h"
 #include "platform/Exception.h"
 
 #include <QDebug>
@@ -50,6 +51,12 @@ std::string Describe(const AutoLaunchApp& app, const AutoLaunchProduct& product)
 }
 
 } // namespace
+
+AutoLaunchProduct ThisProduct()
+{
+    return {ProductProfile::brandName.data(), ProductProfile::applicationId.data(),
+        ProductProfile::versionMajor.data(), ProductProfile::versionMinor.data()};
+}
 
 StartupRegistration::StartupRegistration(
     QSettings::Scope scope, const AutoLaunchApp& app, const AutoLaunchProduct& product)

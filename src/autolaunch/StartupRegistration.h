@@ -28,6 +28,9 @@ struct AutoLaunchProduct
     std::string versionMinor; // minor and patch number: "5.1"
 };
 
+// The product that this engine is built for.
+AutoLaunchProduct ThisProduct();
+
 // The priority rule for one program of a product, over the Run key. Built for one call.
 class StartupRegistration
 {

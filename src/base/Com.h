@@ -7,8 +7,8 @@
 namespace Vorlan::Platform
 {
 
-// COM on this thread, from the first Initialise to the object's end; balanced also where somebody
-// else initialised it before.
+// COM on this thread, from the first Initialise to the object's end; balanced also where it was
+// initialised before.
 class ComApartment
 {
 public:

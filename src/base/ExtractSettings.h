@@ -4,12 +4,11 @@
 #include <set>
 #include <string>
 
-/// Which entries of the payload archive are written, and under which names. All keys are lower-case
-/// entry names with "/" between their components, one UTF-16 code unit to each wchar_t. The
-/// engine's own; a front end has no use for it.
+// Which entries of the payload archive are written, and under which names. All keys are lower-case
+// entry names with "/" between their components, one UTF-16 code unit to each wchar_t.
 struct ExtractSettings
 {
-    std::set<std::wstring> include;              ///< when not empty, only these are written
-    std::set<std::wstring> exclude;              ///< these are not written
-    std::map<std::wstring, std::wstring> rename; ///< output name where it differs
+    std::set<std::wstring> include;              // when not empty, only these are written
+    std::set<std::wstring> exclude;              // these are not written
+    std::map<std::wstring, std::wstring> rename; // output name where it differs
 };

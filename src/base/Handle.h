@@ -7,8 +7,7 @@
 namespace Vorlan::Platform
 {
 
-// Owns a system handle and closes it when it goes. Closing never hides the error that made us
-// close.
+// Owns a system handle, closed by the destructor. Closing preserves the last error.
 template <typename Traits>
 class UniqueHandle
 {

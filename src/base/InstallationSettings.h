@@ -9,7 +9,7 @@
 namespace Vorlan
 {
 
-/// What is known of the person who installs. Plain data.
+/// The identity of the user. Plain data.
 struct INSTALLER_EXPORT UserInfoSettings
 {
     QString webUid; ///< web user id; empty when there is none

@@ -17,11 +17,11 @@ namespace Vorlan::ProductProfile
 inline constexpr QLatin1String companyName{"Vorlan"};
 /// The company in names of resources.
 inline constexpr QLatin1String brandName{"vorlan"};
-/// The product for the vendor's services and for programs that depend on it.
+/// Id of the product for the vendor's services and for programs that depend on it.
 inline constexpr QLatin1String applicationId{"quillax"};
-/// The product for people, where "settings.ini" has no other name.
+/// Display name of the product where "settings.ini" has no other.
 inline constexpr QLatin1String productName{"Quillax"};
-/// The main application for other programs.
+/// Id of the main application for other programs.
 inline constexpr QLatin1String shortName{"quill"};
 /// First number of the version.
 inline constexpr QLatin1String versionMajor{"24"};

@@ -64,7 +64,7 @@ AccelerationChecker::~AccelerationChecker()
 {
     try
     {
-        WaitForCheck();
+        AccelerationChecker::WaitForCheck();
     }
     catch (const std::exception& error)
     {

@@ -28,7 +28,7 @@ public:
     // Waits for a check that was not waited for; what it threw is logged.
     ~AccelerationChecker() override;
 
-    // Throws std::system_error when there is no thread to be had. Does nothing while a check that
+    // Throws std::system_error when no thread can be created. Does nothing while a check that
     // was started is not yet waited for.
     void StartCheck() override;
     void WaitForCheck() override;

@@ -33,7 +33,7 @@ struct WebUidProvider
     /// @param useStoredId the stored id of the product and nothing else, without results
     /// @param preferCommandLineId a valid id among the arguments wins over every other source
     /// @param parameters of the requests to the service
-    /// @param bundleName told to the identity service
+    /// @param bundleName sent to the identity service
     /// @return the id to use, empty when there is none, and what was found
     INSTALLER_EXPORT static std::pair<QString, WebUidResults> GetWebUid(
         const InstallerMediator& mediator, const QStringList& arguments,

@@ -20,7 +20,7 @@ constexpr char scriptResource[] = ":/Batch/uninstallDelayedDir.bat";
 // A writable copy of the script in the temporary folder; empty when it cannot be made.
 QString CopyScript()
 {
-    const QString path = QDir::toNativeSeparators(QDir::tempPath()) + QDir::separator() +
+    QString path = QDir::toNativeSeparators(QDir::tempPath()) + QDir::separator() +
                          QUuid::createUuid().toString() + ".bat";
     if (!QFile::copy(scriptResource, path))
         return QString();

@@ -1,12 +1,14 @@
 #include "installer/InstallerMediator.h"
 
 #include "archive/ArchiveExtractor.h"
+#include "base/ExtractSettings.h"
 #include "installer/FileCopy.h"
 #include "installer/ProgressThrottle.h"
 #include "installer/Shortcuts.h"
 #include "platform/Links.h"
 #include "platform/Path.h"
 #include "platform/System.h"
+#include "registry/RegistrationProfile.h"
 #include "registry/SettingsManager.h"
 
 #include <QCoreApplication>
@@ -278,7 +280,7 @@ void InstallerMediator::HandleCopyFileError(const QString& fileName, const QStri
 
 void InstallerMediator::UpdateProgramData()
 {
-    for (auto entry = profile.outputNames.begin(); entry != profile.outputNames.end(); ++entry)
+    for (auto entry = profile->outputNames.begin(); entry != profile->outputNames.end(); ++entry)
     {
         const QString& name = entry.key();
         const QString& target = entry.value();

@@ -1,12 +1,14 @@
 #include "installer/InstallerMediator.h"
 
 #include "archive/ArchiveExtractor.h"
+#include "base/TriState.h"
 #include "checks/AccelerationChecker.h"
 #include "installer/ProcessTermination.h"
 #include "network/QtDownloader.h"
 #include "network/WebConfigRequest.h"
 #include "platform/Exception.h"
 #include "platform/Timer.h"
+#include "registry/RegistrationProfile.h"
 #include "registry/SettingsManager.h"
 
 #include <QCoreApplication>
@@ -97,10 +99,10 @@ void InstallerMediator::RunInstallation()
         BeginStage("DOWNLOAD_ADDITIONAL_DATA", "Downloading additional data...");
         DownloadAdditionalData(placementShare, downloadShare);
     }
-    if (profile.afterInstall)
+    if (profile->afterInstall)
     {
         BeginStage("PERFORM_AFTER_INSTALL_ACTION", "Performing after install action...");
-        profile.afterInstall(settings);
+        profile->afterInstall(settings);
     }
     qInfo() << "Done!";
     emit InstallationFinished();
@@ -118,7 +120,7 @@ void InstallerMediator::BeginStage(const char* stageId, const char* logText)
 
 bool InstallerMediator::WillDownloadAdditionalData() const
 {
-    return settings.downloadAdditionalData == 2 && !profile.additionalData.empty();
+    return settings.downloadAdditionalData == TriState::chosen && !profile->additionalData.empty();
 }
 
 std::shared_ptr<Installer::IAccelerationChecker> InstallerMediator::MakeChecker()
@@ -151,7 +153,7 @@ void InstallerMediator::StartCapabilityCheck(Installer::IAccelerationChecker& ch
 
 void InstallerMediator::StopRunningPrograms()
 {
-    if (!profile.stopProcesses)
+    if (!profile->stopProcesses)
         return;
     settingsManager->SetKilledByInstaller(true);
     // From a setup that runs out of the destination itself this process would be among them.
@@ -213,7 +215,7 @@ void InstallerMediator::DownloadAdditionalData(double start, double range)
         [this](double percentage)
         { emit InstallationProgress(percentage, tr("Downloading additional data..."), QString()); },
         Qt::DirectConnection);
-    downloader->DownloadFiles(profile.additionalData, settings.locale.toStdString(), start, range);
+    downloader->DownloadFiles(profile->additionalData, settings.locale.toStdString(), start, range);
 }
 
 void InstallerMediator::ReportFailure()
@@ -227,10 +229,10 @@ void InstallerMediator::ReportFailure()
 void InstallerMediator::StartMainExecutable(const QString& method)
 {
     const QString& arguments = settings.mainAppArguments;
-    qInfo() << "Starting " << profile.mainExecutable << " in " << settings.installDir
+    qInfo() << "Starting " << profile->mainExecutable << " in " << settings.installDir
             << " with args: " << arguments;
     QProcess::startDetached(
-        settings.installDir + profile.mainExecutable, arguments.split(' '), settings.installDir);
+        settings.installDir + profile->mainExecutable, arguments.split(' '), settings.installDir);
     emit ApplicationStarted(method);
 }
 

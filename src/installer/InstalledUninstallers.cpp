@@ -1,6 +1,7 @@
 #include "installer/InstallerMediator.h"
 
 #include "installer/SilentUninstaller.h"
+#include "registry/RegistrationProfile.h"
 #include "registry/SettingsManager.h"
 
 #include <QDebug>
@@ -24,7 +25,7 @@ void InstallerMediator::RemovePreviousVersion()
 
 void InstallerMediator::RemoveAdditionalModules()
 {
-    for (const QString& name : profile.additionalModules)
+    for (const QString& name : profile->additionalModules)
     {
         const QString uninstaller = SettingsManager::GetUninstallerPath(name);
         if (!uninstaller.isEmpty() && QFile::exists(uninstaller))

@@ -9,6 +9,7 @@
 #include "platform/Path.h"
 #include "platform/Version.h"
 #include "registry/CreateProductProfile.h"
+#include "registry/RegistrationProfile.h"
 #include "registry/SettingsManager.h"
 #include "widgets/AlertBox.h"
 
@@ -52,12 +53,12 @@ InstallerMediator::InstallerMediator(const Initializer& initializer)
     : productIniSettings(std::make_shared<QSettings>("settings.ini", QSettings::IniFormat)),
       settingsManager(std::make_unique<SettingsManager>(
           ProductProfile::applicationKey, ProductProfile::companyName, initializer.scope)),
+      profile(std::make_unique<RegistrationProfile>(CreateProductProfile())),
       parallelCopy(initializer.parallelCopy),
       unattended(initializer.unattended),
       waitClock(std::make_unique<WaitClock>(SystemClock()))
 {
     productIniSettings->setIniCodec("UTF-8");
-    profile = CreateProductProfile();
     FillSettings(initializer);
     CheckForPreferredBrowser();
     if (initializer.withArchive)
@@ -69,6 +70,7 @@ InstallerMediator::InstallerMediator(
     : settingsManager(std::make_unique<SettingsManager>(
           applicationKey, ProductProfile::companyName, QSettings::UserScope)),
       settings(initialSettings),
+      profile(std::make_unique<RegistrationProfile>()),
       waitClock(std::make_unique<WaitClock>(SystemClock()))
 {
     CheckForPreferredBrowser();
@@ -87,11 +89,11 @@ void InstallerMediator::FillSettings(const Initializer& initializer)
     settings.installerName = initializer.installerName;
     settings.productId = ProductProfile::applicationId;
     settings.versionByInstaller = QString(ProductProfile::versionText).replace('.', '-');
-    settings.mainExeName = profile.mainExecutable;
+    settings.mainExeName = profile->mainExecutable;
     settings.mainAppIpcId = ProductProfile::shortName;
     settings.productFolderName = ProductProfile::productFullName;
     settings.productDisplayName = ProductProfile::productFullName;
-    settings.profileModeFlag = profile.mode == 1;
+    settings.profileModeFlag = profile->mode == 1;
     settings.isNewerVersion = IsNewerThanInstalled();
     settings.previousFolderName = PreviousFolderName();
     const QString appData = GetStandardLocation(StandardLocation::AppData);
@@ -100,12 +102,9 @@ void InstallerMediator::FillSettings(const Initializer& initializer)
     settings.statisticsKeyExists = settingsManager->StatisticsKeyExists();
     DetermineLocale();
 
-    const AutoLaunchApp app{profile.autoLaunchAppId.toStdString(),
+    const AutoLaunchApp app{profile->autoLaunchAppId.toStdString(),
         (settings.installDir + ProductProfile::uninstallerFileName).toStdString(), {}};
-    const AutoLaunchProduct product{ProductProfile::brandName.data(),
-        ProductProfile::applicationId.data(), ProductProfile::versionMajor.data(),
-        ProductProfile::versionMinor.data()};
-    settings.isInStartup = IsAppInStartup(settings.scope, app, product);
+    settings.isInStartup = IsAppInStartup(settings.scope, app, ThisProduct());
 }
 
 QString InstallerMediator::PreviousFolderName() const
@@ -173,7 +172,7 @@ InstallationState InstallerMediator::GetInstallationState() const
 
 QString InstallerMediator::GetProductName() const
 {
-    const QString name = ProductProfile::productName;
+    QString name = ProductProfile::productName;
     if (!productIniSettings)
         return name;
     return productIniSettings->value(name + '_' + settings.locale.toUpper(), name).toString();
@@ -203,7 +202,7 @@ void InstallerMediator::StartPushNotificationHelper() {}
 
 void InstallerMediator::OnLocaleChanged(QString localeCode)
 {
-    settings.locale = localeCode;
+    settings.locale = std::move(localeCode);
 }
 
 void InstallerMediator::OnDeleteUserSettings(bool isChecked)

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "base/Export.h"
-#include "base/ExtractSettings.h"
 #include "base/InstallationSettings.h"
-#include "registry/RegistrationProfile.h"
 
 #include <QFileInfoList>
 #include <QObject>
@@ -19,12 +17,15 @@
 #include <thread>
 #include <vector>
 
+struct ExtractSettings;
+
 /// The installation engine.
 namespace Vorlan
 {
 
 class ArchiveExtractor;
 class SettingsManager;
+struct RegistrationProfile;
 struct WaitClock;
 
 namespace App
@@ -56,7 +57,7 @@ struct INSTALLER_EXPORT ObjectsConnectorID
 /// The engine's one public object: it proposes the settings of an installation or an uninstallation
 /// and runs it. A front end constructs one, connects to its signals (queued), changes the proposed
 /// settings, and calls StartInstallation or StartUninstall.
-//
+///
 /// Threads: construction, slots and getters belong to the front end's thread. A run works on a
 /// thread of its own and emits its signals from there; while it is InProgress the settings must not
 /// be changed. Neither may the mediator be destroyed, nor a run started, from the run's own thread.
@@ -70,8 +71,8 @@ public:
     {
         const QString& installerName; ///< file name of the running installer
         bool withArchive;             ///< an installer: look for the payload archive and open it
-        bool unattended;              ///< nobody watches: no default applications, and an
-                                      ///< uninstallation only does what the settings ask for
+        bool unattended;              ///< silent: no default applications, and an uninstallation
+                                      ///< only does what the settings ask for
         QSettings::Scope scope;       ///< for this user or for all users
         bool parallelCopy;            ///< files may be copied in parallel
     };
@@ -88,8 +89,8 @@ public:
     };
 
     /// Proposes the settings from the product and from what is on the machine. With `withArchive` a
-    /// missing archive is told in a modal box and leaves a mediator that cannot install; one that
-    /// cannot be read throws std::runtime_error.
+    /// missing archive is reported in a modal box and leaves a mediator that cannot install; one
+    /// that cannot be read throws std::runtime_error.
     explicit InstallerMediator(const Initializer& initializer);
 
     /// Waits for a run in progress.
@@ -145,7 +146,7 @@ public slots:
     /// the program is the uninstaller that was placed with the product.
     void StartUninstall();
     /// Starts the installed main application with the settings' arguments; whether that works is
-    /// not examined. `method` is the front end's word for the occasion, handed on with
+    /// not examined. `method` is the front end's name for the occasion, handed on with
     /// ApplicationStarted.
     void StartMainExecutable(const QString& method = QStringLiteral("Manual"));
     /// Does nothing: this product has no such helper.
@@ -270,7 +271,7 @@ private:
     std::unique_ptr<App::URLHandler> urlHandler;
     std::thread worker;
     InstallationSettings settings;
-    RegistrationProfile profile;
+    std::unique_ptr<RegistrationProfile> profile; // never null
     bool parallelCopy = false;
     bool unattended = false;
     bool deleteUserSettings = false;

@@ -3,6 +3,7 @@
 #include "base/ProductProfile.h"
 #include "installer/Shortcuts.h"
 #include "platform/Links.h"
+#include "registry/RegistrationProfile.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -90,9 +91,9 @@ QString InstallerMediator::CreateMenuAppPath(QString base) const
 {
     if (base.isEmpty())
         return base;
-    if (profile.appPaths.size() > 1)
+    if (profile->appPaths.size() > 1)
         base += tr("Programs") + QDir::separator();
-    if (!profile.appPaths.isEmpty())
+    if (!profile->appPaths.isEmpty())
         QDir().mkpath(base);
     return base;
 }
@@ -119,14 +120,14 @@ void InstallerMediator::CreateShortcuts() const
     const QString menuBase = CreateMenuBasePath(StartMenuRoot(settings.scope));
     const QString menuPrograms = CreateMenuAppPath(menuBase);
 
-    for (const ExecutableInfo& info : profile.appPaths)
+    for (const ExecutableInfo& info : profile->appPaths)
     {
-        if (info.fileName != profile.mainExecutable)
+        if (info.fileName != profile->mainExecutable)
             CreateLinkBelow(menuPrograms, CreateShortcutName(info.description),
                 folder + info.fileName, AppendExtraParams(info.arguments));
     }
-    CreateLinkBelow(menuBase, name, folder + profile.mainExecutable, {});
-    CreateLinkBelow(DesktopRoot(settings.scope), name, folder + profile.mainExecutable, {});
+    CreateLinkBelow(menuBase, name, folder + profile->mainExecutable, {});
+    CreateLinkBelow(DesktopRoot(settings.scope), name, folder + profile->mainExecutable, {});
     CreateLinkBelow(menuBase, tr("Uninstall %1", "Delete app from start menu").arg(name),
         folder + ProductProfile::uninstallerFileName, {});
     CreateUrlLink(CreateUrlFilename(), GetUrl(URL::StartPage).toStdString());
@@ -137,8 +138,8 @@ void InstallerMediator::CreateShortcuts() const
 
 void InstallerMediator::RemoveShortcuts()
 {
-    // Where the machine does not tell such a folder, its path is empty, and a path below it would
-    // be one below the current folder.
+    // The path of a shell folder that the machine does not have is empty; a path below it would be
+    // relative to the current folder.
     const QString root = StartMenuRoot(settings.scope);
     const QString menuBase = CreateMenuBasePath(root);
     // A name such as "" or ".." would take away the whole Start menu, or more.

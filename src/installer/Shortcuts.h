@@ -30,7 +30,7 @@ INSTALLER_EXPORT QString GetStandardLocation(StandardLocation location);
 /// Saves a shell link (the published Shell Link Binary format) as `link` + ".lnk", in place of one
 /// that is there. It starts `target`, a whole path, in the folder of that file; each argument is
 /// quoted. The folder of the link must exist. Returns whether that worked; never throws.
-/// Initialises COM on the calling thread where nobody has, and undoes that.
+/// Initialises COM on the calling thread where necessary, and undoes that.
 INSTALLER_EXPORT bool CreateShortCut(
     const QString& link, const QString& target, const QStringList& arguments);
 

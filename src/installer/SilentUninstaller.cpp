@@ -18,7 +18,6 @@ namespace Vorlan
 namespace
 {
 
-constexpr char scriptName[] = "silentUninstall.bat";
 constexpr char silentArguments[] = "/S /IGNORE_MUTEX";
 constexpr std::chrono::seconds emptyLimit(60);
 constexpr std::chrono::seconds removalLimit(10);
@@ -83,7 +82,7 @@ WaitClock SystemClock()
 void RunUninstaller(QString uninstaller, bool needsElevation, const WaitClock& clock)
 {
     const QString folder = QDir::toNativeSeparators(QFileInfo(uninstaller).absolutePath());
-    const QString script = folder + QDir::separator() + scriptName;
+    const QString script = folder + QDir::separator() + silentUninstallScript;
     QString arguments = silentArguments;
     if (QFile::exists(script))
     {

@@ -1,9 +1,11 @@
 #include "installer/InstallerMediator.h"
 
 #include "installer/DelayedDelete.h"
+#include "installer/SilentUninstaller.h"
 #include "platform/ApplicationRegistry.h"
 #include "platform/Links.h"
 #include "platform/System.h"
+#include "registry/RegistrationProfile.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -19,7 +21,6 @@ namespace Vorlan
 namespace
 {
 
-constexpr char keptScript[] = "silentUninstall.bat";
 constexpr int delayedDeleteSeconds = 3;
 
 using Applications = std::vector<App::IApplicationRegistry::Info>;
@@ -79,10 +80,10 @@ void InstallerMediator::RunUninstallation()
         RemoveAdditionalModules();
     if (deleteUserSettings)
         RemoveLogs();
-    if (profile.afterUninstall)
+    if (profile->afterUninstall)
     {
         qInfo() << "Performing after uninstall action...";
-        profile.afterUninstall(settings);
+        profile->afterUninstall(settings);
     }
     emit InstallationFinished();
     state = InstallationState::Finished;
@@ -126,7 +127,7 @@ void InstallerMediator::RemoveFiles(const QFileInfoList& files, unsigned long lo
     for (const QFileInfo& file : files)
     {
         removedSize += static_cast<unsigned long long>(file.size());
-        if (file.fileName() == keptScript)
+        if (file.fileName() == silentUninstallScript)
             continue;
         QFile::remove(file.filePath()); // folders stay, and so does what is in use
         const double position =

@@ -47,7 +47,7 @@ public:
         ThrowUnlessSet(curl_easy_setopt(handle, option, value));
     }
 
-    // Takes the list over; the one it had goes back to the caller's object.
+    // Swaps the list with the one in use.
     void SetHeaders(CurlHeaders& newHeaders);
 
     // Blocks until the transfer ends.

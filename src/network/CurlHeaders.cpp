@@ -10,7 +10,7 @@ void CurlHeaders::Append(const std::string& line)
     curl_slist* longer = curl_slist_append(list.get(), line.c_str());
     if (!longer)
         throw std::bad_alloc();
-    list.release(); // the longer list begins with the old one, or is the first
+    static_cast<void>(list.release()); // the longer list begins with the old one, or is the first
     list.reset(longer);
 }
 

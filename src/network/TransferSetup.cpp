@@ -26,7 +26,7 @@ public:
     ~TransferSetup()
     {
         // A process that ends on Windows has ended its other threads wherever they were: their
-        // locks stay taken, and what is not released goes with the process.
+        // locks stay taken, and the system releases what is left.
         if (!Platform::IsProcessEnding())
             curl_global_cleanup();
     }

@@ -8,7 +8,8 @@ struct InstallationSettings;
 
 // Requests the product's remote configuration and announces it: exactly one WebConfigLoaderStarted
 // and one WebConfigLoaderFinished of the mediator, the latter with the exit code of
-// App::WebConfig::RequestWebConfig, or 1 when that throws; the exception goes on to the caller.
+// App::WebConfig::RequestWebConfig, or 1 when that throws; the exception is passed on to the
+// caller.
 void RequestWebConfig(const InstallationSettings& settings, InstallerMediator& mediator);
 
 } // namespace Vorlan

@@ -29,7 +29,7 @@ class IApplicationConfigReader
 public:
     virtual ~IApplicationConfigReader() = default;
 
-    // Its name for people, in the language the reader was made for.
+    // Its display name, in the language the reader was made for.
     virtual std::string GetDisplayName() const = 0;
 };
 

@@ -17,7 +17,7 @@ struct PreferredBrowserContext
 {
     QString locale;
     QString installerBrowser; // tag of the browser that the installer came through
-    QString currentBrowser;   // the person's current preferred browser
+    QString currentBrowser;   // the user's current preferred browser
 };
 
 class AbstractPreferredBrowser
@@ -40,7 +40,7 @@ public:
     {
     }
 
-    // For whoever wants a fresh context later than Init.
+    // For a fresh context after Init.
     void SetContextCallback(ContextCallback newCallback) { callback = std::move(newCallback); }
     void Init(const PreferredBrowserContext& context) { name = context.installerBrowser; }
     QString Name() const override { return name; }

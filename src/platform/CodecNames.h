@@ -1,7 +1,7 @@
 #pragma once
 
-// The names by which the product knows codecs and their implementations: in settings, in the files
-// of what is broken, in the registry, and on the probe program's command line.
+// The product's names of codecs and their implementations: in settings, in the lists of what is
+// broken, in the registry, and on the probe program's command line.
 
 namespace Vorlan::Proc::ImplNames
 {

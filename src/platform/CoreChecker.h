@@ -52,7 +52,7 @@ public:
     // 20 s, more than a day means a day. A single probe gets at most a quarter of it, so that a
     // few that hang leave time for the others.
     void SetCheckCoreTimeout(std::chrono::seconds limit);
-    // Names as in CodecNames.h. What cannot be a name is left out, with a word in the error text.
+    // Names as in CodecNames.h. What cannot be a name is left out, and named in the error text.
     void SetVerifiableCodecImpls(const std::vector<std::string>& names);
     void SetVerifiableCodecs(const std::vector<std::string>& names);
     // Files of what is known to be broken (BrokenList.h): what they name is not started again and
@@ -61,7 +61,7 @@ public:
     void SetBrokenCodecsPath(const ioPath& path);
 
     // Checks and returns when all is done. Throws std::system_error where the system gives no
-    // thread; all other troubles are told by GetErrorInfo.
+    // thread; all other failures are in GetErrorInfo.
     void StartCheck(CheckType type);
 
     // By "codec.<name>", what each implementation came to; by "check", the sums. Empty when nothing

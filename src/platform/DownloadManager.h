@@ -37,8 +37,8 @@ namespace Util
 // Downloads files over http and https, one after another, on a thread of its own. A file lies in a
 // new folder below the system's temporary folder, under the last part of its address ("download"
 // where Windows could not hold a file of that name). It gets its name when it is whole; until then
-// it has ".part" behind it, and of a failed download nothing stays. Whoever is told of the file
-// owns it.
+// it has ".part" behind it, and a failed download leaves nothing. The receiver of
+// DownloadComplete owns the file.
 //
 // An object belongs to the thread that made it, which needs an event loop: all signals arrive
 // there.
@@ -50,14 +50,14 @@ public:
     // The checker, which may be empty, names the cause after a failure; it never forbids a
     // transfer.
     DownloadManager(std::shared_ptr<App::IInternetConnectionChecker> connectionChecker,
-        std::shared_ptr<App::ICustomizationManager> customization, QObject* parent = nullptr,
+        const std::shared_ptr<App::ICustomizationManager>& customization, QObject* parent = nullptr,
         Networking::TransferPolicy transferPolicy = {});
 
     // Ends a download in progress without a further signal.
     ~DownloadManager() override;
 
-    // Starts a download; its end is told by DownloadComplete, never before this returns. A download
-    // that is still in progress is ended first, as by Cancel, and no longer told of.
+    // Starts a download; DownloadComplete reports its end, never before this returns. A download
+    // that is still in progress is cancelled first, without a further signal.
     void Download(const QUrl& url);
 
     // Lets a download in progress end as Cancelled.

@@ -82,13 +82,14 @@ QString ToNativePath(QString path);
 // the machine's policy for long paths is.
 std::wstring PathForCall(std::wstring path);
 
-// What the free space is asked of: "C:\" on Windows, the path itself where volumes have no letters.
+// The path whose free space is queried: "C:\" on Windows, the path itself where volumes have no
+// letters.
 QString DriveRoot(const QString& path);
 
-// Whether Windows can hold a file of that name: not empty, "." or "..", no control character, none
-// of
-// <>:"/\|?*, no unpaired surrogate, no blank or dot at the end, no reserved device name such as
-// "NUL" or "com1.txt", at most 255 UTF-16 code units. The rule is the same on every system.
+// Whether Windows allows a file of that name: not empty, "." or "..", no control character, no
+// unpaired surrogate, none of these characters: \ / : * ? " < > |, no blank or dot at the end, no
+// reserved device name such as "NUL" or "com1.txt", at most 255 UTF-16 code units. The rule is the
+// same on every system.
 bool IsFileNameAllowed(const QString& name);
 
 } // namespace Platform

@@ -43,8 +43,7 @@ private:
 namespace App
 {
 
-// While it lives, the settings, QSettings or RegistrySettings, read and write relative to a child
-// group.
+// During its lifetime the settings, QSettings or RegistrySettings, are relative to a child group.
 template <typename Settings>
 class QSettingsGroupGuard
 {

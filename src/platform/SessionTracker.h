@@ -11,12 +11,12 @@ class ISessionTracker
 public:
     virtual ~ISessionTracker() = default;
 
-    // What tells this run of the program from others; ASCII. Any thread.
+    // Identifies this run of the program; ASCII. Any thread.
     virtual std::string GetSessionText() const = 0;
 };
 
-// The tracker of this process: its text is a random UUID, made at the first call, which says
-// nothing about the person or the machine and is kept nowhere.
+// The tracker of this process: its text is a random UUID, made at the first call. It identifies
+// neither the user nor the machine and is not stored.
 std::shared_ptr<ISessionTracker> getSessionTrackerInstance();
 
 } // namespace Vorlan::Tracking

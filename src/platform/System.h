@@ -60,7 +60,7 @@ namespace Platform
 // or it is longer than 259 characters.
 QString ShellFolder(int csidl);
 
-// What tells this machine from others: "/etc/machine-id" on Linux, the registry's "MachineGuid" on
+// Identifies this machine: "/etc/machine-id" on Linux, the registry's "MachineGuid" on
 // Windows; empty when there is none. Leaves the machine only as part of a hash.
 std::string MachineId();
 
@@ -68,7 +68,8 @@ std::string MachineId();
 // where the system's loader holds a lock meanwhile.
 bool MaySetUpWhileLoading();
 
-// Whether the whole process ends, and not only this library's use: other threads are gone already.
+// Whether the whole process ends, and not only the library is unloaded: other threads have ended
+// already.
 bool IsProcessEnding();
 
 // The product's log folder, without a separator at its end; it need not exist.

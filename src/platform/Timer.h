@@ -6,8 +6,7 @@
 namespace Vorlan::Core
 {
 
-// Measures from its construction. When it goes, it adds the microseconds that passed to the counter
-// that it was given.
+// Measures from its construction. The destructor adds the elapsed microseconds to the counter.
 class TimerSimple
 {
 public:

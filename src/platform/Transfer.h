@@ -12,7 +12,7 @@ enum class TransferCode : int
     Done = 0,
     AddressRefused = 1,   // not http or https, no host, or with a user name or password in it
     HostNotFound = 2,     // the name of the server or of the proxy has no address
-    ConnectionFailed = 3, // nobody listens there, or the connection was refused
+    ConnectionFailed = 3, // no server listens there, or the connection was refused
     Offline = 4,          // as the two before, and the machine has no network connection
     TimedOut = 5,   // connected too slowly, slower than the slowest rate, or longer than allowed
     NotTrusted = 6, // the certificate is not to be trusted, or the secure connection failed
@@ -23,7 +23,7 @@ enum class TransferCode : int
     NotWritable = 11,    // the file could not be made, written or renamed
     DiskFull = 12,       // there is no room for the file
     Cancelled = 13,
-    Failed = 14 // anything else; the log says what
+    Failed = 14 // anything else; the log has the cause
 };
 
 // What a transfer is allowed to do.
@@ -31,7 +31,7 @@ struct TransferPolicy
 {
     std::chrono::milliseconds connectLimit{5000}; // to connect, the secure handshake included
     std::chrono::seconds slowLimit{15};           // a transfer is given up when for so long
-    long slowestRate = 1024;                      // it came slower than so many bytes a second
+    long slowestRate = 1024;                      // it was slower than this, in bytes a second
     std::chrono::milliseconds overallLimit{0};    // for everything, redirects included; 0: none
     int redirects = 5;                            // as many are followed
     long long largestBody = 16LL << 30;           // bytes

@@ -25,7 +25,7 @@ enum class ExitCode : std::int8_t
     ServerRefused = 5, // it answered with another status than 200; redirects are not followed
     Malformed = 6,     // its answer is no JSON object, or larger than 1 MiB
     NotStored = 7,     // its answer could not be written to the disk
-    SwitchedOff = 8    // the environment says that nobody is asked
+    SwitchedOff = 8    // by the environment
 };
 
 // What the request is made from.
@@ -40,10 +40,10 @@ struct Context
 
 // Asks the configuration service with one HTTPS GET to https://config.vorlan.example/v1/installer.
 // The environment variable VORLAN_CONFIG_URL replaces what stands before "installer"; with "off" in
-// it nobody is asked. The query holds app, version, session, and where they are given parameter and
-// preview=1. Blocks until the end, at most five seconds. Throws std::runtime_error only when
+// it no request is sent. The query holds app, version, session, and where they are given parameter
+// and preview=1. Blocks until the end, at most five seconds. Throws std::runtime_error only when
 // libcurl gives no handle.
-ExitCode RequestWebConfig(Context context);
+ExitCode RequestWebConfig(const Context& context);
 
 // Where the configuration received last lies, for the host and the product to read: the file
 // "web-config.json" in the product's log folder, replaced as a whole by each request that succeeds.

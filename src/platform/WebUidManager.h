@@ -12,12 +12,12 @@ namespace Vorlan::App
 /// name its Parameters. Ids are texts of 8 to 64 ASCII letters, digits and hyphens. Texts are
 /// UTF-8; calls block, may come from any thread, and throw nothing of their own. The service lies
 /// below https://identity.vorlan.example/v1/; the environment variable VORLAN_WEBUID_URL replaces
-/// that, and with "off" in it nobody is asked. Each request takes at most the limit; a failure is
-/// logged.
+/// that, and with "off" in it no request is sent. Each request takes at most the limit; a failure
+/// is logged.
 class WebUidManager
 {
 public:
-    /// How the service is asked.
+    /// Limits of the requests.
     struct Parameters
     {
         std::chrono::milliseconds limit{3000}; ///< for one request to the service
@@ -29,7 +29,7 @@ public:
     /// The id that the user's key of the company holds; empty when there is none, or it is no id.
     std::string getUserWebUid() const;
 
-    /// Whether the text could be an id; nobody is asked.
+    /// Whether the text has the form of an id; no request is sent.
     bool isValidWebUid(const std::string& id) const;
 
     /// The text stored for a key ("User" or an application's) of a company in the registry, valid

@@ -4,6 +4,8 @@
 #include "autolaunch/StartupRegistration.h"
 #include "base/Localization.h"
 #include "base/ProductProfile.h"
+#include "base/TriState.h"
+#include "registry/RegistrationProfile.h"
 #include "registry/SettingsManager.h"
 
 #include <QCoreApplication>
@@ -15,7 +17,6 @@ namespace Vorlan
 namespace
 {
 
-constexpr int chosen = 2;
 constexpr char convertLabel[] = "Convert to";
 constexpr char openLabel[] = "Open with";
 
@@ -33,12 +34,6 @@ AutoLaunchApp CompanionProgram(const RegistrationProfile& profile, const QString
         profile.autoLaunchParameters.toStdString()};
 }
 
-AutoLaunchProduct ThisProduct()
-{
-    return {ProductProfile::brandName.data(), ProductProfile::applicationId.data(),
-        ProductProfile::versionMajor.data(), ProductProfile::versionMinor.data()};
-}
-
 } // namespace
 
 void InstallerMediator::AddRegistryInfo()
@@ -48,15 +43,15 @@ void InstallerMediator::AddRegistryInfo()
     const QSettings::Scope scope = settings.scope;
 
     settingsManager->SetSettings(settings);
-    for (const ExecutableInfo& info : profile.appPaths)
+    for (const ExecutableInfo& info : profile->appPaths)
         SettingsManager::AddAppPath(name, folder, info, scope);
-    for (const AutoPlayAssociation& association : profile.autoPlayAssociations)
+    for (const AutoPlayAssociation& association : profile->autoPlayAssociations)
     {
         SettingsManager::AddProgId(name, folder + association.executable, association);
         SettingsManager::AddAutoplayHandlers(
             name, folder, ProductProfile::companyName, association, scope);
     }
-    for (const ExtensionAssociation& association : profile.extensionAssociations)
+    for (const ExtensionAssociation& association : profile->extensionAssociations)
     {
         SettingsManager::AddProgId(name, folder + association.executable, association);
         SettingsManager::AddAssociations(name, association, QSettings::UserScope);
@@ -65,24 +60,24 @@ void InstallerMediator::AddRegistryInfo()
         {name, ProductProfile::versionText, DateText(QDate::currentDate()),
             ProductProfile::companyName, settings.locale,
             static_cast<qint64>(settings.requiredSpace)},
-        folder, ProductProfile::uninstallerFileName, profile.mainExecutable, scope);
-    if (settings.autoLaunch == chosen)
-        AddAppToStartup(scope, CompanionProgram(profile, folder), ThisProduct());
+        folder, ProductProfile::uninstallerFileName, profile->mainExecutable, scope);
+    if (settings.autoLaunch == TriState::chosen)
+        AddAppToStartup(scope, CompanionProgram(*profile, folder), ThisProduct());
     AddContextMenu(settings.contextMenuConvert, convertLabel);
     AddContextMenu(settings.contextMenuOpenWith, openLabel);
-    for (const RegistryData& data : profile.additionalValues)
+    for (const RegistryData& data : profile->additionalValues)
         settingsManager->WriteAdditionalData(data);
-    if (!profile.protocolScheme.isEmpty())
+    if (!profile->protocolScheme.isEmpty())
         SettingsManager::AddCustomProtocol(
-            profile.protocolScheme, profile.protocolHandler, folder, scope);
+            profile->protocolScheme, profile->protocolHandler, folder, scope);
     settingsManager->SetUserInfoSettings(settings.userInfo);
 }
 
 void InstallerMediator::AddContextMenu(int choice, const char* label) const
 {
-    if (choice == chosen)
+    if (choice == TriState::chosen)
         SettingsManager::AddToContextMenu(TranslateForLocale(settings.systemLocale, label),
-            settings.installDir + profile.contextMenuExecutable, profile.contextMenuExtensions,
+            settings.installDir + profile->contextMenuExecutable, profile->contextMenuExtensions,
             settings.scope);
 }
 
@@ -97,39 +92,39 @@ void InstallerMediator::RemoveRegistryInfo()
 
     const QString folder = QCoreApplication::applicationDirPath().replace('/', '\\') + '\\';
     SettingsManager::RemoveAppPath(name, scope);
-    for (const AutoPlayAssociation& association : profile.autoPlayAssociations)
+    for (const AutoPlayAssociation& association : profile->autoPlayAssociations)
     {
         SettingsManager::RemoveProgId(name, association);
         SettingsManager::RemoveAutoplayHandlers(name, association, scope);
     }
-    for (const ExtensionAssociation& association : profile.extensionAssociations)
+    for (const ExtensionAssociation& association : profile->extensionAssociations)
     {
         SettingsManager::RemoveProgId(name, association);
         SettingsManager::RemoveAssociations(association, scope);
     }
-    if (!profile.contextMenuExecutable.isEmpty())
+    if (!profile->contextMenuExecutable.isEmpty())
     {
         for (const char* label : {convertLabel, openLabel})
             SettingsManager::RemoveContextMenu(TranslateForLocale(settings.systemLocale, label),
-                folder + profile.contextMenuExecutable, profile.contextMenuExtensions, scope);
+                folder + profile->contextMenuExecutable, profile->contextMenuExtensions, scope);
     }
     SettingsManager::RemoveUninstaller(name, scope);
-    if (!profile.autoLaunchAppId.isEmpty())
-        RemoveAppFromStartup(scope, CompanionProgram(profile, folder), ThisProduct());
+    if (!profile->autoLaunchAppId.isEmpty())
+        RemoveAppFromStartup(scope, CompanionProgram(*profile, folder), ThisProduct());
 
     // Older versions registered the scheme with the major version behind it.
-    SettingsManager::RemoveCustomProtocol(profile.protocolScheme, scope);
+    SettingsManager::RemoveCustomProtocol(profile->protocolScheme, scope);
     SettingsManager::RemoveCustomProtocol(
         ProductProfile::applicationId + ProductProfile::versionMajor, scope);
 }
 
 void InstallerMediator::SetDefaultApps()
 {
-    if (settings.defaultApps != chosen)
+    if (settings.defaultApps != TriState::chosen)
         return;
     const InstallationSettings current = settings;
-    for (const ExtensionAssociation& association : profile.extensionAssociations)
-        SetDefaultApplication(static_cast<AppType>(profile.defaultAppType), association.extensions,
+    for (const ExtensionAssociation& association : profile->extensionAssociations)
+        SetDefaultApplication(static_cast<AppType>(profile->defaultAppType), association.extensions,
             current.productFolderName, current.installDir);
 }
 

@@ -22,11 +22,10 @@ namespace Vorlan
 /// Stored types. bool: REG_SZ "true" or "false"; int, uint: REG_DWORD; qlonglong, qulonglong:
 /// REG_QWORD; QStringList and QVariantList: REG_MULTI_SZ of the elements' texts. All else is text:
 /// QString itself, with another "@" before one that begins with "@", and as "@String(...)" when it
-/// holds a NUL; a double in digits; QByteArray "@ByteArray(...)"; QRect "@Rect(x y width height)",
-/// QSize "@Size(width height)", QPoint "@Point(x y)"; an invalid value "@Invalid()"; QDateTime
-/// "@DateTime(...)" and other types "@Variant(...)", both with their QDataStream form, as is a list
-/// with an element that is empty or holds a NUL. Text is REG_SZ, or REG_BINARY of its UTF-16 code
-/// units when it holds a NUL.
+/// holds a NUL; a double in digits; QByteArray "@ByteArray(...)"; an invalid value "@Invalid()".
+/// Text is REG_SZ, or REG_BINARY of its UTF-16 code units when it holds a NUL. Other types, and
+/// lists with an element that is empty or holds a NUL, are for Windows only: elsewhere they are
+/// refused with a warning and AccessError.
 ///
 /// Read types. REG_SZ and REG_EXPAND_SZ (not expanded): the text up to its first NUL, decoded as
 /// above; REG_MULTI_SZ: QStringList; REG_DWORD: int; REG_QWORD: qlonglong; REG_BINARY and REG_NONE:
@@ -85,7 +84,7 @@ public:
 
 private:
     class Implementation;
-    const std::unique_ptr<Implementation> m_implementation;
+    const std::unique_ptr<Implementation> implementation;
 };
 
 } // namespace Vorlan

@@ -1,6 +1,7 @@
 #include "registry/SettingsManager.h"
 
 #include "base/InstallationSettings.h"
+#include "base/TriState.h"
 #include "registry/BrowserTable.h"
 #include "registry/RegistrySettings.h"
 
@@ -28,8 +29,8 @@ SettingsManager::~SettingsManager() = default;
 void SettingsManager::SetSettings(const InstallationSettings& settings)
 {
     SetValue("locale", settings.locale);
-    if (settings.sendStatistics != 0)
-        SetValue("sendStatistics", settings.sendStatistics == 2);
+    if (settings.sendStatistics != TriState::notAsked)
+        SetValue("sendStatistics", settings.sendStatistics == TriState::chosen);
     SetValue("DateTime", QDateTime::currentDateTime().toString("dd/MM/yyyy hh:mm:ss"));
     if (!settings.installerName.isEmpty())
         SetValue(installerNameKey, settings.installerName);

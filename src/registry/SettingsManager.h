@@ -22,7 +22,7 @@ struct UserInfoSettings;
 /// The product's registry records. An object reads and writes the product's own key,
 /// `<root>\Software\<organisation>\<application>`, and the user key beside it,
 /// `<root>\Software\<organisation>\User`; the static operations write and remove what the shell and
-/// the list of installed programs know of a product. The root is HKEY_CURRENT_USER for
+/// the list of installed programs hold of a product. The root is HKEY_CURRENT_USER for
 /// QSettings::UserScope and HKEY_LOCAL_MACHINE for QSettings::SystemScope, which needs the rights.
 ///
 /// Nothing here throws or reports a registry failure: a write that fails is lost, a missing value
@@ -63,7 +63,7 @@ public:
     /// product reads it at its next start.
     void SetKilledByInstaller(bool killed);
 
-    /// Whether the person was asked about statistics before.
+    /// Whether the user was asked about statistics before.
     bool StatisticsKeyExists() const;
     QString GetInstallLocation() const;  ///< "Path": the folder with a trailing separator
     QString GetInstalledVersion() const; ///< "Version", which the product itself writes: "24-5-1"
@@ -117,7 +117,7 @@ public:
     /// Lets a program open links of a scheme. `handlerProgram` is a file name without ".exe".
     static void AddCustomProtocol(const QString& scheme, const QString& handlerProgram,
         const QString& installDir, QSettings::Scope scope);
-    /// Removes the scheme, whoever opens it now.
+    /// Removes the scheme, whatever its handler.
     static void RemoveCustomProtocol(const QString& scheme, QSettings::Scope scope);
     /// Adds a verb to the context menu of files. The label, translated already, is its name.
     /// Extensions have their leading dots; without any, or without a label, nothing is written.

@@ -84,7 +84,7 @@ QString SettingsManager::GetProductNameByExecutableName(const QString& executabl
     {
         for (const char* key : {uninstallKey, uninstallKey32})
         {
-            const QString name = FindEntry(QString(list).arg(key), executableFileName);
+            QString name = FindEntry(QString(list).arg(key), executableFileName);
             if (!name.isEmpty())
                 return name;
         }

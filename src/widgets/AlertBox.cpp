@@ -123,9 +123,11 @@ QLayout* AlertBox::Form::MakeBody(QFrame* frame)
     return body;
 }
 
+// The icon by value is part of the exported interface.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 AlertBox::AlertBox(const QString& text, QWidget* parent,
     QFlags<QDialogButtonBox::StandardButton> buttons, QPixmap pixmap)
-    : MovableWidget<QDialog>(parent), icon(std::move(pixmap))
+    : MovableWidget<QDialog>(parent), icon(pixmap)
 {
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
     form = std::make_unique<Form>(*this);
@@ -143,7 +145,7 @@ AlertBox::AlertBox(const QString& text, QWidget* parent,
 
 AlertBox::~AlertBox() = default;
 
-// A style has looked for rules before the button had its name: it must look again.
+// The style sheet was applied before the button had its name.
 void AlertBox::NameButtons()
 {
     const std::pair<QDialogButtonBox::StandardButton, const char*> names[] = {

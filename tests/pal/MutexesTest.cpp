@@ -39,17 +39,4 @@ TEST_F(MutexesTest, NamesAreToldApart)
     EXPECT_EQ(GetLastError(), DWORD{ERROR_SUCCESS});
 }
 
-TEST_F(MutexesTest, OnlyOneThatSomebodyHasIsOpened)
-{
-    const wchar_t* const name = L"VorlanMutexesTest-open";
-    EXPECT_FALSE(OpenMutexW(SYNCHRONIZE, FALSE, name));
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_FILE_NOT_FOUND});
-    TestHandle made = Create(name);
-    TestHandle opened(OpenMutexW(SYNCHRONIZE, FALSE, name));
-    EXPECT_TRUE(opened.Get());
-    made.Close();
-    EXPECT_TRUE(Create(name).Get());
-    EXPECT_EQ(GetLastError(), DWORD{ERROR_ALREADY_EXISTS});
-}
-
 } // namespace

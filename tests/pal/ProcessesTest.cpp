@@ -162,7 +162,7 @@ TEST_F(ProcessesTest, ProcessesAreListedWhileTheyRun)
     const StartResult child = StartWaiting();
     const std::vector<DWORD> ids = AllProcesses();
     EXPECT_EQ(std::count(ids.begin(), ids.end(), child.id), 1);
-    EXPECT_EQ(std::count(ids.begin(), ids.end(), GetCurrentProcessId()), 1);
+    EXPECT_EQ(std::count(ids.begin(), ids.end(), QCoreApplication::applicationPid()), 1);
     End(child);
 }
 

@@ -165,27 +165,6 @@ TEST_F(RegistryValuesTest, ListingGivesNameTypeAndDataAndSaysWhatDoesNotFit)
     EXPECT_EQ(list(1), ERROR_NO_MORE_ITEMS);
 }
 
-TEST_F(RegistryValuesTest, TheKeyTellsItsCountsAndLongestNames)
-{
-    RegCloseKey(MakeKey(Key(), L"abc"));
-    RegCloseKey(MakeKey(Key(), L"abcde"));
-    SetText(Key(), L"name", L"123");
-    SetBytes(Key(), L"n", REG_BINARY, Bytes(40));
-    DWORD subKeys = 0;
-    DWORD longestSubKey = 0;
-    DWORD values = 0;
-    DWORD longestName = 0;
-    DWORD longestData = 0;
-    ASSERT_EQ(RegQueryInfoKeyW(Key(), nullptr, nullptr, nullptr, &subKeys, &longestSubKey, nullptr,
-                  &values, &longestName, &longestData, nullptr, nullptr),
-        ERROR_SUCCESS);
-    EXPECT_EQ(subKeys, 2u);
-    EXPECT_EQ(longestSubKey, 5u);
-    EXPECT_EQ(values, 2u);
-    EXPECT_EQ(longestName, 4u);
-    EXPECT_EQ(longestData, 40u);
-}
-
 TEST_F(RegistryValuesTest, ManyValuesInOneKeyAreAllThereAndCanAllGo)
 {
     constexpr int count = 10000;

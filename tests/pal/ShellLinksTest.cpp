@@ -65,20 +65,6 @@ TEST_F(ShellLinksTest, SavingReplacesTheFormerLink)
     EXPECT_EQ(loaded.Arguments(), L"");
 }
 
-TEST_F(ShellLinksTest, ALinkKnowsItsFileAndWhetherItChanged)
-{
-    TestLink link;
-    EXPECT_EQ(link.File().IsDirty(), S_FALSE);
-    link.Link().SetPath(Target(L"a.exe").c_str());
-    EXPECT_EQ(link.File().IsDirty(), S_OK);
-    ASSERT_EQ(link.Save(PathOf(L"a.lnk")), S_OK);
-    EXPECT_EQ(link.File().IsDirty(), S_FALSE);
-    LPWSTR file = nullptr;
-    ASSERT_EQ(link.File().GetCurFile(&file), S_OK);
-    EXPECT_EQ(WithBackslashes(file), Target(L"a.lnk"));
-    CoTaskMemFree(file);
-}
-
 TEST_F(ShellLinksTest, WithoutItsFolderALinkIsNotSaved)
 {
     TestLink link;

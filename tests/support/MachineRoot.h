@@ -19,7 +19,11 @@ private:
     QByteArray formerRoot;
 };
 
-// The same for the programs that a test starts with this environment, and for the test itself.
+// Until the end of the MachineRoot this process sees the true root of the local machine again.
+// Nothing changes on Linux.
+void UndoRedirectionOfMachine();
+
+// A MachineRoot for the programs that a test starts with this environment, and for the test itself.
 // Windows cannot redirect the registry of another process: there the product's keys in the true
 // registry are emptied before and after, and the user's shell folders set meanwhile, which only a
 // Wine prefix of one's own bears.

@@ -19,6 +19,8 @@ MachineRoot::~MachineRoot()
     qputenv(rootVariable, formerRoot);
 }
 
+void UndoRedirectionOfMachine() {}
+
 MachineOfChildren::MachineOfChildren(const QString& folder, QProcessEnvironment& environment)
     : formerRoot(qgetenv(rootVariable))
 {

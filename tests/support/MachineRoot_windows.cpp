@@ -100,6 +100,11 @@ MachineRoot::~MachineRoot()
     DeleteTree(HKEY_CURRENT_USER, OwnKey());
 }
 
+void UndoRedirectionOfMachine()
+{
+    EXPECT_EQ(RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr), ERROR_SUCCESS);
+}
+
 MachineOfChildren::MachineOfChildren(const QString& folder, QProcessEnvironment&)
 {
     DeleteProductKeys();

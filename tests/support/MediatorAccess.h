@@ -1,10 +1,12 @@
 #pragma once
 
 #include "archive/ArchiveExtractor.h"
+#include "base/ExtractSettings.h"
 #include "checks/AccelerationChecker.h"
 #include "installer/InstallerMediator.h"
 #include "installer/SilentUninstaller.h"
 #include "platform/Path.h"
+#include "registry/RegistrationProfile.h"
 #include "registry/SettingsManager.h"
 
 namespace Vorlan
@@ -38,7 +40,7 @@ struct MediatorAccess
     // Waits for the whole run, what follows its end signal included.
     void Join() { mediator.worker.join(); }
 
-    RegistrationProfile& Profile() { return mediator.profile; }
+    RegistrationProfile& Profile() { return *mediator.profile; }
     SettingsManager& Registry() { return *mediator.settingsManager; }
     InstallationSettings& Settings() { return mediator.settings; }
 

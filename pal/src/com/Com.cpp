@@ -3,8 +3,6 @@
 #include "com/Classes.h"
 #include "com/ComFaults.h"
 
-#include <cstdlib>
-
 namespace
 {
 
@@ -58,12 +56,6 @@ HRESULT CoCreateInstance(
     const HRESULT result = created->QueryInterface(iid, object);
     created->Release();
     return result;
-}
-
-// Keeps:   frees memory that a method returned; null is ignored. It cannot fail.
-void CoTaskMemFree(LPVOID memory)
-{
-    std::free(memory);
 }
 
 // Keeps:   E_INVALIDARG for a null object or a reserved argument.

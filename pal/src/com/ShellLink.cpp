@@ -6,7 +6,6 @@
 #include "com/ComFaults.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace Pal
 {
@@ -22,6 +21,14 @@ HRESULT CopyText(const std::u16string& text, LPWSTR buffer, int size)
     const size_t count = std::min(wide.size(), static_cast<size_t>(size) - 1);
     std::copy_n(wide.begin(), count, buffer);
     buffer[count] = L'\0';
+    return S_OK;
+}
+
+HRESULT SetText(std::u16string& field, LPCWSTR text)
+{
+    if (!text)
+        return E_INVALIDARG;
+    field = Utf16FromWide(text);
     return S_OK;
 }
 
@@ -123,24 +130,6 @@ HRESULT ShellLink::SetArguments(LPCWSTR arguments)
     return SetText(content.arguments, arguments);
 }
 
-HRESULT ShellLink::GetClassID(CLSID* classId)
-{
-    if (const auto fault = InjectedResult("IPersist::GetClassID"))
-        return *fault;
-    if (!classId)
-        return E_POINTER;
-    *classId = CLSID_ShellLink;
-    return S_OK;
-}
-
-// Keeps:   S_OK if a text was set after the link was created, loaded or saved, else S_FALSE.
-HRESULT ShellLink::IsDirty()
-{
-    if (const auto fault = InjectedResult("IPersistFile::IsDirty"))
-        return *fault;
-    return changed ? S_OK : S_FALSE;
-}
-
 // Keeps:   replaces the link's content, or changes nothing on failure: E_FAIL for a file that is no
 //          link, ERROR_FILE_NOT_FOUND as a result for a missing one.
 // Differs: a failure sets the last error. The target is read from the link information; a link that
@@ -152,60 +141,21 @@ HRESULT ShellLink::Load(LPCWSTR fileName, DWORD mode)
         return *fault;
     if (mode != STGM_READ)
         return E_INVALIDARG;
-    const HRESULT result = ReadFrom(fileName);
-    if (result != S_OK)
-        return result;
-    currentFile = fileName;
-    changed = false;
-    return S_OK;
+    return ReadFrom(fileName);
 }
 
-// Keeps:   replaces the file as a whole, or changes nothing; with remember it becomes the current
-//          file and the link counts as unchanged.
-// Differs: a failure sets the last error. No item list is written, because the machine has no shell
+// Keeps:   replaces the file as a whole, or changes nothing.
+// Differs: a failure sets the last error. The file is never remembered. No item list is written,
+// because the machine has no shell
 //          namespace; the target is in the link information only, as 8-bit text (UTF-8) and as
 //          UTF-16. Windows reads the UTF-16 text. Wine reads the 8-bit text in its own code page,
 //          so there only ASCII targets are right.
 // Refuses: a null or empty name.
-HRESULT ShellLink::Save(LPCWSTR fileName, BOOL remember)
+HRESULT ShellLink::Save(LPCWSTR fileName, BOOL)
 {
     if (const auto fault = InjectedResult("IPersistFile::Save"))
         return *fault;
-    const HRESULT result = WriteTo(fileName);
-    if (result != S_OK || !remember)
-        return result;
-    currentFile = fileName;
-    changed = false;
-    return S_OK;
-}
-
-// Keeps:   a copy of the name last loaded or saved, to be freed with CoTaskMemFree; S_FALSE when
-//          there was none.
-// Differs: without a current file the name is null.
-HRESULT ShellLink::GetCurFile(LPWSTR* fileName)
-{
-    if (!fileName)
-        return E_POINTER;
-    *fileName = nullptr;
-    if (const auto fault = InjectedResult("IPersistFile::GetCurFile"))
-        return *fault;
-    if (currentFile.empty())
-        return S_FALSE;
-    const size_t count = currentFile.size() + 1;
-    *fileName = static_cast<LPWSTR>(std::malloc(count * sizeof(wchar_t)));
-    if (!*fileName)
-        return E_OUTOFMEMORY;
-    std::copy_n(currentFile.c_str(), count, *fileName);
-    return S_OK;
-}
-
-HRESULT ShellLink::SetText(std::u16string& field, LPCWSTR text)
-{
-    if (!text)
-        return E_INVALIDARG;
-    field = Utf16FromWide(text);
-    changed = true;
-    return S_OK;
+    return WriteTo(fileName);
 }
 
 HRESULT ShellLink::WriteTo(LPCWSTR fileName) const

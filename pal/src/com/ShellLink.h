@@ -27,11 +27,8 @@ public:
     HRESULT GetArguments(LPWSTR arguments, int size) override;
     HRESULT SetArguments(LPCWSTR arguments) override;
 
-    HRESULT GetClassID(CLSID* classId) override;
-    HRESULT IsDirty() override;
     HRESULT Load(LPCWSTR fileName, DWORD mode) override;
     HRESULT Save(LPCWSTR fileName, BOOL remember) override;
-    HRESULT GetCurFile(LPWSTR* fileName) override;
 
     // Refuses: the methods below, which the engine does not call.
     HRESULT GetIDList(ITEMIDLIST**) override { return E_NOTIMPL; }
@@ -46,19 +43,19 @@ public:
     HRESULT SetIconLocation(LPCWSTR, int) override { return E_NOTIMPL; }
     HRESULT SetRelativePath(LPCWSTR, DWORD) override { return E_NOTIMPL; }
     HRESULT Resolve(HWND, DWORD) override { return E_NOTIMPL; }
+    HRESULT GetClassID(CLSID*) override { return E_NOTIMPL; }
+    HRESULT IsDirty() override { return E_NOTIMPL; }
     HRESULT SaveCompleted(LPCWSTR) override { return E_NOTIMPL; }
+    HRESULT GetCurFile(LPWSTR*) override { return E_NOTIMPL; }
 
 private:
     ~ShellLink() = default;
 
-    HRESULT SetText(std::u16string& field, LPCWSTR text);
     HRESULT WriteTo(LPCWSTR fileName) const;
     HRESULT ReadFrom(LPCWSTR fileName);
 
     std::atomic<ULONG> references = 1;
     LinkContent content;
-    std::wstring currentFile;
-    bool changed = false;
 };
 
 } // namespace Pal

@@ -5,8 +5,8 @@
 // QProcess and other code collect their own.
 #pragma once
 
-#include "Descriptor.h"
 #include "HandleTable.h"
+#include <Descriptor.h>
 
 #include <memory>
 #include <mutex>

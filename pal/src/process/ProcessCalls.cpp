@@ -14,7 +14,6 @@
 #include <ctime>
 
 #include <poll.h>
-#include <unistd.h>
 
 namespace Pal
 {
@@ -144,11 +143,4 @@ DWORD WaitForSingleObject(HANDLE object, DWORD milliseconds)
         return WAIT_FAILED;
     const auto handle = Pal::FindProcessHandle(object, SYNCHRONIZE);
     return handle ? Pal::WaitForEnd(handle->Target(), milliseconds) : WAIT_FAILED;
-}
-
-// Keeps:   the number that OpenProcess and K32EnumProcesses use for this process. It cannot fail
-//          and is not counted.
-DWORD GetCurrentProcessId()
-{
-    return static_cast<DWORD>(getpid());
 }

@@ -8,13 +8,6 @@ namespace Pal
 namespace
 {
 
-// The replacement of each root by RegOverridePredefKey, or null.
-std::array<std::shared_ptr<OpenKey>, 2>& Overrides()
-{
-    static auto& overrides = *new std::array<std::shared_ptr<OpenKey>, 2>;
-    return overrides;
-}
-
 RegistryRoot RootOf(HKEY predefined)
 {
     return predefined == HKEY_CURRENT_USER ? RegistryRoot::CurrentUser : RegistryRoot::LocalMachine;
@@ -53,15 +46,7 @@ std::shared_ptr<OpenKey> FindOpenKey(HKEY key)
 {
     if (!IsPredefined(key))
         return HandleTable::Instance().Find<OpenKey>(key);
-    const RegistryRoot root = RootOf(key);
-    if (const auto& replacement = Overrides()[static_cast<size_t>(root)])
-        return replacement;
-    return std::make_shared<OpenKey>(KeyLocation{CurrentStore(), root, {}}, KEY_ALL_ACCESS);
-}
-
-void OverridePredefined(HKEY predefined, std::shared_ptr<OpenKey> replacement)
-{
-    Overrides()[static_cast<size_t>(RootOf(predefined))] = std::move(replacement);
+    return std::make_shared<OpenKey>(KeyLocation{CurrentStore(), RootOf(key), {}}, KEY_ALL_ACCESS);
 }
 
 } // namespace Pal

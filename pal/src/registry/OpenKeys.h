@@ -39,11 +39,7 @@ private:
 
 bool IsPredefined(HKEY key);
 
-// The key of a handle, or null. For a predefined key that is its replacement, or the root of the
-// current machine. The registry's mutex must be held.
+// The key of a handle, or null; for a predefined key the root of the current machine.
 std::shared_ptr<OpenKey> FindOpenKey(HKEY key);
-
-// A null replacement removes the override.
-void OverridePredefined(HKEY predefined, std::shared_ptr<OpenKey> replacement);
 
 } // namespace Pal

@@ -9,8 +9,8 @@
 // Nothing here locks: callers hold the registry's lock, exclusively for all but Refresh.
 #pragma once
 
-#include "Descriptor.h"
 #include "registry/KeyTree.h"
+#include <Descriptor.h>
 
 #include <filesystem>
 #include <memory>

@@ -111,15 +111,15 @@ LSTATUS OpenOrMake(
     return ERROR_SUCCESS;
 }
 
-LSTATUS DeleteKey(HKEY key, LPCWSTR subKey, REGSAM view)
+LSTATUS DeleteKey(HKEY key, LPCWSTR subKey)
 {
-    if (!subKey || (view & ~viewFlags) || view == viewFlags)
+    if (!subKey)
         return ERROR_INVALID_PARAMETER;
     RegistrySession session(key, 0, Access::Write);
     if (session.Error() != ERROR_SUCCESS)
         return session.Error();
     KeyPath path;
-    const LSTATUS error = ResolvePath(session, subKey, view, path);
+    const LSTATUS error = ResolvePath(session, subKey, 0, path);
     if (error != ERROR_SUCCESS)
         return error;
     const std::shared_ptr<KeyNode> found = FindKey(session.Root(), path);
@@ -139,7 +139,7 @@ LSTATUS DeleteKey(HKEY key, LPCWSTR subKey, REGSAM view)
 //          ERROR_BAD_PATHNAME. The handle's own rights do not limit what is created below it. In
 //          the 32-bit view HKEY_LOCAL_MACHINE\Software is HKEY_LOCAL_MACHINE\Software\WOW6432Node.
 // Differs: every right that is asked for is granted. All of HKEY_LOCAL_MACHINE\Software has two
-//          views, and a root that RegOverridePredefKey redirected has one.
+//          views.
 // Refuses: a class, every option but REG_OPTION_NON_VOLATILE, security attributes, rights that
 //          winreg.h does not name, and names with CR or LF, which the file format cannot hold.
 LSTATUS RegCreateKeyExW(HKEY key, LPCWSTR subKey, DWORD reserved, LPWSTR className, DWORD options,
@@ -191,36 +191,9 @@ LSTATUS RegCloseKey(HKEY key)
 // Keeps:   the handle's rights are not checked; an empty subKey deletes the key itself; a key with
 //          sub-keys and a root are ERROR_ACCESS_DENIED; after it, open handles of the key return
 //          ERROR_KEY_DELETED.
-LSTATUS RegDeleteKeyExW(HKEY key, LPCWSTR subKey, REGSAM view, DWORD reserved)
-{
-    if (const auto fault = Pal::InjectedFault(__func__))
-        return static_cast<LSTATUS>(*fault);
-    return reserved ? ERROR_INVALID_PARAMETER : Pal::DeleteKey(key, subKey, view);
-}
-
-// As RegDeleteKeyExW in the 64-bit view.
 LSTATUS RegDeleteKeyW(HKEY key, LPCWSTR subKey)
 {
     if (const auto fault = Pal::InjectedFault(__func__))
         return static_cast<LSTATUS>(*fault);
-    return Pal::DeleteKey(key, subKey, 0);
-}
-
-// Keeps:   redirects a predefined key, for this process only, to the key of a handle, which may be
-//          closed afterwards; a null replacement removes the redirection.
-// Differs: the redirection refers to the machine on which the handle was opened.
-LSTATUS RegOverridePredefKey(HKEY key, HKEY replacement)
-{
-    if (const auto fault = Pal::InjectedFault(__func__))
-        return static_cast<LSTATUS>(*fault);
-    if (!Pal::IsPredefined(key))
-        return ERROR_INVALID_HANDLE;
-    const std::lock_guard lock(Pal::RegistryMutex());
-    const auto target = replacement ? Pal::FindOpenKey(replacement) : nullptr;
-    if (replacement && !target)
-        return ERROR_INVALID_HANDLE;
-    const auto redirected =
-        target ? std::make_shared<Pal::OpenKey>(target->Location(), KEY_ALL_ACCESS) : nullptr;
-    Pal::OverridePredefined(key, redirected);
-    return ERROR_SUCCESS;
+    return Pal::DeleteKey(key, subKey);
 }

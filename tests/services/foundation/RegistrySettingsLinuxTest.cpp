@@ -2,6 +2,8 @@
 
 #include <Pal.h>
 
+#include <QSize>
+
 #include "support/RegistryFiles.h"
 
 namespace
@@ -56,6 +58,21 @@ TEST_F(RegistrySettingsLinuxTest, EmptyKeysAndGroupsThatWereNeverBegunAreRefused
         (QStringList{"RegistrySettings::setValue: empty key", "RegistrySettings::value: empty key",
             "RegistrySettings::endGroup: no group was begun"}));
     EXPECT_EQ(settings.childKeys(), QStringList{});
+}
+
+TEST_F(RegistrySettingsLinuxTest, TypesThatNothingStoresAreRefused)
+{
+    const WarningLog log;
+    RegistrySettings settings(m_path);
+    for (const QVariant& value : {QVariant(QSize(5, 6)), QVariant(QStringList{"one", "", "two"})})
+    {
+        settings.setValue("value", value);
+        EXPECT_FALSE(settings.contains("value"));
+    }
+    EXPECT_EQ(
+        WarningLog::Lines(), (QStringList{"Registry value cannot be written: \"value\", error 50",
+                                 "Registry value cannot be written: \"value\", error 50"}));
+    EXPECT_EQ(settings.status(), QSettings::AccessError);
 }
 
 TEST_F(RegistrySettingsLinuxTest, WithoutAnOrganisationNothingIsStored)
