@@ -79,7 +79,7 @@ const Option* FindOption(const QString& name)
     return nullptr;
 }
 
-// Length of what an option begins with; 0 for a word that is none.
+// Length of the prefix of an option; 0 if the word is no option.
 int PrefixLength(const QString& word)
 {
     if (word.startsWith(QLatin1String("--")))
@@ -111,7 +111,7 @@ QString ApplyFlag(const Option& option, const QString& word, int equals, Command
     return {};
 }
 
-// Takes one word into the options; what is wrong with it, or an empty text.
+// Applies one word to the options; returns an error text, or an empty text.
 QString ApplyWord(const QString& word, CommandLine& options)
 {
     const int prefix = PrefixLength(word);
@@ -130,7 +130,7 @@ QString ApplyWord(const QString& word, CommandLine& options)
                                    : ApplyValue(*option, word, equals, options);
 }
 
-// What is wrong with the options together, or an empty text.
+// The error text for contradicting or invalid options, or an empty text.
 QString FindConflict(const CommandLine& options)
 {
     if (options.allUsers && options.currentUser)
@@ -146,7 +146,7 @@ QString FindConflict(const CommandLine& options)
     return {};
 }
 
-// Whether the words, joined as a shell would have cut them, are the program's path.
+// Whether the words, joined with blanks, are the program's path.
 bool SpellsPath(const QStringList& words, const QString& programPath)
 {
     const QString joined = words.join(' ');

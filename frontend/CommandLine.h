@@ -14,7 +14,7 @@ enum class Role
     Uninstaller
 };
 
-// What the command line asks for.
+// The options of the command line.
 struct CommandLine
 {
     bool silent = false;
@@ -44,25 +44,25 @@ struct CommandLine
 struct ParsedCommandLine
 {
     CommandLine options;
-    QString error; // one line that names the first word at fault; empty when there is none
+    QString error; // one line that names the first wrong word; empty without an error
 };
 
 // The arguments in `words`, the whole command line of the process: without the leading words that
-// together spell the program's own path, else without the first one. A program that was started
-// with an unquoted command line gets a path with blanks as several words.
+// together are the program's own path, else without the first one. A path with blanks in an
+// unquoted command line arrives as several words.
 QStringList DropProgramPath(const QStringList& words, const QString& programPath);
 
-// Names of options ignore case and begin with "/" or "--"; a value follows after "=". A repeated
-// option counts with its last value. Paths are left as they are given.
+// Names of options ignore case and begin with "/" or "--"; a value follows after "=". The last
+// value of a repeated option is used. Paths are not changed.
 ParsedCommandLine ParseCommandLine(const QStringList& arguments);
 
-// The options with relative paths taken from `startFolder`.
+// The options with relative paths resolved against `startFolder`.
 CommandLine WithAbsolutePaths(CommandLine options, const QDir& startFolder);
 
-// The program is the uninstaller when it bears the uninstaller's file name, or when it is told so.
+// The program is the uninstaller if it has the uninstaller's file name, or with /UNINSTALL.
 Role RoleOf(const QString& programPath, const CommandLine& options);
 
-// All options and exit codes, for a person.
+// The text of /?: all options and exit codes.
 QString HelpText();
 
 } // namespace Vorlan::FrontEnd

@@ -3,14 +3,14 @@
 namespace Vorlan::FrontEnd
 {
 
-// How the program ends, in the numbers that deployment tools know. Numbers are only ever added.
-// Systems that keep eight bits of an exit code (Linux) show the number modulo 256.
+// Exit codes of the program, with the numbers that deployment tools use. Existing numbers do not
+// change. Linux keeps eight bits of an exit code: the number modulo 256.
 enum class ExitCode : int
 {
     Done = 0,
     BadCommandLine = 87,
-    DiskFull = 112,                // found before the run
-    DependentProgramsExist = 1051, // an uninstallation that other programs forbid
+    DiskFull = 112,                // detected before the run
+    DependentProgramsExist = 1051, // an uninstallation is refused because of other programs
     Cancelled = 1602,
     Failed = 1603,
     AnotherSetupRunning = 1618

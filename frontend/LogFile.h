@@ -8,9 +8,9 @@
 namespace Vorlan::FrontEnd
 {
 
-// Writes every line of Qt's message logger to a file while it lives: time, level, text. A line that
-// comes again and again is written once, and then how often it was repeated. At most one log at a
-// time; lines may come from any thread.
+// Writes every line of Qt's message logger to a file, from construction to destruction: time,
+// level, text. A directly repeated line is written once, followed by the number of repetitions. At
+// most one log at a time; lines may be logged on any thread.
 class LogFile
 {
 public:
@@ -18,7 +18,7 @@ public:
     static QString DefaultPath(const QString& action, const QDateTime& time);
 
     // Appends to `path`, whose folder must exist. Throws std::runtime_error with one line for the
-    // user when the file cannot be opened.
+    // user if the file cannot be opened.
     explicit LogFile(const QString& path);
     ~LogFile();
     LogFile(const LogFile&) = delete;

@@ -38,7 +38,7 @@ QString MachineRightsMissing()
 bool RelaunchElevated(const QStringList& arguments)
 {
     QStringList quoted = {
-        "/IGNORE_MUTEX"}; // this process still holds the lock when the other begins
+        "/IGNORE_MUTEX"}; // this process still holds the lock when the other one starts
     for (const QString& argument : arguments)
     {
         quoted += '"' + argument + '"';

@@ -8,18 +8,18 @@
 namespace Vorlan::FrontEnd
 {
 
-// Whether this process may change what belongs to all users of the machine.
+// Whether this process may write the records of all users.
 bool CanChangeMachine();
 
-// What to tell a person who may not.
+// The error text for a user without that right.
 QString MachineRightsMissing();
 
-// Starts this program again with these arguments and the rights of an administrator, for which the
-// system asks the person; false when they refused.
+// Starts this program again with these arguments and administrator rights, after the system's
+// confirmation dialog; false if the user has refused.
 bool RelaunchElevated(const QStringList& arguments);
 
-// One setup at a time on a machine: held by the first process that asks, until the object goes or
-// the process ends.
+// Lock that allows one setup at a time on a machine: held by the first process that constructs it,
+// until the object is destroyed or the process ends.
 class SetupLock
 {
 public:

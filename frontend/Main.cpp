@@ -32,8 +32,8 @@ struct Invocation
 const Outcome anotherSetup{ExitCode::AnotherSetupRunning,
     "Another setup is running: wait for its end, or give /IGNORE_MUTEX."};
 
-// A short-lived application object knows both in the right encoding; the real one comes when the
-// options have said which kind it must be.
+// Uses a temporary application object, which decodes both; the class of the final one depends on
+// the options.
 Invocation ReadInvocation(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
@@ -68,12 +68,12 @@ Outcome RunSilently(Role role, const CommandLine& options, int argc, char** argv
 Outcome RunWithWindow(
     Role role, const CommandLine& options, bool isOnlySetup, int argc, char** argv)
 {
-    PrepareForFineScreens();
+    EnableHighDpi();
     QApplication application(argc, argv);
-    DressApplication(application);
+    ApplyStyle(application);
     if (!isOnlySetup)
     {
-        TellAnotherSetupRuns(options);
+        ShowAnotherSetupRuns(options);
         return anotherSetup;
     }
     return role == Role::Uninstaller ? UninstallWithWindow(options, MakeSink(options))
@@ -91,7 +91,8 @@ Outcome RunRole(Role role, const CommandLine& options, int argc, char** argv)
     return isOnlySetup ? RunSilently(role, options, argc, argv) : anotherSetup;
 }
 
-// Keeps a log meanwhile; a failure names it. Throws std::runtime_error where it cannot be kept.
+// Writes a log during the run; a failure names its path. Throws std::runtime_error if it cannot be
+// opened.
 Outcome RunLogged(Role role, CommandLine options, int argc, char** argv)
 {
     const QString action = role == Role::Uninstaller ? "uninstall" : "install";
@@ -122,10 +123,10 @@ int Finish(const Outcome& outcome, const CommandLine& options)
     return static_cast<int>(outcome.code);
 }
 
-// Ends before or without a run: the person is told in a box where nothing that is printed is seen.
-int Refuse(const Outcome& outcome, const CommandLine& options, bool isHeard)
+// Ends the program without a run; without a console the text is shown in a box.
+int Refuse(const Outcome& outcome, const CommandLine& options, bool isConnected)
 {
-    if (!isHeard && !options.silent)
+    if (!isConnected && !options.silent)
     {
         ShowBox(outcome.error);
     }
@@ -136,18 +137,18 @@ int Refuse(const Outcome& outcome, const CommandLine& options, bool isHeard)
 
 int main(int argc, char** argv)
 {
-    const bool isHeard = ConnectToConsole();
+    const bool isConnected = ConnectToConsole();
     const Invocation invocation = ReadInvocation(argc, argv);
     const ParsedCommandLine parsed =
         ParseCommandLine(DropProgramPath(invocation.words, invocation.programPath));
     if (!parsed.error.isEmpty())
     {
-        return Refuse({ExitCode::BadCommandLine, parsed.error}, parsed.options, isHeard);
+        return Refuse({ExitCode::BadCommandLine, parsed.error}, parsed.options, isConnected);
     }
     if (parsed.options.help)
     {
         std::cout << HelpText().toStdString() << std::flush;
-        return Refuse({ExitCode::Done, HelpText()}, {}, isHeard);
+        return Refuse({ExitCode::Done, HelpText()}, {}, isConnected);
     }
     const CommandLine options = WithAbsolutePaths(parsed.options, QDir::current());
     const Role role = RoleOf(invocation.programPath, options);
@@ -158,6 +159,6 @@ int main(int argc, char** argv)
     }
     catch (const std::exception& error)
     {
-        return Refuse({ExitCode::Failed, error.what()}, options, isHeard);
+        return Refuse({ExitCode::Failed, error.what()}, options, isConnected);
     }
 }

@@ -14,8 +14,8 @@ namespace Vorlan::FrontEnd
 namespace
 {
 
-// The engine has one text for every failure; an uninstallation that other programs forbid has
-// another, which names them.
+// The engine has one text for all failures; only an uninstallation that is refused because of other
+// programs has another, which names them.
 ExitCode CodeOf(const QString& errorText)
 {
     const QString failure = QCoreApplication::translate("Vorlan::InstallerMediator",

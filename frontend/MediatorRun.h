@@ -17,11 +17,11 @@ class InstallerMediator;
 namespace Vorlan::FrontEnd
 {
 
-// Shows the program's texts in this language from now on, as long as the translator lives. Where
-// there is no translation they stay English.
+// Translates the program's texts to this language until the translator is destroyed. Without a
+// translation they are English.
 std::unique_ptr<QTranslator> InstallTranslation(const QString& locale);
 
-// Starts the mediator's run with one of its slots and handles events until its last signal.
+// Starts a run with this slot of the mediator and processes events until its last signal.
 Outcome RunToTheEnd(
     InstallerMediator& mediator, void (InstallerMediator::*start)(), const EventSink& sink);
 

@@ -7,7 +7,7 @@
 namespace Vorlan::FrontEnd
 {
 
-// How a run ended and, unless it is done, one line that says why and what to do.
+// Result of a run: exit code and, after a failure, one line with the cause and the remedy.
 struct Outcome
 {
     ExitCode code = ExitCode::Done;

@@ -12,7 +12,7 @@ namespace Vorlan::FrontEnd
 namespace
 {
 
-// A folder, which the removal of the files beside it leaves alone.
+// A folder, because the uninstallation deletes only the files at the top.
 constexpr char markName[] = "uninst.unfinished";
 
 QString RegisteredFolder(QSettings::Scope scope)

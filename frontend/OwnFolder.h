@@ -6,19 +6,19 @@
 namespace Vorlan::FrontEnd
 {
 
-// What is known of the folder that an uninstaller lies in and would empty.
+// Result of checking the uninstaller's own folder, whose files it would delete.
 struct OwnFolder
 {
     QSettings::Scope scope; // for whom the product is installed
-    QString refusal;        // why nothing here may be deleted; empty when it may
+    QString refusal;        // why nothing may be deleted; empty if it may
 };
 
-// Looks for the product in the registry, that of this user first. Deleting is refused where another
-// folder is the registered one, and where there is no registration and neither the product's main
-// program nor the mark of a removal that did not finish.
+// Looks up the product in the registry, in this user's root first. Deleting is refused if another
+// folder is registered, or if the product is not registered and the folder has neither its main
+// program nor the mark of an interrupted removal.
 OwnFolder ExamineOwnFolder(const QString& folder, QSettings::Scope defaultScope);
 
-// Marks the folder as one whose removal has begun, so that it can be begun again, until Finish.
+// Marks the folder until Finish is called, so that an interrupted removal can be repeated.
 class RemovalMark
 {
 public:

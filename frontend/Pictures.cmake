@@ -1,7 +1,7 @@
-# Draws the pictures of resources/pictures/ at once and twice their size ("name@2x.png", for fine
-# screens) and compiles them to the resources that the windows name. Texts in pictures come from
-# taglines.txt, a picture for each language. Needs rsvg-convert (Debian package librsvg2-bin) and
-# the fonts that taglines.txt names.
+# Renders the pictures of resources/pictures/ in single and double size ("name@2x.png", for high-DPI
+# screens) and compiles them to resources. The texts in pictures are in taglines.txt, with one picture
+# for each language. Needs rsvg-convert (Debian package librsvg2-bin) and the fonts that taglines.txt
+# names.
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)
 
 set(picture_sources "${CMAKE_CURRENT_SOURCE_DIR}/resources/pictures")

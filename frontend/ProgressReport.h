@@ -7,12 +7,12 @@
 namespace Vorlan::FrontEnd
 {
 
-// A bar of fixed width, for example "[#####...............]  25 %". Fractions outside 0 to 1 are
-// drawn as the nearer end.
+// A bar of fixed width, for example "[#####...............]  25 %". Fractions are clamped to the
+// range 0 to 1.
 QString RenderBar(double fraction);
 
-// Tells a person what a run does: stages, a progress bar, problems with single files. On a terminal
-// the bar is one line that is drawn anew, elsewhere every full tenth is a line.
+// Prints stages, a progress bar and problems with single files as text. On a terminal the bar is
+// one line that is overwritten, otherwise a line is printed for every tenth.
 class ProgressReport
 {
 public:

@@ -63,7 +63,7 @@ Outcome InstallWithOptions(
 {
     InstallationSettings settings = ApplyOptions(mediator.GetSettings(), options);
     const auto translator = InstallTranslation(settings.locale);
-    const Outcome refusal = CheckFolder(settings);
+    Outcome refusal = CheckFolder(settings);
     if (refusal.code != ExitCode::Done)
     {
         return refusal;
@@ -76,7 +76,7 @@ Outcome InstallWithOptions(
 
 Outcome InstallSilently(const CommandLine& options, const EventSink& sink)
 {
-    const Outcome refusal = CheckArchive();
+    Outcome refusal = CheckArchive();
     if (refusal.code != ExitCode::Done)
     {
         return refusal;

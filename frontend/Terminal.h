@@ -5,16 +5,16 @@ class QString;
 namespace Vorlan::FrontEnd
 {
 
-// Whether a person watches standard output, and not a file or another program.
+// Whether standard output is a terminal.
 bool IsOutputTerminal();
 
-// Lets what the program prints reach the console that it was started from, where the system gives a
-// program with windows none. Standard output that goes elsewhere already stays as it is. To be
-// called before anything is printed. False when there is nowhere to print to, as after a double
-// click.
+// Connects standard output and standard error to the console of the parent process, if the system
+// does not do so for GUI programs. Redirected streams are not changed. To be called before anything
+// is printed. False if there is no console and no redirected stream, as after a double click.
 bool ConnectToConsole();
 
-// Shows a text in a box of the system and waits for the person, where the system has such boxes.
+// Shows a text in a message box of the system and waits until it is closed; does nothing on a
+// system without such boxes.
 void ShowBox(const QString& text);
 
 } // namespace Vorlan::FrontEnd

@@ -14,7 +14,7 @@ bool IsOutputTerminal()
 
 bool ConnectToConsole()
 {
-    return true; // a program without a terminal writes to a log of the session
+    return true; // without a terminal, output is written to the session's log
 }
 
 void ShowBox(const QString&) {}

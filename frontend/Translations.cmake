@@ -1,5 +1,5 @@
-# Compiles resources/locales/<code>/InstallerGUI_<code>.ts to the same place beside the programs,
-# where both the front end and the engine look them up.
+# Compiles resources/locales/<code>/InstallerGUI_<code>.ts to the same path in the programs' folder,
+# where the front end and the engine load them.
 find_program(LRELEASE lrelease REQUIRED HINTS /usr/lib/qt5/bin)
 
 file(GLOB translation_sources CONFIGURE_DEPENDS

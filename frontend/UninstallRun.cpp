@@ -48,7 +48,7 @@ Outcome UninstallWith(InstallerMediator& mediator, const QString& folder,
     }
     mediator.OnDeleteUserSettings(options.deleteSettings);
     const RemovalMark mark(folder);
-    const Outcome outcome = RunToTheEnd(mediator, &InstallerMediator::StartUninstall, sink);
+    Outcome outcome = RunToTheEnd(mediator, &InstallerMediator::StartUninstall, sink);
     if (outcome.code != ExitCode::Failed)
     {
         mark.Finish();

@@ -10,9 +10,9 @@ class InstallerMediator;
 namespace Vorlan::FrontEnd
 {
 
-// The web user id to install with, for InstallationSettings::userInfo: that of the command line
-// before every other; the identity service is asked where there is none. Empty when there is none
-// at all. An id on the command line that is no id is told in the log.
+// The web user id for InstallationSettings::userInfo. That of the command line has priority; if
+// there is none, it is requested from the identity service. Empty if there is no id. An invalid id
+// on the command line is logged.
 QString FindWebUid(const InstallerMediator& mediator, const CommandLine& options);
 
 } // namespace Vorlan::FrontEnd

@@ -21,7 +21,7 @@ namespace Vorlan::FrontEnd
 namespace
 {
 
-// Before there is a mediator to propose one: the language that was asked for, or the system's.
+// The language before a mediator proposes one: that of the options, or the system's.
 QString FirstLanguage(const CommandLine& options)
 {
     const QString system = QLocale(QLocale().uiLanguages().value(0)).name();
@@ -45,7 +45,7 @@ Outcome InstallWithWindow(const CommandLine& options, const EventSink& sink)
     try
     {
         InstallWizard wizard(options, sink);
-        if (!HasArchive()) // the engine has told so in a box
+        if (!HasArchive()) // the engine has reported it in a box
         {
             return {ExitCode::Failed, QString("The archive %1 is missing: put it beside the setup "
                                               "program.")
@@ -79,7 +79,7 @@ Outcome UninstallWithWindow(const CommandLine& options, const EventSink& sink)
     return wizard.Run();
 }
 
-void TellAnotherSetupRuns(const CommandLine& options)
+void ShowAnotherSetupRuns(const CommandLine& options)
 {
     const auto translator = InstallTranslation(FirstLanguage(options));
     AlertBox::error(nullptr,

@@ -7,13 +7,14 @@
 namespace Vorlan::FrontEnd
 {
 
-// Installs or uninstalls with a window, and returns when the person has left it. For all users
-// without the rights, the uninstaller is started again with them. Needs a QApplication that is
-// dressed, the program's own folder as current folder, and absolute paths in the options.
+// Install or uninstall with a window, and return after it is closed. Without the rights for an
+// uninstallation for all users, the program is restarted elevated. They need a QApplication
+// prepared by ApplyStyle, the program's own folder as current folder, and absolute paths in
+// the options.
 Outcome InstallWithWindow(const CommandLine& options, const EventSink& sink);
 Outcome UninstallWithWindow(const CommandLine& options, const EventSink& sink);
 
-// Says in a box that another setup must end first.
-void TellAnotherSetupRuns(const CommandLine& options);
+// Shows a box: another setup must end first.
+void ShowAnotherSetupRuns(const CommandLine& options);
 
 } // namespace Vorlan::FrontEnd

@@ -1,10 +1,10 @@
-# Shared by the tools that take pictures of windows: sourced, never run, after tools/support.sh.
-# Expects $work, a folder for what they need, and $folder, where the pictures go.
+# Functions of the tools that capture windows; to be sourced after tools/support.sh. Needs $work, a folder
+# for temporary files, and $folder, where the pictures are written.
 
-limit=60 # seconds for anything to appear
-shown=   # what the screen showed when it was looked at last
+limit=60 # seconds for a page to appear
+shown=   # signature of the page that was captured last
 
-# A screen without a monitor, as large as the window, until the script ends. Ends $program as well.
+# Starts a virtual screen of the window's size. At the end of the script it ends, and $program with it.
 StartScreen()
 {
     mkfifo "$work/display"
@@ -22,7 +22,7 @@ Look()
     identify -format '%#' "$work/now.png"
 }
 
-# WaitForPage <limit in seconds>: until the screen shows something new that stays for a moment.
+# WaitForPage <limit in seconds>: waits until the screen has changed and is the same in two captures.
 WaitForPage()
 {
     local end=$((SECONDS + $1)) look before=
@@ -33,7 +33,7 @@ WaitForPage()
     shown=$look
 }
 
-# Keep <name>: the page that is shown now.
+# Keep <name>: stores the last capture.
 Keep()
 {
     convert "$work/now.png" -strip "$folder/$1.png"

@@ -1,4 +1,4 @@
-# Shared by the tools: sourced, never run. Expects $tool, the name that stands before every line.
+# Functions of all tools; to be sourced. Needs $tool, the prefix of printed lines.
 
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
@@ -13,8 +13,8 @@ Fail()
     exit 1
 }
 
-# RunStep <what it does> <what to do when it fails> <log file> <command...>: a failure shows the
-# end of the output and then one line.
+# RunStep <description> <advice after a failure> <log file> <command...>: prints the end of the
+# output and one line after a failure.
 RunStep()
 {
     local what=$1 advice=$2 log=$3
@@ -26,20 +26,20 @@ RunStep()
     Fail "failed: $what. $advice (full output: $log)"
 }
 
-# StartsWithHelp "$@": whether the caller only asks what the tool does.
+# StartsWithHelp "$@": whether the first argument asks for the usage.
 StartsWithHelp()
 {
     [[ ${1:-} == --help || ${1:-} == -h ]]
 }
 
-# PrintUsage <script>: the comment at the top of the script.
+# PrintUsage <script>: prints the comment at the top of the script.
 PrintUsage()
 {
     awk 'NR > 1 && !/^#/ { exit } NR > 1 { sub(/^# ?/, ""); print }' "$1"
 }
 
-# PrivateApt <folder> <apt-get arguments...>: apt-get with the source list debian.sources of the folder,
-# with lists and cache of its own, so that the machine's apt configuration stays unchanged.
+# PrivateApt <folder> <apt-get arguments...>: apt-get with source list, package lists and cache in this
+# folder, so that those of the machine are not changed.
 PrivateApt()
 {
     local folder=$1

@@ -1,6 +1,6 @@
 #include <iostream>
 
-// The demo's handler of links: says which link it was asked to open.
+// The demo's handler of links: prints the link to open.
 int main(int argc, char** argv)
 {
     if (argc != 2)

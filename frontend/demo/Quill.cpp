@@ -1,7 +1,7 @@
 #include <filesystem>
 #include <iostream>
 
-// The demo's main program: says what it is and how it was started.
+// The demo's main program: prints its version, its arguments and the current folder.
 int main(int argc, char** argv)
 {
     std::cout << "Vorlan Quillax 24.5.1\n";

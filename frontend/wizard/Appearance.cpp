@@ -12,7 +12,7 @@
 namespace Vorlan::FrontEnd
 {
 
-void PrepareForFineScreens()
+void EnableHighDpi()
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
@@ -20,7 +20,7 @@ void PrepareForFineScreens()
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 
-void DressApplication(QApplication& application)
+void ApplyStyle(QApplication& application)
 {
     QApplication::setApplicationName(ProductTitle());
     QApplication::setWindowIcon(QIcon(":/Icons/quill.png"));

@@ -5,10 +5,10 @@ class QApplication;
 namespace Vorlan::FrontEnd
 {
 
-// What must be said before the application object is made: pictures and sizes for fine screens.
-void PrepareForFineScreens();
+// Enables high-DPI scaling; to be called before the application object is constructed.
+void EnableHighDpi();
 
-// Gives every window of the program the product's look, whatever the system's own is.
-void DressApplication(QApplication& application);
+// Sets the product's style, palette and icon for all windows, independent of the system's style.
+void ApplyStyle(QApplication& application);
 
 } // namespace Vorlan::FrontEnd

@@ -11,7 +11,7 @@ namespace
 {
 
 constexpr QSize smallestForward{140, 40};
-constexpr int forwardPadding = 44; // what the style sheet keeps free beside label and icon
+constexpr int forwardPadding = 44; // the style sheet's space beside label and icon
 
 QPushButton* MakeButton(const char* name, QWidget* parent)
 {
@@ -39,7 +39,7 @@ ButtonBar::ButtonBar(QWidget* parent)
     forward->setObjectName("forward");
     forward->setDefault(true);
     auto* label = forward->findChild<QLabel*>("buttonLabel");
-    label->setBuddy(forward); // its "&" presses the button
+    label->setBuddy(forward); // the label's mnemonic clicks the button
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(40, 12, 40, 20);
@@ -58,7 +58,7 @@ void ButtonBar::SetLabels(const Labels& labels)
     setHidden(labels.back.isEmpty() && labels.cancel.isEmpty() && labels.forward.isEmpty());
 }
 
-// A push button does not count what lies in its layout.
+// The size hint of a push button does not include its layout.
 void ButtonBar::SetForwardLabel(const QString& text)
 {
     forward->setText(text);

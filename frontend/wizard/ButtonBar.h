@@ -12,8 +12,8 @@ class ButtonWithIcon;
 namespace Vorlan::FrontEnd
 {
 
-// The row of buttons at the bottom of a window: back, cancel, and the one that leads on, which
-// Enter presses. A button without a text is not shown. "&" marks the letter that presses a button.
+// The row of buttons at the bottom of a window: back, cancel, and forward, the default button. A
+// button without a text is hidden. "&" marks the mnemonic of a button.
 class ButtonBar : public QFrame
 {
 public:

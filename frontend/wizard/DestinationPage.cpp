@@ -18,7 +18,7 @@ namespace Vorlan::FrontEnd
 namespace
 {
 
-constexpr int longestPath = 32767; // what Windows takes at all
+constexpr int longestPath = 32767; // limit of Windows
 
 qint64 FreeSpace(const QString& folder)
 {
@@ -108,7 +108,7 @@ void DestinationPage::Check()
     error->setText(objection);
     error->setVisible(!objection.isEmpty());
     folder->setProperty("isWrong", !isValid);
-    folder->style()->unpolish(folder); // rules look at the property
+    folder->style()->unpolish(folder); // applies the rules for the property
     folder->style()->polish(folder);
     folder->setAccessibleDescription(objection);
     const QString place = WithoutEnd(Folder());

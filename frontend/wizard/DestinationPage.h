@@ -8,12 +8,12 @@ class QPushButton;
 namespace Vorlan::FrontEnd
 {
 
-// Lets choose the folder. The engine's own check runs as the person types; what it objects to is
-// shown below the field.
+// Page with the installation folder. The engine validates the text while it is edited; its error
+// text is shown below the field.
 class DestinationPage : public Page
 {
 public:
-    // The proposal is the folder of the settings; they also say what is needed there.
+    // Proposes the folder of the settings, and shows their required space.
     explicit DestinationPage(const InstallationSettings& settings);
 
     void Retranslate(const QString& locale) override;
@@ -21,10 +21,10 @@ public:
     bool IsComplete() const override { return isValid; }
     QWidget* FirstControl() const override;
 
-    // Looks at the folder again: the disk may have changed.
+    // Validates the folder again, because the disk may have changed.
     void Check();
 
-    // The folder made fit for the installation.
+    // The installation folder for the typed text.
     QString Folder() const;
 
 private:

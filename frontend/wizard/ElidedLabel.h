@@ -5,8 +5,8 @@
 namespace Vorlan::FrontEnd
 {
 
-// One line of text that never asks for more room than there is: what does not fit is left out in
-// the middle. The whole text is the tool tip, and what is read aloud.
+// One line of text without a minimum width: a text that does not fit is elided in the middle. The
+// complete text is the accessible name.
 class ElidedLabel : public QLabel
 {
 public:

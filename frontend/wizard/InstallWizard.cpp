@@ -25,7 +25,7 @@ namespace Vorlan::FrontEnd
 namespace
 {
 
-// The vendor's page with the licence; the engine fills in the places.
+// The vendor's page with the licence; the engine replaces the placeholders.
 QString LicenceTemplate()
 {
     return QStringLiteral("https://links.") + ProductProfile::vendorDomain +
@@ -40,7 +40,7 @@ InstallWizard::InstallWizard(const CommandLine& givenOptions, EventSink eventSin
       scope(options.Scope()),
       mediator(MakeInstaller(scope, false))
 {
-    SpeakLanguage(ApplyOptions(mediator->GetSettings(), options).locale);
+    SetLanguage(ApplyOptions(mediator->GetSettings(), options).locale);
     MakePages();
     GoTo(Step::Welcome);
 }
@@ -58,7 +58,7 @@ void InstallWizard::MakePages()
         new ProgressPage(LayerSets::installProgress, QT_TRANSLATE_NOOP("Wizard", "Installing %1"));
     for (Page* page : std::initializer_list<Page*>{welcome, destination, optionsPage, progress})
         window.Add(page);
-    welcome->languageChosen = [this](const QString& locale) { SpeakLanguage(locale); };
+    welcome->languageChosen = [this](const QString& locale) { SetLanguage(locale); };
     welcome->linkFollowed = [this](const QString& target) { FollowLink(target); };
 }
 
@@ -160,7 +160,7 @@ void InstallWizard::FollowLink(const QString& target) const
         mediator->OpenUrl(InstallerMediator::URL::PrivacyPolicy);
 }
 
-// What the person saw when they chose may have changed meanwhile.
+// Archive, rights and folder are checked again, because they may have changed since the pages.
 void InstallWizard::Install()
 {
     if (!FindArchive())
@@ -213,7 +213,7 @@ InstallationSettings InstallWizard::ChosenSettings()
     return settings;
 }
 
-// The identity service may take a while; the window stays alive meanwhile.
+// Processes events while the identity service is queried, so that the window stays responsive.
 QString InstallWizard::AskForWebUid() const
 {
     const auto ask = [this]() -> QString

@@ -19,12 +19,12 @@ class ProgressPage;
 class ResultPage;
 class WelcomePage;
 
-// An installation that a person is led through. The command line proposes; the pages decide.
+// An installation with windows. The options of the command line preset the pages.
 class InstallWizard : public Wizard
 {
 public:
-    // Throws std::runtime_error when the archive cannot be read; where it is missing, the engine
-    // has told so. `sink` hears every signal of the run.
+    // Throws std::runtime_error if the archive cannot be read; if it is missing, the engine has
+    // reported it. `sink` receives all events of the run.
     InstallWizard(const CommandLine& options, EventSink sink);
     ~InstallWizard() override;
 
@@ -60,7 +60,7 @@ private:
 
     CommandLine options;
     EventSink sink;
-    QSettings::Scope scope; // that of the mediator
+    QSettings::Scope scope; // of the mediator
     std::unique_ptr<InstallerMediator> mediator;
     Step step = Step::Welcome;
     Outcome runOutcome;

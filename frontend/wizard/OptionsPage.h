@@ -8,18 +8,18 @@ class QRadioButton;
 namespace Vorlan::FrontEnd
 {
 
-// What the page offers beside what is always asked.
+// The optional check boxes of the page.
 struct OfferedOptions
 {
     bool autoLaunch; // the product has a program that can start at logon
-    bool statistics; // the person has not been asked on this machine before
+    bool statistics; // the user has not been asked on this machine before
 };
 
-// For whom to install, and what else to set up.
+// Page with the scope, shortcuts and other options.
 class OptionsPage : public Page
 {
 public:
-    // The proposals are those of the settings.
+    // Presets the controls from the settings.
     OptionsPage(const InstallationSettings& settings, OfferedOptions offered);
 
     void Retranslate(const QString& locale) override;

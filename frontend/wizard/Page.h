@@ -13,12 +13,12 @@ class QVBoxLayout;
 namespace Vorlan::FrontEnd
 {
 
-// One page of a window: the part below the picture. A page shows and gathers; what happens next is
-// the window's business.
+// One page of a window: the part below the picture. A page shows and collects data; the wizard
+// selects the next page.
 class Page : public QWidget
 {
 public:
-    // `layers` is the picture above the page; a form shows only a strip of it.
+    // `layers` is the picture above the page; above a form only a strip of it is shown.
     enum class Shape
     {
         UnderPicture,
@@ -26,12 +26,12 @@ public:
     };
     Page(const char* name, const QStringList& layers, Shape shape);
 
-    // Sets every text anew, in the language that is installed.
+    // Sets all texts, in the language of the installed translator.
     virtual void Retranslate(const QString& locale) = 0;
-    // Puts what the page gathered into the settings.
+    // Writes the user's choices into the settings.
     virtual void Apply(InstallationSettings&) const {}
     virtual bool IsComplete() const { return true; }
-    // The control that the keyboard begins with; null for the window's own button.
+    // The control with the initial focus; null for the window's forward button.
     virtual QWidget* FirstControl() const { return nullptr; }
 
     const QStringList& Layers() const { return layers; }
@@ -44,9 +44,9 @@ protected:
     QVBoxLayout* Body() const { return body; }
     // A heading at the top of the page.
     QLabel* AddHeading();
-    // A text that may need several lines.
+    // A text with word wrap.
     QLabel* AddText(const char* name);
-    // One line, shortened where it is too long.
+    // One line, elided if it is too long.
     QLabel* AddLine(const char* name);
 
 private:

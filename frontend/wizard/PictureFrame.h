@@ -7,7 +7,7 @@ class QToolButton;
 namespace Vorlan::FrontEnd
 {
 
-// The picture at the top of a window, with the buttons that a window without a title bar needs.
+// The picture at the top of a window, with the minimize and close buttons of the frameless window.
 class PictureFrame : public MultiLayerBackgroundFrame
 {
 public:

@@ -42,7 +42,7 @@ ProgressPage::ProgressPage(const QStringList& pictureLayers, const char* english
     Body()->addWidget(detailsButton, 0, Qt::AlignLeft);
     details->setObjectName("details");
     details->setTextElideMode(Qt::ElideMiddle);
-    details->setUniformItemSizes(true); // there may be a line for each of many files
+    details->setUniformItemSizes(true); // for lists with a line for each of many files
     details->hide();
     Body()->addWidget(details, 1);
     Body()->addStretch();

@@ -10,8 +10,7 @@ class QPushButton;
 namespace Vorlan::FrontEnd
 {
 
-// Shows a run: what is done just now, how far it is, and what happened so far when the person wants
-// to see it.
+// Shows the current step of a run, its progress, and on request the list of steps so far.
 class ProgressPage : public Page
 {
 public:
@@ -20,7 +19,7 @@ public:
     void Retranslate(const QString& locale) override;
     QWidget* FirstControl() const override;
 
-    // Begins a run: nothing is shown of an earlier one.
+    // Removes the display of an earlier run.
     void Clear();
     void Show(const RunEvent& event);
 

@@ -8,8 +8,7 @@ class QListWidget;
 namespace Vorlan::FrontEnd
 {
 
-// How a run ended. `isDone`: it succeeded, with the files that could not be copied where there are
-// any.
+// Content of the last page. `isDone`: the run succeeded, except for the files in `copyErrors`.
 struct ResultTexts
 {
     bool isDone = true;
@@ -17,7 +16,7 @@ struct ResultTexts
     QString text;                 // may be empty
     const char* linkText = "";    // in English, rich text; may be empty
     QStringList copyErrors;
-    bool canStart = false; // the program that was installed can be started
+    bool canStart = false; // offers to start the installed program
 };
 
 // The last page.

@@ -5,25 +5,25 @@
 namespace Vorlan::FrontEnd
 {
 
-// A text of the windows in the language that is installed; English where there is no translation.
+// A text of the windows, translated by the installed translator; English without a translation.
 QString WizardText(const char* text);
 
-// The same for what only an uninstallation says.
+// The same for texts of the uninstallation only.
 QString UninstallText(const char* text);
 
-// What the windows call the product.
+// The product's name in the windows.
 QString ProductTitle();
 
-// The language's name in that language, as its speakers look for it.
+// The native name of the language.
 QString LanguageName(const QString& locale);
 
-// What a stage of the run does, for a person; the name of the stage where it is not known.
+// The translated description of a stage; the id of an unknown stage.
 QString StageText(const QString& stageId);
 
-// A number of bytes as a person reads it, in the given language.
+// A number of bytes with a unit, formatted for the given language.
 QString SizeText(qint64 bytes, const QString& locale);
 
-// A path that keeps its order of reading inside any other text, whatever letters it holds.
+// The path in directional isolates, so that its direction does not depend on the text around it.
 QString PathText(const QString& path);
 
 } // namespace Vorlan::FrontEnd

@@ -7,7 +7,7 @@ class QCheckBox;
 namespace Vorlan::FrontEnd
 {
 
-// Says what is about to be removed, and asks about the person's settings.
+// Page with the folder to be removed, and the option to delete the user's settings.
 class UninstallStartPage : public Page
 {
 public:

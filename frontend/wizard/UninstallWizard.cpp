@@ -14,7 +14,7 @@ namespace Vorlan::FrontEnd
 namespace
 {
 
-// A box is small: the first lines of a long text.
+// The first lines of a text that is too long for a box.
 QString Shortened(const QString& text)
 {
     constexpr int mostLines = 6;
@@ -34,7 +34,7 @@ UninstallWizard::UninstallWizard(const QString& ownFolder, const OwnFolder& own,
       sink(std::move(eventSink)),
       mediator(MakeUninstaller(own.scope, options, false))
 {
-    SpeakLanguage(mediator->GetSettings().locale);
+    SetLanguage(mediator->GetSettings().locale);
     runOutcome = {ExitCode::Cancelled, UninstallText("Cancelled: nothing was deleted.")};
     start = new UninstallStartPage(folder, options.deleteSettings);
     progress = new ProgressPage(

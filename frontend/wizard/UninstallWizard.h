@@ -17,16 +17,16 @@ class ProgressPage;
 class ResultPage;
 class UninstallStartPage;
 
-// The uninstallation from the program's own folder, which a person is led through.
+// An uninstallation from the program's own folder, with windows.
 class UninstallWizard : public Wizard
 {
 public:
-    // `own` is what is known of `folder`. `sink` hears every signal of the run.
+    // `own` is the result of ExamineOwnFolder. `sink` receives all events of the run.
     UninstallWizard(
         const QString& folder, const OwnFolder& own, const CommandLine& options, EventSink sink);
     ~UninstallWizard() override;
 
-    // Whether to go on; asks about a folder that may not be the product's.
+    // Asks for confirmation if the folder may not be the product's; false to cancel.
     bool AskAboutFolder() const;
 
 private:
@@ -51,7 +51,7 @@ private:
     EventSink sink;
     std::unique_ptr<InstallerMediator> mediator;
     Step step = Step::Start;
-    Outcome runOutcome; // until a run is over: cancelled
+    Outcome runOutcome; // before the end of a run: cancelled
     UninstallStartPage* start = nullptr;
     ProgressPage* progress = nullptr;
     ResultPage* resultPage = nullptr;

@@ -7,11 +7,11 @@ class QComboBox;
 namespace Vorlan::FrontEnd
 {
 
-// Greets, lets choose the language, and leads to the licence and the privacy policy.
+// First page, with the language and links to the licence and the privacy policy.
 class WelcomePage : public Page
 {
 public:
-    // `isNewer`: there is no version on the machine that is as new as this one.
+    // `isNewer`: the installed version, if any, is older than this one.
     WelcomePage(const QString& locale, bool isNewer);
 
     void Retranslate(const QString& locale) override;
@@ -20,7 +20,7 @@ public:
     QString Locale() const;
 
     std::function<void(const QString& locale)> languageChosen = [](const QString&) {};
-    // Names in the link: "licence" or "privacy".
+    // `target` is "licence" or "privacy".
     std::function<void(const QString& target)> linkFollowed = [](const QString&) {};
 
 private:

@@ -28,9 +28,9 @@ Outcome Wizard::Run()
     return outcome;
 }
 
-void Wizard::SpeakLanguage(const QString& locale)
+void Wizard::SetLanguage(const QString& locale)
 {
-    translator.reset(); // one language at a time
+    translator.reset(); // before the next one: missing translations must not use it
     translator = InstallTranslation(locale);
     language = locale;
     window.Retranslate(locale);

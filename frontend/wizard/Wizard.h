@@ -12,8 +12,8 @@ class QTranslator;
 namespace Vorlan::FrontEnd
 {
 
-// A window with its pages, from its first moment to its outcome. What the buttons do depends on
-// where it is: derived classes say so. On the application's thread.
+// Base class of the wizards: a window with pages and an outcome. Derived classes define the action
+// of the buttons for each page. On the GUI thread only.
 class Wizard
 {
 public:
@@ -24,7 +24,7 @@ public:
 
     WizardWindow& Window() { return window; }
 
-    // Shows the window and handles events until the person leaves.
+    // Shows the window and processes events until Leave.
     Outcome Run();
 
     bool IsOver() const { return isOver; }
@@ -36,8 +36,8 @@ protected:
     virtual void RequestClose() = 0;
     virtual ButtonBar::Labels Labels() const = 0;
 
-    // Shows all texts and pictures in this language.
-    void SpeakLanguage(const QString& locale);
+    // Switches all texts and pictures to this language.
+    void SetLanguage(const QString& locale);
     const QString& Language() const { return language; }
 
     void ShowPage(Page* page);

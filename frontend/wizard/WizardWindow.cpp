@@ -23,7 +23,7 @@ constexpr int smallestHeight = 520;
 constexpr int pictureHeight = 302;
 constexpr int stripHeight = 92;
 
-// As high as it should be, or as the screen is, but no page is cut.
+// The height of the window, reduced on a low screen down to a limit at which all pages fit.
 int WindowHeight()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
@@ -60,7 +60,7 @@ void WizardWindow::Add(Page* page)
     page->Retranslate(locale);
 }
 
-// Frames are made when they are needed first, and kept.
+// Frames are created on first use.
 PictureFrame* WizardWindow::FrameFor(const Page& page)
 {
     PictureFrame*& frame = frameOfLayers[page.Layers()];
@@ -74,7 +74,7 @@ PictureFrame* WizardWindow::FrameFor(const Page& page)
     return frame;
 }
 
-// On a low screen the picture gives way to the page.
+// On a low screen the picture is reduced, not the page.
 int WizardWindow::PictureHeight(const Page& page) const
 {
     if (page.PictureShape() == Page::Shape::Form)

@@ -15,7 +15,7 @@ class Page;
 class PictureFrame;
 
 // The window of an installation or an uninstallation: a picture, a page, a row of buttons. It can
-// be dragged by its body and does not close by itself: closing only asks.
+// be dragged anywhere. Closing calls `closeRequested` and nothing else.
 class WizardWindow : public MovableWidget<QDialog>
 {
 public:
@@ -27,12 +27,12 @@ public:
     Page* Current() const;
 
     void SetLabels(const ButtonBar::Labels& labels);
-    // Sets every text and picture anew.
+    // Sets all texts and pictures.
     void Retranslate(const QString& locale);
 
     ButtonBar* Buttons() const { return buttons; }
 
-    // Called when the person wants to leave: by the button, the window's own, Esc or the system.
+    // Called by the cancel button, the close button, Esc or the system.
     std::function<void()> closeRequested = [] {};
 
     void reject() override { closeRequested(); }

@@ -2,9 +2,9 @@
 
 #include "support/Printing.h"
 
-#include <gtest/gtest.h>
-
 #include <QTemporaryDir>
+
+#include <gtest/gtest.h>
 
 namespace Vorlan::FrontEnd
 {
@@ -99,7 +99,7 @@ TEST(CommandLineTest, ContradictionsAreRefused)
         ErrorOf({"/LANG=sv_SE"}).startsWith("The option /LANG=sv_SE names no supported language"));
 }
 
-TEST(CommandLineTest, LeadingWordsThatSpellTheProgramAreDropped)
+TEST(CommandLineTest, LeadingWordsThatAreTheProgramPathAreDropped)
 {
     const QString path = "/x/Vorlan Quillax/uninst.exe";
     const QStringList rest{"/S", "/IGNORE_MUTEX"};
@@ -113,7 +113,7 @@ TEST(CommandLineTest, LeadingWordsThatSpellTheProgramAreDropped)
     EXPECT_EQ(DropProgramPath({}, path), QStringList());
 }
 
-TEST(CommandLineTest, AProgramPathOverALinkIsDroppedToo)
+TEST(CommandLineTest, AProgramPathThatIsNotCanonicalIsDroppedToo)
 {
     const QTemporaryDir folder;
     const QString real = QDir(folder.path()).canonicalPath() + "/real dir";
@@ -125,7 +125,7 @@ TEST(CommandLineTest, AProgramPathOverALinkIsDroppedToo)
         DropProgramPath({detour, "dir/uninst.exe", "/S"}, program.fileName()), QStringList{"/S"});
 }
 
-TEST(CommandLineTest, RelativePathsAreTakenFromTheStartFolder)
+TEST(CommandLineTest, RelativePathsAreResolvedAgainstTheStartFolder)
 {
     const QString root = QDir::rootPath();
     const QDir start(root + "start");
@@ -138,7 +138,7 @@ TEST(CommandLineTest, RelativePathsAreTakenFromTheStartFolder)
     EXPECT_TRUE(absolute.logFile.isEmpty());
 }
 
-TEST(CommandLineTest, TheFileNameOrTheOptionMakesTheUninstaller)
+TEST(CommandLineTest, TheFileNameOrTheOptionSelectsTheUninstaller)
 {
     EXPECT_EQ(RoleOf("/x/installergui.exe", {}), Role::Installer);
     EXPECT_EQ(RoleOf("/uninst.exe/installergui.exe", {}), Role::Installer);

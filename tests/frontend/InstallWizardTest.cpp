@@ -6,8 +6,6 @@
 #include "wizard/ProgressPage.h"
 #include "wizard/ResultPage.h"
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -19,6 +17,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 
 using namespace Vorlan;
@@ -27,7 +27,7 @@ using namespace Vorlan::FrontEnd;
 namespace
 {
 
-// A wizard over a payload that lies beside the test program, with a machine of its own.
+// A wizard with a payload in the test program's folder, and its own machine root.
 class InstallWizardTest : public testing::Test
 {
 protected:
@@ -60,7 +60,7 @@ protected:
         ASSERT_EQ(driver->PageName(), "optionsPage");
     }
 
-    // What the person sees below the field after typing a folder.
+    // The error text below the field after typing a folder.
     QString ErrorFor(const QString& folder)
     {
         driver->Press(Qt::Key_A, Qt::ControlModifier);
@@ -79,7 +79,7 @@ protected:
     std::unique_ptr<WizardDriver> driver;
 };
 
-TEST_F(InstallWizardTest, IsWalkedAndFinishedByKeysAlone)
+TEST_F(InstallWizardTest, IsOperatedWithTheKeyboardAlone)
 {
     Start();
     EXPECT_EQ(driver->PageName(), "welcomePage");
@@ -95,7 +95,7 @@ TEST_F(InstallWizardTest, IsWalkedAndFinishedByKeysAlone)
     EXPECT_FALSE(driver->Find<QCheckBox>("shortcuts")->isChecked()) << "choices stay";
     EXPECT_EQ(driver->Find<QCheckBox>("autoLaunch")->isVisible(), false)
         << "this product has no program for it";
-    driver->Press(Qt::Key_Return); // returns when the run is over
+    driver->Press(Qt::Key_Return); // returns after the run
     EXPECT_EQ(driver->PageName(), "resultPage");
     EXPECT_EQ(Count<Events::InstallationFinished>(), 1);
     EXPECT_TRUE(QFile::exists(Folder() + "/uninst.exe"));
@@ -107,7 +107,7 @@ TEST_F(InstallWizardTest, IsWalkedAndFinishedByKeysAlone)
     EXPECT_EQ(Count<Events::ApplicationStarted>(), 0);
 }
 
-TEST_F(InstallWizardTest, ADoubleClickInstallsOnceAndTheWindowStaysAlive)
+TEST_F(InstallWizardTest, ADoubleClickInstallsOnceAndTheWindowStaysResponsive)
 {
     Start("many-blocks.7z");
     GoToOptions();
@@ -165,7 +165,7 @@ TEST_F(InstallWizardTest, CancellingEndsWithItsExitCode)
     EXPECT_FALSE(QDir(Folder()).exists());
 }
 
-TEST_F(InstallWizardTest, TheFolderIsCheckedAsThePersonTypes)
+TEST_F(InstallWizardTest, TheFolderIsValidatedWhileItIsEdited)
 {
     WriteFile(machine.Path("a file"), "content");
     Start();
@@ -183,7 +183,7 @@ TEST_F(InstallWizardTest, TheFolderIsCheckedAsThePersonTypes)
     EXPECT_EQ(wizard->Window().width(), 670);
 }
 
-TEST_F(InstallWizardTest, ThereMustBeRoomForThePayload)
+TEST_F(InstallWizardTest, ThereMustBeSpaceForThePayload)
 {
     Start("huge.7z");
     driver->Press(Qt::Key_Return);
@@ -193,7 +193,7 @@ TEST_F(InstallWizardTest, ThereMustBeRoomForThePayload)
     EXPECT_EQ(driver->PageName(), "destinationPage");
 }
 
-TEST_F(InstallWizardTest, AnArchiveThatIsGoneAtTheLastMomentCanBePutBack)
+TEST_F(InstallWizardTest, AnArchiveThatIsMissingBeforeTheRunCanBePutBack)
 {
     Start();
     GoToOptions();
@@ -211,7 +211,7 @@ TEST_F(InstallWizardTest, AnArchiveThatIsGoneAtTheLastMomentCanBePutBack)
     EXPECT_EQ(Count<Events::InstallationFinished>(), 1);
 }
 
-TEST_F(InstallWizardTest, TheFolderIsCheckedOnceMoreBeforeTheRun)
+TEST_F(InstallWizardTest, TheFolderIsValidatedAgainBeforeTheRun)
 {
     Start();
     GoToOptions();
@@ -221,7 +221,7 @@ TEST_F(InstallWizardTest, TheFolderIsCheckedOnceMoreBeforeTheRun)
     EXPECT_TRUE(events.empty());
 }
 
-TEST_F(InstallWizardTest, AFailureIsToldAndCanBeTriedAgain)
+TEST_F(InstallWizardTest, AFailureIsShownAndTheRunCanBeRepeated)
 {
     QByteArray damaged = ReadFile(Payload("small.7z"));
     damaged.replace(5000, 100, QByteArray(100, 'x'));
@@ -247,7 +247,7 @@ TEST_F(InstallWizardTest, AFailureIsToldAndCanBeTriedAgain)
     EXPECT_EQ(wizard->Result().code, ExitCode::Failed);
 }
 
-TEST(ProgressPageTest, CountsStepsAndKeepsWhatCouldNotBeCopied)
+TEST(ProgressPageTest, ShowsThePositionAndListsFilesThatCouldNotBeCopied)
 {
     ProgressPage page(QStringList(), "Installing %1");
     page.Retranslate("en_US");
@@ -269,7 +269,7 @@ TEST(ProgressPageTest, CountsStepsAndKeepsWhatCouldNotBeCopied)
     EXPECT_EQ(result.findChild<QListWidget*>("copyErrors")->item(0)->text(), "a.dll: in use");
 }
 
-TEST_F(InstallWizardTest, TheLanguageChangesEveryTextAtOnceAndIsInstalled)
+TEST_F(InstallWizardTest, TheLanguageChangesAllTextsImmediately)
 {
     const QString german = "resources/locales/de_DE/InstallerGUI_de_DE.qm";
     QDir().mkpath(QFileInfo(german).path());

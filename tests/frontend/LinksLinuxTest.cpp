@@ -4,17 +4,17 @@
 #include "support/Machine.h"
 #include "support/SetupRun.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QFile>
+
+#include <gtest/gtest.h>
 
 using namespace Vorlan;
 
 namespace
 {
 
-// A link where runs write or delete, to a file or a folder elsewhere.
+// A link in a folder that runs change, to a file or a folder outside of it.
 struct LinkPlace
 {
     QString path;
@@ -69,14 +69,14 @@ protected:
     const QString menu = GetStandardLocation(StandardLocation::Programs) + "/Vorlan Quillax";
     const QString desktop = GetStandardLocation(StandardLocation::Desktop);
     const QString allUsers = GetStandardLocation(StandardLocation::CommonAppData) + "/vorlan";
-    QMap<QString, QString> targets; // by the link
+    QMap<QString, QString> targets; // key: path of the link
 };
 
 } // namespace
 
-TEST_F(LinksTest, WhatLiesBehindThemStays)
+TEST_F(LinksTest, TargetsArePreserved)
 {
-    // Files and folders that the installation is about to write.
+    // Files and folders that the installation writes.
     MakeLinks({{product + "/quill.exe", true}, {product + "/uninst.exe", true},
         {product + "/fonts.conf", true}, {product + "/InstallerMessage.vbs", true},
         {product + "/Vorlan Quillax.url", true}, {product + "/libs/codec.dll", true},
@@ -87,7 +87,7 @@ TEST_F(LinksTest, WhatLiesBehindThemStays)
     EXPECT_EQ(ReadFile(product + "/libs/codec.dll"), "codec");
     EXPECT_EQ(ReadFile(allUsers + "/fonts.conf"), "fonts");
 
-    // Neighbours of what the uninstallation deletes.
+    // Links next to files that the uninstallation deletes.
     for (const QString& folder : {product, product + "/libs", menu, menu + "/more", desktop,
              allUsers, Platform::LogFolder(), setup.TemporaryFolder()})
         MakeLinks({{folder + "/link", false}, {folder + "/link.txt", true}});
@@ -98,13 +98,13 @@ TEST_F(LinksTest, WhatLiesBehindThemStays)
             << removed.toStdString();
 }
 
-TEST_F(LinksTest, FoldersThatAreLinksThemselvesLoseOnlyTheLink)
+TEST_F(LinksTest, OfFoldersThatAreLinksOnlyTheLinkIsRemoved)
 {
     MakeLinks({{product, false}, {menu, false}, {allUsers, false}, {Platform::LogFolder(), false}});
     Install();
     EXPECT_EQ(ReadFile(product + "/libs/codec.dll"), "codec");
     Uninstall();
-    targets.remove(product); // it is the product's folder, wherever it lies
+    targets.remove(product); // the target is the product's folder
     ExpectThatTargetsStay();
     EXPECT_FALSE(QFileInfo(menu).isSymLink());
     EXPECT_FALSE(QFileInfo(Platform::LogFolder()).isSymLink());

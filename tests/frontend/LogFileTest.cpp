@@ -2,12 +2,12 @@
 
 #include "support/Machine.h"
 
-#include <gtest/gtest.h>
-
 #include <QDebug>
 #include <QDir>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+
+#include <gtest/gtest.h>
 
 #include <stdexcept>
 
@@ -64,7 +64,7 @@ TEST(LogFileTest, ARepeatedLineIsWrittenOnceAndCounted)
                         "  (the same line 1 times more)", ""}));
 }
 
-TEST(LogFileTest, ALaterLogGoesOnWhereTheFileEnds)
+TEST(LogFileTest, ALaterLogIsAppended)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("run.log");
@@ -96,7 +96,7 @@ TEST(LogFileTest, AFileThatCannotBeOpenedIsNamed)
     }
 }
 
-TEST(LogFileTest, TheDefaultNameHoldsProductActionAndTime)
+TEST(LogFileTest, TheDefaultNameHasProductActionAndTime)
 {
     const QDateTime time(QDate(2024, 3, 9), QTime(7, 5, 1, 42));
     EXPECT_EQ(LogFile::DefaultPath("install", time),

@@ -2,10 +2,10 @@
 
 #include "support/Machine.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QRegularExpression>
+
+#include <gtest/gtest.h>
 
 namespace
 {

@@ -37,7 +37,7 @@ TEST(ProgressReportTest, TheBarFillsFromLeftToRight)
     EXPECT_EQ(RenderBar(7.0), RenderBar(1.0));
 }
 
-TEST(ProgressReportTest, ATerminalSeesOneBarDrawnAnew)
+TEST(ProgressReportTest, OnATerminalTheBarIsOverwritten)
 {
     const std::string half = RenderBar(0.5).toStdString();
     const std::string full = RenderBar(1.0).toStdString();
@@ -46,7 +46,7 @@ TEST(ProgressReportTest, ATerminalSeesOneBarDrawnAnew)
         "Placing the files...\n\r" + half + "\r" + full + "\nFiles placed in 1.3 s\n");
 }
 
-TEST(ProgressReportTest, ElsewhereEveryTenthIsALine)
+TEST(ProgressReportTest, InAFileEveryTenthIsALine)
 {
     const std::string half = RenderBar(0.5).toStdString();
     const std::string most = RenderBar(0.61).toStdString();
@@ -54,14 +54,14 @@ TEST(ProgressReportTest, ElsewhereEveryTenthIsALine)
         Shown(false, {Progress(0.5), Progress(0.55), Progress(0.61)}), half + "\n" + most + "\n");
 }
 
-TEST(ProgressReportTest, AnotherStageMayBeginBelowTheLastOne)
+TEST(ProgressReportTest, AStageMayBeginAtALowerPosition)
 {
     const std::string bar = RenderBar(0.0).toStdString();
     EXPECT_EQ(Shown(false, {Progress(0.0), extracting, Progress(1.0), Progress(0.0)}),
         bar + "\nPlacing the files...\n" + RenderBar(1.0).toStdString() + "\n" + bar + "\n");
 }
 
-TEST(ProgressReportTest, ProblemsAndUnknownStagesAreTold)
+TEST(ProgressReportTest, ProblemsAndUnknownStagesArePrinted)
 {
     EXPECT_EQ(
         Shown(false, {Events::CopyFileError{"a.dll", "no room"},

@@ -2,12 +2,12 @@
 #include "support/Machine.h"
 #include "support/SetupRun.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+
+#include <gtest/gtest.h>
 
 namespace
 {
@@ -15,7 +15,7 @@ namespace
 const int badCommandLine = SetupRun::ShownExitCode(87);
 const int failed = SetupRun::ShownExitCode(1603);
 
-// Nothing on standard output, and one line of errors with `part` in it.
+// Expects an empty standard output, and one line with `part` on standard error.
 void ExpectOneLineWith(const SetupRun::Result& result, const QString& part)
 {
     EXPECT_EQ(result.output, "");
@@ -23,7 +23,7 @@ void ExpectOneLineWith(const SetupRun::Result& result, const QString& part)
     EXPECT_TRUE(result.errors.contains(part)) << result.errors.toStdString();
 }
 
-// The log that the error line names.
+// The path of the log in the error line.
 QString LogNamedIn(const QString& errors)
 {
     const auto match = QRegularExpression("\\(log file: (.*)\\)").match(errors);
@@ -31,7 +31,7 @@ QString LogNamedIn(const QString& errors)
     return match.captured(1);
 }
 
-// The payload "small.7z" is in this folder, less the two files that go elsewhere.
+// Expects the content of "small.7z" in this folder, except the two files that are placed elsewhere.
 void ExpectSmallPayloadIn(const QString& folder)
 {
     QMap<QString, QByteArray> expected = ReadTree(Payload("small-content"));
@@ -57,7 +57,7 @@ QList<QJsonObject> JsonLines(const QString& output)
     return objects;
 }
 
-// Names of the signals and stages, but not the progress between them.
+// Names of the signals and stages, without InstallationProgress.
 QString SignalsIn(const QList<QJsonObject>& objects)
 {
     QStringList names;
@@ -153,7 +153,7 @@ TEST_F(SilentRunTest, ADestinationThatIsAFileIsRefusedByName)
     EXPECT_TRUE(result.errors.contains(QDir::toNativeSeparators(file.fileName())));
 }
 
-TEST_F(SilentRunTest, TooLittleSpaceIsFoundBeforeTheRun)
+TEST_F(SilentRunTest, TooLittleSpaceIsDetectedBeforeTheRun)
 {
     setup.AddArchive("huge.7z");
     const auto result = setup.Start({"/S"});
@@ -162,7 +162,7 @@ TEST_F(SilentRunTest, TooLittleSpaceIsFoundBeforeTheRun)
     EXPECT_EQ(setup.DefaultProductFolder(), QString());
 }
 
-TEST_F(SilentRunTest, ForAllUsersWithoutTheRightsNothingIsBegun)
+TEST_F(SilentRunTest, ForAllUsersWithoutTheRightsNothingIsStarted)
 {
     if (QSysInfo::kernelType() == "winnt")
         GTEST_SKIP() << "a program cannot take its own rights away here";
@@ -181,7 +181,7 @@ TEST_F(SilentRunTest, ALogThatCannotBeWrittenIsOneLine)
     ExpectOneLineWith(result, "choose another with /LOG=<file>");
 }
 
-TEST_F(SilentRunTest, InstallsTheWholePayloadAndSaysNothing)
+TEST_F(SilentRunTest, InstallsTheWholePayloadAndPrintsNothing)
 {
     setup.AddArchive("small.7z");
     const auto result = setup.Start({"/S"});
@@ -196,7 +196,7 @@ TEST_F(SilentRunTest, InstallsTheWholePayloadAndSaysNothing)
         ReadFile(product + "/uninst.exe"), ReadFile(setup.SetupFolder() + "/installergui.exe"));
 }
 
-TEST_F(SilentRunTest, RelativePathsCountFromTheFolderOfTheCaller)
+TEST_F(SilentRunTest, RelativePathsAreResolvedAgainstTheCallersFolder)
 {
     setup.AddArchive("small.7z");
     const auto result = setup.Start({"/S", "/D=some where", "/LOG=run.log"});
@@ -206,7 +206,7 @@ TEST_F(SilentRunTest, RelativePathsCountFromTheFolderOfTheCaller)
     EXPECT_EQ(QDir(setup.TemporaryFolder()).entryList({"*.log"}), QStringList());
 }
 
-TEST_F(SilentRunTest, PathsLongerThanWindowsBuffersAreFilledToo)
+TEST_F(SilentRunTest, PathsLongerThanWindowsBuffersAreSupported)
 {
     setup.AddArchive("small.7z");
     const QString folder = (QString(90, QChar(0x43F)) + '/').repeated(4);
@@ -228,7 +228,7 @@ TEST_F(SilentRunTest, ProgressShowsTheStagesInOrder)
     EXPECT_TRUE(result.output.endsWith("Done\n"));
 }
 
-TEST_F(SilentRunTest, JsonHoldsEverySignalOnALine)
+TEST_F(SilentRunTest, JsonHasEverySignalOnALine)
 {
     setup.AddArchive("small.7z");
     const auto result = setup.Start({"/S", "/JSON"});
@@ -242,7 +242,7 @@ TEST_F(SilentRunTest, JsonHoldsEverySignalOnALine)
         "InstallationFinished");
 }
 
-TEST_F(SilentRunTest, JsonTellsAFailureToo)
+TEST_F(SilentRunTest, JsonReportsAFailureToo)
 {
     const auto result = setup.Start({"/S", "/JSON"});
     EXPECT_EQ(result.exitCode, failed);

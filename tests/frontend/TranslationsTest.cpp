@@ -1,12 +1,12 @@
 #include "base/ProductProfile.h"
 #include "support/Machine.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QRegularExpression>
 #include <QTranslator>
 #include <QXmlStreamReader>
+
+#include <gtest/gtest.h>
 
 #include <map>
 
@@ -21,7 +21,7 @@ struct Translation
     bool finished = true;
 };
 
-// What is translated: context, source text and disambiguation, joined by line feeds.
+// Key: context, source text and disambiguation, joined by line feeds.
 using Catalogue = std::map<QString, Translation>;
 
 void ReadMessage(QXmlStreamReader& xml, const QString& context, Catalogue& catalogue)
@@ -75,7 +75,7 @@ Catalogue ReadCatalogue(const QString& locale)
     return catalogue;
 }
 
-// Places to fill in, targets of links, and marks of keys.
+// Placeholders, targets of links, and marks of mnemonics.
 QStringList PlaceholdersOf(const QString& text)
 {
     QStringList placeholders;
@@ -121,7 +121,7 @@ TEST_P(TranslationsTest, TheCompiledFileHoldsTheSameTexts)
     }
 }
 
-// "context, source" of each text that a source of the windows asks for.
+// "context, source" of each text that a source file of the windows translates.
 QStringList TextsIn(const QString& source)
 {
     static const QRegularExpression call(

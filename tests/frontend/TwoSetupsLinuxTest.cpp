@@ -1,17 +1,17 @@
 #include "support/Machine.h"
 #include "support/SetupRun.h"
 
-#include <gtest/gtest.h>
-
 #include <QCoreApplication>
 #include <QFile>
+
+#include <gtest/gtest.h>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-// The former version's uninstaller holds the setup that goes on until the other one has ended.
-TEST(TwoSetups, OneGoesOnAndTheOtherEndsWithItsCodeTwentyTimes)
+// The previous version's uninstaller blocks the accepted setup until the other one has ended.
+TEST(TwoSetups, OneRunsAndTheOtherIsRefusedTwentyTimes)
 {
     SetupRun setup;
     setup.AddArchive("small.7z");

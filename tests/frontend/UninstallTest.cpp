@@ -18,7 +18,7 @@ class UninstallTest : public InstalledProduct
 {
 };
 
-// What an uninstallation leaves in the registry, next to the program's own values.
+// The records that an uninstallation leaves, besides the program's own values.
 const QStringList keptRecords = {
     "Vorlan\\Quillax24: BrokenCodecs = REG_SZ ",
     "Vorlan\\Quillax24: BrokenPlugins = REG_SZ ",
@@ -35,7 +35,7 @@ const QStringList keptRecords = {
 
 } // namespace
 
-TEST_F(UninstallTest, NewVersionTakesTheOldOnesPlace)
+TEST_F(UninstallTest, ANewVersionReplacesTheOldOne)
 {
     // An older version is installed and used.
     Install(QString(FRONTEND_FOLDER) + "/24.4.0", "old");
@@ -51,8 +51,8 @@ TEST_F(UninstallTest, NewVersionTakesTheOldOnesPlace)
     quill.start(product + "/quill.exe", {"wait"});
     ASSERT_TRUE(quill.waitForStarted());
 
-    // The new one is installed by this process, so that the wait for the old folder can be cut
-    // short.
+    // The new one is installed by this process, which can shorten the wait for the removal of the
+    // old folder.
     const QString setupName = "setup.exe";
     InstallerMediator mediator({setupName, false, true, QSettings::UserScope, false});
     EXPECT_TRUE(mediator.GetSettings().isNewerVersion);
@@ -82,7 +82,7 @@ TEST_F(UninstallTest, NewVersionTakesTheOldOnesPlace)
     EXPECT_EQ(Links(), allLinks);
 }
 
-TEST_F(UninstallTest, FilesRecordsAndShortcutsGoAndTheChoicesStay)
+TEST_F(UninstallTest, FilesRecordsAndShortcutsAreRemovedAndTheChoicesKept)
 {
     InstallCurrent();
     EXPECT_EQ(Files(), installedFiles);
@@ -99,7 +99,7 @@ TEST_F(UninstallTest, FilesRecordsAndShortcutsGoAndTheChoicesStay)
     EXPECT_EQ(Records(), keptRecords);
 }
 
-TEST_F(UninstallTest, OptionsOfTheInstallationTakeEffectAndGoAgain)
+TEST_F(UninstallTest, OptionsOfTheInstallationTakeEffectAndAreRemoved)
 {
     setup.AddProgram(translation);
     setup.AddArchiveContent(Product(FRONTEND_FOLDER, "new"));
@@ -120,7 +120,7 @@ TEST_F(UninstallTest, OptionsOfTheInstallationTakeEffectAndGoAgain)
             "Vorlan\\User: WEBUID = REG_SZ 1234-abcd"}));
 }
 
-TEST_F(UninstallTest, SettingsGoWhenThePersonWantsIt)
+TEST_F(UninstallTest, SettingsAreDeletedOnRequest)
 {
     InstallCurrent();
     WriteFile(Platform::LogFolder() + "/old.log", "log");
@@ -130,7 +130,7 @@ TEST_F(UninstallTest, SettingsGoWhenThePersonWantsIt)
     EXPECT_TRUE(QDir(product).exists());
 }
 
-TEST_F(UninstallTest, WhatCannotGoStaysAndTheRestGoes)
+TEST_F(UninstallTest, FilesThatCannotBeDeletedDoNotStopTheRemoval)
 {
     InstallCurrent();
     const QString readOnly = product + "/read-only.txt";
@@ -152,7 +152,7 @@ TEST_F(UninstallTest, WhatCannotGoStaysAndTheRestGoes)
     EXPECT_EQ(Records(), QStringList());
 }
 
-TEST_F(UninstallTest, WithoutTemporaryFolderNothingIsHalfDoneUnsaid)
+TEST_F(UninstallTest, WithoutTemporaryFolderAFullRemovalIsRefused)
 {
     InstallCurrent();
     ASSERT_TRUE(QDir(setup.TemporaryFolder()).removeRecursively());
@@ -168,7 +168,7 @@ TEST_F(UninstallTest, WithoutTemporaryFolderNothingIsHalfDoneUnsaid)
     EXPECT_EQ(ListTree(product), LeftFiles());
 }
 
-TEST_F(UninstallTest, FullRemovalTakesTheFolderAndNothingBehindItsLinks)
+TEST_F(UninstallTest, FullRemovalDeletesTheFolderAndNoTargetsOfLinks)
 {
     InstallCurrent();
     WriteFile(machine.Path("outside/marker.txt"), "stays");
@@ -185,7 +185,7 @@ TEST_F(UninstallTest, FullRemovalTakesTheFolderAndNothingBehindItsLinks)
     EXPECT_EQ(ReadFile(QFileInfo(product).path() + "/neighbour.txt"), "stays");
 }
 
-TEST_F(UninstallTest, DependentProgramsForbidIt)
+TEST_F(UninstallTest, IsRefusedBecauseOfDependentPrograms)
 {
     InstallCurrent();
     RegistrySettings plain(QSettings::UserScope, "Vorlan", "Foo1");
@@ -205,7 +205,7 @@ TEST_F(UninstallTest, DependentProgramsForbidIt)
     EXPECT_EQ(Links(), allLinks);
 }
 
-TEST_F(UninstallTest, FolderThatIsNotTheRegisteredOneIsLeftAlone)
+TEST_F(UninstallTest, AFolderThatIsNotRegisteredIsNotChanged)
 {
     InstallCurrent();
     const QString copy = machine.Path("copy");
@@ -219,7 +219,7 @@ TEST_F(UninstallTest, FolderThatIsNotTheRegisteredOneIsLeftAlone)
     EXPECT_EQ(elsewhere.exitCode, SetupRun::ShownExitCode(1603));
     EXPECT_TRUE(elsewhere.errors.contains("nothing was deleted")) << elsewhere.errors.toStdString();
 
-    // Without any registration only what looks like the product is taken for it.
+    // Without a registration, the folder must have the main program or the mark of a removal.
     RegistrySettings(QSettings::UserScope, "Vorlan", "Quillax24").remove("Path");
     EXPECT_EQ(setup.StartFrom(copy, "uninst.exe", {"/S"}).exitCode, SetupRun::ShownExitCode(1603));
     EXPECT_EQ(ListTree(copy).filter("thesis.txt").size(), 1);
@@ -227,10 +227,10 @@ TEST_F(UninstallTest, FolderThatIsNotTheRegisteredOneIsLeftAlone)
     EXPECT_EQ(ListTree(product), LeftFiles());
 }
 
-TEST_F(UninstallTest, RemovalThatWasCutOffCanBeRunAgain)
+TEST_F(UninstallTest, AnInterruptedRemovalCanBeRepeated)
 {
     InstallCurrent();
-    // As a process that is killed leaves it: the mark, some files gone, the records gone.
+    // The state after a killed process: the mark exists, some files and the records are removed.
     QDir().mkpath(product + "/uninst.unfinished");
     QFile::remove(product + "/quill.exe");
     RegistrySettings(QSettings::UserScope, "Vorlan", "Quillax24").remove("Path");
@@ -239,7 +239,7 @@ TEST_F(UninstallTest, RemovalThatWasCutOffCanBeRunAgain)
     EXPECT_EQ(Records(), keptRecords);
 }
 
-TEST_F(UninstallTest, SecondSetupWaitsForNobody)
+TEST_F(UninstallTest, ASecondSetupIsRefused)
 {
     InstallCurrent();
     const FrontEnd::SetupLock running;

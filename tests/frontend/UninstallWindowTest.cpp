@@ -6,13 +6,13 @@ using namespace Vorlan;
 namespace
 {
 
-// The program that presses the buttons lies in the product's folder in place of the uninstaller.
+// The program that clicks the buttons is in the product's folder instead of the uninstaller.
 class UninstallWindowTest : public InstalledProduct
 {
 protected:
     UninstallWindowTest() { setup.AddProgram("uninstall-by-buttons.exe"); }
 
-    // What it sees, a line each, in the product's folder or in another one.
+    // The pages and boxes that it reports, in the product's folder or in another one.
     QStringList PressButtons(const QString& folder, const QStringList& words = {})
     {
         EXPECT_TRUE(QFile::copy(setup.SetupFolder() + "/uninstall-by-buttons.exe",
@@ -23,7 +23,7 @@ protected:
     }
 };
 
-TEST_F(UninstallWindowTest, TheButtonsLeadThroughToTheEnd)
+TEST_F(UninstallWindowTest, TheButtonsLeadToTheLastPage)
 {
     InstallCurrent();
     EXPECT_EQ(PressButtons(product),
@@ -32,7 +32,7 @@ TEST_F(UninstallWindowTest, TheButtonsLeadThroughToTheEnd)
     EXPECT_FALSE(QFile::exists(product + "/quill.exe"));
 }
 
-TEST_F(UninstallWindowTest, DependentProgramsAreToldInABoxAndThePersonCanLeave)
+TEST_F(UninstallWindowTest, DependentProgramsAreShownInABoxAndTheUserCanCancel)
 {
     InstallCurrent();
     RegistrySettings(QSettings::UserScope, "Vorlan", "Foo1").setValue("ParentProductId", "quillax");
@@ -43,7 +43,7 @@ TEST_F(UninstallWindowTest, DependentProgramsAreToldInABoxAndThePersonCanLeave)
     EXPECT_TRUE(QFile::exists(product + "/quill.exe"));
 }
 
-TEST_F(UninstallWindowTest, AnotherFolderIsDeletedOnlyWhereThePersonSaysYes)
+TEST_F(UninstallWindowTest, AnotherFolderIsDeletedOnlyAfterConfirmation)
 {
     InstallCurrent();
     const QString copy = machine.Path("copy");

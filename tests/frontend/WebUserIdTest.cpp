@@ -9,12 +9,12 @@
 
 using namespace Vorlan;
 
-TEST(WebUserIdTest, IsRequestedWhereTheCommandLineGivesNone)
+TEST(WebUserIdTest, IsRequestedIfTheCommandLineHasNone)
 {
     const QString token = "good-" + QUuid::createUuid().toString(QUuid::WithoutBraces);
     const Environment service(
         "VORLAN_WEBUID_URL", TestServers::Address("http", "/identity/" + token));
-    SetupRun setup; // its programs see the environment as it is now
+    SetupRun setup; // copies the environment for its programs
     setup.AddArchive("small.7z");
     const auto result = setup.Start({"/S", "/WEBUID=no id"});
     EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();

@@ -1,4 +1,4 @@
-// What every page must keep to in every language; fonts are those of this system.
+// The layout of every page in every language, with the fonts of this system.
 #include "base/ProductProfile.h"
 #include "support/ArchiveBesideProgram.h"
 #include "support/Machine.h"
@@ -13,8 +13,6 @@
 #include "wizard/Texts.h"
 #include "wizard/UninstallWizard.h"
 
-#include <gtest/gtest.h>
-
 #include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
@@ -24,6 +22,8 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QRegularExpression>
+
+#include <gtest/gtest.h>
 
 using namespace Vorlan;
 using namespace Vorlan::FrontEnd;
@@ -60,7 +60,7 @@ void ExpectIsInside(const QWidget& widget, const QWidget& window)
     EXPECT_TRUE(window.rect().contains(place)) << Describe(widget) << place.right();
 }
 
-// Whoever cannot see it must be told what it is.
+// The name that screen readers use.
 void ExpectHasName(QWidget& widget)
 {
     QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&widget);
@@ -101,8 +101,8 @@ class WizardLayoutTest : public testing::TestWithParam<std::string>
 protected:
     WizardLayoutTest()
     {
-        DressApplication(*qApp);
-        QDir::setCurrent(FRONTEND_FOLDER); // where the translations are
+        ApplyStyle(*qApp);
+        QDir::setCurrent(FRONTEND_FOLDER); // has the translations
         options.language = QString::fromStdString(GetParam());
         options.folder = machine.Path("target");
     }
@@ -112,7 +112,7 @@ protected:
     CommandLine options;
 };
 
-TEST_P(WizardLayoutTest, EveryPageOfAnInstallationIsWholeNamedAndReachable)
+TEST_P(WizardLayoutTest, EveryPageOfAnInstallationFitsAndIsAccessible)
 {
     const ArchiveBesideProgram archive(Payload("small.7z"));
     InstallWizard wizard(options, [](const RunEvent&) {});
@@ -135,7 +135,7 @@ TEST_P(WizardLayoutTest, EveryPageOfAnInstallationIsWholeNamedAndReachable)
     CheckWindow(wizard.Window());
 }
 
-TEST_P(WizardLayoutTest, AFailureAndAListOfFilesFitAsWell)
+TEST_P(WizardLayoutTest, AFailureAndAListOfFilesFit)
 {
     WizardWindow window;
     const auto translator = std::make_unique<UninstallWizard>(

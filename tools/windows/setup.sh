@@ -1,7 +1,7 @@
-# Shared by the tools that make a setup for Windows: sourced, never run, after tools/support.sh.
+# Functions of the tools that make a setup for Windows; to be sourced after tools/support.sh.
 
-# FillPayload <build's program folder> <payload>: the real programs with their libraries, some 45 MB,
-# and names that are easily got wrong.
+# FillPayload <build's program folder> <payload>: copies the programs with their libraries, at least
+# 45 MB, and adds an empty file, an empty folder and names outside ASCII.
 FillPayload()
 {
     local bin=$1 payload=$2 size
@@ -16,8 +16,7 @@ FillPayload()
     ((size >= 45000000)) || Fail "the payload holds only $size bytes: 45 MB are needed"
 }
 
-# FillSetup <build's program folder> <setup>: what lies beside the setup program: itself, what it
-# loads and what it starts.
+# FillSetup <build's program folder> <setup>: copies the setup program with its run-time dependencies.
 FillSetup()
 {
     mkdir -p "$2"

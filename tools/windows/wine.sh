@@ -1,4 +1,4 @@
-# Shared by the tools that run Wine: sourced, never run, after tools/support.sh.
+# Functions of the tools that run Wine; to be sourced after tools/support.sh.
 
 # Sets $wine and $server to Wine's two programs.
 FindWine()
