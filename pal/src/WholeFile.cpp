@@ -11,6 +11,7 @@
 #include <filesystem>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Pal
@@ -67,6 +68,18 @@ DWORD WriteNewFile(const std::string& path, const std::string& bytes)
     return file.IsOpen() ? WriteAll(file.Get(), bytes) : ErrorForPath(errno, path);
 }
 
+// Exchanges the names where the file system can: when a rename replaces a file, ext4 first writes
+// the new data to the disk.
+DWORD Rename(const std::string& temporary, const std::string& path)
+{
+    struct stat status = {};
+    const bool replaces = lstat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+    if (replaces &&
+        renameat2(AT_FDCWD, temporary.c_str(), AT_FDCWD, path.c_str(), RENAME_EXCHANGE) == 0)
+        return ERROR_SUCCESS;
+    return rename(temporary.c_str(), path.c_str()) == 0 ? ERROR_SUCCESS : ErrorForPath(errno, path);
+}
+
 } // namespace
 
 DWORD WriteWholeFile(const std::string& path, const std::string& bytes)
@@ -74,29 +87,31 @@ DWORD WriteWholeFile(const std::string& path, const std::string& bytes)
     RemoveLeftovers(path);
     const std::string temporary = TemporaryName(path);
     DWORD error = WriteNewFile(temporary, bytes);
-    if (error == ERROR_SUCCESS && rename(temporary.c_str(), path.c_str()) != 0)
-        error = ErrorForPath(errno, path);
-    if (error != ERROR_SUCCESS)
-        unlink(temporary.c_str());
+    if (error == ERROR_SUCCESS)
+        error = Rename(temporary, path);
+    unlink(temporary.c_str());
     return error;
 }
 
-DWORD ReadWholeFile(const std::string& path, std::string& bytes)
+DWORD ReadOpenFile(int descriptor, std::string& bytes)
 {
-    const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    if (!file.IsOpen())
-        return ErrorForPath(errno, path);
     bytes.clear();
-    char buffer[4096];
+    char buffer[16384];
     for (;;)
     {
-        const ssize_t got = read(file.Get(), buffer, sizeof(buffer));
+        const ssize_t got = read(descriptor, buffer, sizeof(buffer));
         if (got == 0)
             return ERROR_SUCCESS;
         if (got < 0 && errno != EINTR)
             return ErrorFromErrno(errno);
         bytes.append(buffer, got < 0 ? 0 : static_cast<size_t>(got));
     }
+}
+
+DWORD ReadWholeFile(const std::string& path, std::string& bytes)
+{
+    const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    return file.IsOpen() ? ReadOpenFile(file.Get(), bytes) : ErrorForPath(errno, path);
 }
 
 } // namespace Pal

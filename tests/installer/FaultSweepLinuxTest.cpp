@@ -226,12 +226,12 @@ INSTANTIATE_TEST_SUITE_P(Sweeps, FaultSweepTest,
     testing::Values(Sweep{"CallFailsInFirstInstallation", "call", "install", false, 29},
         Sweep{"CallFailsInReinstallation", "call", "install", true, 29},
         Sweep{"CallFailsInUninstallation", "call", "uninstall", true, 29},
-        Sweep{"FirstInstallationIsKilled", "kill", "install", false, 11},
+        Sweep{"FirstInstallationIsKilled", "kill", "install", false, 29},
         Sweep{"ReinstallationIsKilled", "kill", "install", true, 11},
-        Sweep{"UninstallationIsKilled", "kill", "uninstall", true, 11},
-        Sweep{"DiskIsFullInFirstInstallation", "full", "install", false, 11},
+        Sweep{"UninstallationIsKilled", "kill", "uninstall", true, 29},
+        Sweep{"DiskIsFullInFirstInstallation", "full", "install", false, 29},
         Sweep{"DiskIsFullInReinstallation", "full", "install", true, 11},
-        Sweep{"DiskIsFullInUninstallation", "full", "uninstall", true, 11}),
+        Sweep{"DiskIsFullInUninstallation", "full", "uninstall", true, 29}),
     [](const auto& sweep) { return std::string(sweep.param.name); });
 
 } // namespace

@@ -2,30 +2,20 @@
 #pragma once
 
 #include <cstdio>
-#include <cstdlib>
 
 #include <sys/wait.h>
 #include <unistd.h>
 
-enum class Ending
-{
-    Abrupt, // as after kill -9: nothing is tidied
-    Normal
-};
-
 // Runs the function in a copy of this process. It must not use GoogleTest's assertions: it returns
 // how many things were wrong, which becomes the exit status.
 template <typename Function>
-pid_t StartChild(Function function, Ending ending = Ending::Abrupt)
+pid_t StartChild(Function function)
 {
     std::fflush(nullptr);
     const pid_t child = fork();
     if (child != 0)
         return child;
-    const int wrong = function();
-    if (ending == Ending::Abrupt)
-        _exit(wrong);
-    std::exit(wrong);
+    _exit(function());
 }
 
 // The exit status, or -1 for a child that did not end by itself.

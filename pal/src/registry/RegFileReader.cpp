@@ -1,6 +1,9 @@
 #include "registry/RegFileReader.h"
 
+#include "registry/RegFileWriter.h"
 #include "registry/ValueData.h"
+
+#include <optional>
 
 namespace Pal
 {
@@ -89,15 +92,15 @@ std::optional<std::u16string> TakeQuoted(std::u16string_view& text)
     return TakePrefix(text, u"\"") ? std::optional(content) : std::nullopt;
 }
 
-class RecordParser
+class FileParser
 {
 public:
-    RecordParser(std::u16string_view record, const std::shared_ptr<KeyNode>& treeRoot)
-        : rest(record), root(treeRoot)
+    FileParser(std::u16string_view text, const std::shared_ptr<KeyNode>& treeRoot)
+        : rest(text), root(treeRoot)
     {
     }
 
-    bool Apply()
+    bool Parse()
     {
         while (!rest.empty())
         {
@@ -225,6 +228,8 @@ private:
             text = TakeLine(rest);
             while (TakePrefix(text, u" "))
                 continue;
+            if (text.empty())
+                return false;
         }
         return ParseHexBytes(text, value);
     }
@@ -250,19 +255,9 @@ private:
 
 } // namespace
 
-std::optional<size_t> ApplyRecords(std::u16string_view text, const std::shared_ptr<KeyNode>& root)
+bool ReadRegFile(std::u16string_view text, const std::shared_ptr<KeyNode>& root)
 {
-    constexpr std::u16string_view recordEnd = u"\r\n\r\n";
-    size_t start = 0;
-    while (true)
-    {
-        const size_t end = text.find(recordEnd, start);
-        if (end == text.npos)
-            return start;
-        if (!RecordParser(text.substr(start, end - start), root).Apply())
-            return std::nullopt;
-        start = end + recordEnd.size();
-    }
+    return TakePrefix(text, regFileHeader) && FileParser(text, root).Parse();
 }
 
 } // namespace Pal

@@ -13,14 +13,6 @@ namespace
 constexpr std::u16string_view lineEnd = u"\r\n";
 constexpr size_t longestHexLine = 77;
 
-std::u16string JoinPath(const std::u16string& rootName, const KeyPath& path)
-{
-    std::u16string joined = rootName;
-    for (const std::u16string& name : path)
-        joined.append(u"\\").append(name);
-    return joined;
-}
-
 void AppendSectionLine(std::u16string& text, const std::u16string& path)
 {
     text.append(u"[").append(path).append(u"]").append(lineEnd);
@@ -115,38 +107,6 @@ void AppendKey(std::u16string& text, const KeyNode& key, const std::u16string& p
 }
 
 } // namespace
-
-std::u16string KeyRecord(const std::u16string& rootName, const KeyPath& path)
-{
-    std::u16string record;
-    AppendSectionLine(record, JoinPath(rootName, path));
-    return record.append(lineEnd);
-}
-
-std::u16string RemovedKeyRecord(const std::u16string& rootName, const KeyPath& path)
-{
-    std::u16string record;
-    AppendSectionLine(record, u"-" + JoinPath(rootName, path));
-    return record.append(lineEnd);
-}
-
-std::u16string ValueRecord(
-    const std::u16string& rootName, const KeyPath& path, const RegistryValue& value)
-{
-    std::u16string record;
-    AppendSectionLine(record, JoinPath(rootName, path));
-    AppendValueLine(record, value);
-    return record.append(lineEnd);
-}
-
-std::u16string RemovedValueRecord(
-    const std::u16string& rootName, const KeyPath& path, const std::u16string& valueName)
-{
-    std::u16string record;
-    AppendSectionLine(record, JoinPath(rootName, path));
-    AppendValueName(record, valueName);
-    return record.append(u"-").append(lineEnd).append(lineEnd);
-}
 
 std::u16string WholeRegFile(const KeyNode& root)
 {

@@ -1,16 +1,14 @@
 #include "registry/RegistryFile.h"
 
 #include "ErrorMapping.h"
+#include "WholeFile.h"
 #include "registry/RegFileReader.h"
 #include "registry/RegFileWriter.h"
 #include "registry/ValueData.h"
 
-#include <algorithm>
 #include <cerrno>
 
 #include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace Pal
 {
@@ -20,9 +18,6 @@ namespace
 
 namespace fs = std::filesystem;
 
-constexpr off_t tolerableJournal = 64 * 1024;
-
-// What every Windows has and nobody makes.
 const KeyPath& RunKey()
 {
     static const auto& path =
@@ -30,52 +25,15 @@ const KeyPath& RunKey()
     return path;
 }
 
-Descriptor OpenFileAt(const fs::path& path, int flags)
+Descriptor OpenForReading(const fs::path& path)
 {
-    return Descriptor(open(path.c_str(), flags | O_CLOEXEC, 0666));
-}
-
-DWORD WriteOnce(int descriptor, const std::string& bytes)
-{
-    ssize_t written = 0;
-    do
-        written = write(descriptor, bytes.data(), bytes.size());
-    while (written < 0 && errno == EINTR);
-    if (written < 0)
-        return ErrorFromErrno(errno);
-    return static_cast<size_t>(written) == bytes.size() ? ERROR_SUCCESS : ERROR_DISK_FULL;
-}
-
-DWORD ReadFrom(int descriptor, off_t offset, std::string& bytes)
-{
-    struct stat status = {};
-    if (fstat(descriptor, &status) != 0)
-        return ErrorFromErrno(errno);
-    bytes.resize(static_cast<size_t>(std::max<off_t>(status.st_size - offset, 0)));
-    size_t done = 0;
-    while (done < bytes.size())
-    {
-        const ssize_t got = pread(descriptor, bytes.data() + done, bytes.size() - done,
-            offset + static_cast<off_t>(done));
-        if (got < 0 && errno != EINTR)
-            return ErrorFromErrno(errno);
-        if (got == 0)
-            break;
-        done += got < 0 ? 0 : static_cast<size_t>(got);
-    }
-    bytes.resize(done);
-    return ERROR_SUCCESS;
-}
-
-off_t DiskSize(size_t characters)
-{
-    return static_cast<off_t>(characters * sizeof(char16_t));
+    return Descriptor(open(path.c_str(), O_RDONLY | O_CLOEXEC));
 }
 
 } // namespace
 
 RegistryFile::RegistryFile(fs::path filePath, std::u16string nameOfRoot)
-    : path(std::move(filePath)), rootName(std::move(nameOfRoot)), compactAbove(tolerableJournal)
+    : path(std::move(filePath)), rootName(std::move(nameOfRoot))
 {
     StartFresh();
 }
@@ -86,70 +44,47 @@ void RegistryFile::StartFresh()
     MakeKey(root, RunKey());
     ++generation;
     file = Descriptor();
-    seenSize = 0;
-    completeSize = 0;
 }
 
 DWORD RegistryFile::Refresh()
 {
     struct stat status = {};
-    if (stat(path.c_str(), &status) != 0)
-    {
-        if (errno != ENOENT)
-            return ErrorFromErrno(errno);
-        if (file.IsOpen())
-            StartFresh();
-        return ERROR_SUCCESS;
-    }
-    if (!IsOwnFile(status) || status.st_size < completeSize)
-        return ReadWhole();
-    if (status.st_size == completeSize)
-        return ERROR_SUCCESS;
-    return ReadAppended() == ERROR_SUCCESS ? ERROR_SUCCESS : ReadWhole();
-}
-
-bool RegistryFile::IsOwnFile(const struct stat& status) const
-{
-    struct stat own = {};
-    return file.IsOpen() && fstat(file.Get(), &own) == 0 && own.st_dev == status.st_dev &&
-           own.st_ino == status.st_ino;
-}
-
-DWORD RegistryFile::ReadWhole()
-{
-    Descriptor opened = OpenFileAt(path, O_RDONLY);
-    std::string bytes;
-    const DWORD error = opened.IsOpen() ? ReadFrom(opened.Get(), 0, bytes) : ErrorFromErrno(errno);
-    if (error != ERROR_SUCCESS)
-        return error;
-    const std::u16string text = CharactersOf(bytes);
-    const std::u16string_view content = text;
-    const auto readRoot = std::make_shared<KeyNode>(rootName);
-    if (content.substr(0, regFileHeader.size()) != regFileHeader)
-        return ERROR_BADDB;
-    const auto applied = ApplyRecords(content.substr(regFileHeader.size()), readRoot);
-    if (!applied)
-        return ERROR_BADDB;
-    file = std::move(opened);
-    root = readRoot;
-    ++generation;
-    seenSize = static_cast<off_t>(bytes.size());
-    completeSize = DiskSize(regFileHeader.size() + *applied);
-    compactAbove = tolerableJournal;
+    if (stat(path.c_str(), &status) == 0)
+        return IsKnown(status) ? ERROR_SUCCESS : Read();
+    if (errno != ENOENT)
+        return ErrorFromErrno(errno);
+    if (file.IsOpen())
+        StartFresh();
     return ERROR_SUCCESS;
 }
 
-DWORD RegistryFile::ReadAppended()
+bool RegistryFile::IsKnown(const struct stat& status) const
 {
+    return file.IsOpen() && known.st_dev == status.st_dev && known.st_ino == status.st_ino &&
+           known.st_size == status.st_size && known.st_mtim.tv_sec == status.st_mtim.tv_sec &&
+           known.st_mtim.tv_nsec == status.st_mtim.tv_nsec;
+}
+
+void RegistryFile::Keep(Descriptor opened)
+{
+    file = std::move(opened);
+    if (fstat(file.Get(), &known) != 0)
+        known = {};
+}
+
+DWORD RegistryFile::Read()
+{
+    Descriptor opened = OpenForReading(path);
     std::string bytes;
-    const DWORD error = ReadFrom(file.Get(), completeSize, bytes);
+    const DWORD error = opened.IsOpen() ? ReadOpenFile(opened.Get(), bytes) : ErrorFromErrno(errno);
     if (error != ERROR_SUCCESS)
         return error;
-    const auto applied = ApplyRecords(CharactersOf(bytes), root);
-    if (!applied)
+    const auto readRoot = std::make_shared<KeyNode>(rootName);
+    if (!ReadRegFile(CharactersOf(bytes), readRoot))
         return ERROR_BADDB;
-    seenSize = completeSize + static_cast<off_t>(bytes.size());
-    completeSize += DiskSize(*applied);
+    root = readRoot;
+    ++generation;
+    Keep(std::move(opened));
     return ERROR_SUCCESS;
 }
 
@@ -170,79 +105,14 @@ DWORD RegistryFile::SetAside()
     }
 }
 
-DWORD RegistryFile::Append(const std::u16string& record)
+DWORD RegistryFile::Write()
 {
-    if (!file.IsOpen())
-    {
-        const DWORD error = Replace(DiskBytes(WholeRegFile(*root)));
-        if (error != ERROR_SUCCESS)
-            return error;
-    }
-    const Descriptor writer = OpenFileAt(path, O_WRONLY | O_APPEND);
-    if (!writer.IsOpen())
-        return ErrorFromErrno(errno);
-    if (seenSize > completeSize && ftruncate(writer.Get(), completeSize) != 0)
-        return ErrorFromErrno(errno);
-    seenSize = completeSize;
-    return WriteRecord(writer.Get(), DiskBytes(record));
-}
-
-DWORD RegistryFile::WriteRecord(int descriptor, const std::string& bytes)
-{
-    const DWORD error = WriteOnce(descriptor, bytes);
+    const DWORD error = WriteWholeFile(path, DiskBytes(WholeRegFile(*root)));
     if (error == ERROR_SUCCESS)
-    {
-        completeSize += static_cast<off_t>(bytes.size());
-        seenSize = completeSize;
-        appended = true;
-    }
-    else if (ftruncate(descriptor, completeSize) != 0)
-    {
-        // The cut-off record stays until the next change: it is not complete, so nobody applies it.
-        ReportFailure("repaired");
-    }
+        Keep(OpenForReading(path));
+    else
+        StartFresh();
     return error;
-}
-
-// The new file is complete before it takes the name.
-DWORD RegistryFile::Replace(const std::string& content)
-{
-    const fs::path temporary = path.string() + ".tmp";
-    Descriptor written = OpenFileAt(temporary, O_RDWR | O_CREAT | O_TRUNC);
-    if (!written.IsOpen())
-        return ErrorFromErrno(errno);
-    const DWORD error = WriteOnce(written.Get(), content);
-    if (error != ERROR_SUCCESS)
-    {
-        unlink(temporary.c_str());
-        return error;
-    }
-    if (rename(temporary.c_str(), path.c_str()) != 0)
-        return ErrorFromErrno(errno);
-    file = std::move(written);
-    completeSize = static_cast<off_t>(content.size());
-    seenSize = completeSize;
-    return ERROR_SUCCESS;
-}
-
-void RegistryFile::CompactIfLarge()
-{
-    if (completeSize <= compactAbove)
-        return;
-    const std::string content = DiskBytes(WholeRegFile(*root));
-    compactAbove = 2 * static_cast<off_t>(content.size()) + tolerableJournal;
-    if (completeSize > compactAbove && Replace(content) != ERROR_SUCCESS)
-        ReportFailure("compacted");
-}
-
-void RegistryFile::CompactIfAppended()
-{
-    if (!appended || !file.IsOpen())
-        return;
-    const std::string content = DiskBytes(WholeRegFile(*root));
-    if (completeSize > static_cast<off_t>(content.size()) && Replace(content) != ERROR_SUCCESS)
-        ReportFailure("compacted");
-    appended = false;
 }
 
 void RegistryFile::ReportFailure(const char* access)

@@ -1,10 +1,6 @@
 #include "registry/RegistrySession.h"
 
-#include "registry/RegFileWriter.h"
-
 #include <QtDebug>
-
-#include <cstdlib>
 
 namespace Pal
 {
@@ -18,32 +14,13 @@ void PrintReports(const std::vector<std::string>& reports)
         qWarning("%s", report.c_str());
 }
 
-// While another thread is inside a call, the files are left as they are.
-void CompactAtExit()
-{
-    std::unique_lock lock(RegistryMutex(), std::try_to_lock);
-    if (!lock.owns_lock())
-        return;
-    const std::shared_ptr<RegistryStore> store = CurrentStore();
-    store->CompactAtExit();
-    lock.unlock();
-    PrintReports(store->File(RegistryRoot::CurrentUser).TakeReports());
-    PrintReports(store->File(RegistryRoot::LocalMachine).TakeReports());
-}
-
-void CompactWhenTheProcessEnds()
-{
-    static const int registered = std::atexit(CompactAtExit);
-    Q_UNUSED(registered)
-}
-
-} // namespace
-
 std::mutex& RegistryMutex()
 {
     static std::mutex& mutex = *new std::mutex; // never destroyed: used during exit
     return mutex;
 }
+
+} // namespace
 
 RegistrySession::RegistrySession(HKEY handle, REGSAM rights, Access access)
     : processLock(RegistryMutex()), key(FindOpenKey(handle)), error(Open(rights, access))
@@ -74,40 +51,37 @@ LSTATUS RegistrySession::Open(REGSAM rights, Access access)
 
 LSTATUS RegistrySession::SetValue(RegistryValue value)
 {
-    const auto record = ValueRecord(RootName(Location().root), Location().path, value);
-    return Change(record, [&] { node->SetValue(std::move(value)); });
+    const RegistryValue* former = node->Value(value.name);
+    if (former && former->type == value.type && former->data == value.data)
+        return ERROR_SUCCESS;
+    node->SetValue(std::move(value));
+    return Save();
 }
 
 LSTATUS RegistrySession::RemoveValue(const std::u16string& name)
 {
-    const auto record = RemovedValueRecord(RootName(Location().root), Location().path, name);
-    return Change(record, [&] { node->RemoveValue(name); });
+    node->RemoveValue(name);
+    return Save();
 }
 
 LSTATUS RegistrySession::MakeKeyAt(const KeyPath& path)
 {
-    return Change(KeyRecord(RootName(Location().root), path), [&] { MakeKey(Root(), path); });
+    MakeKey(Root(), path);
+    return Save();
 }
 
 LSTATUS RegistrySession::RemoveKeyAt(const KeyPath& path)
 {
-    return Change(
-        RemovedKeyRecord(RootName(Location().root), path), [&] { RemoveKey(Root(), path); });
+    RemoveKey(Root(), path);
+    return Save();
 }
 
-LSTATUS RegistrySession::Change(
-    const std::u16string& record, const std::function<void()>& changeTree)
+LSTATUS RegistrySession::Save()
 {
-    CompactWhenTheProcessEnds();
-    const DWORD appended = File().Append(record);
-    if (appended != ERROR_SUCCESS)
-    {
+    const DWORD written = File().Write();
+    if (written != ERROR_SUCCESS)
         File().ReportFailure("written");
-        return static_cast<LSTATUS>(appended);
-    }
-    changeTree();
-    File().CompactIfLarge();
-    return ERROR_SUCCESS;
+    return static_cast<LSTATUS>(written);
 }
 
 } // namespace Pal

@@ -3,13 +3,12 @@
 
 #include "registry/OpenKeys.h"
 
-#include <functional>
 #include <mutex>
 
 namespace Pal
 {
 
-// From construction to destruction the thread holds the registry's mutex within this process and
+// From construction to destruction the thread holds a mutex within this process and
 // the file lock against other processes. Warnings are printed after both are released, so a message
 // handler may use the registry.
 class RegistrySession
@@ -28,7 +27,7 @@ public:
     KeyNode& Key() const { return *node; }
     const std::shared_ptr<KeyNode>& Root() const { return File().Root(); }
 
-    // Changes of the key itself, on disk and then in the tree.
+    // Changes of the key itself, in the tree and on disk; neither is changed after a failure.
     LSTATUS SetValue(RegistryValue value);
     LSTATUS RemoveValue(const std::u16string& name);
 
@@ -39,7 +38,7 @@ public:
 private:
     LSTATUS Open(REGSAM rights, Access access);
     RegistryFile& File() const { return Location().store->File(Location().root); }
-    LSTATUS Change(const std::u16string& record, const std::function<void()>& changeTree);
+    LSTATUS Save();
 
     std::unique_lock<std::mutex> processLock;
     std::shared_ptr<OpenKey> key;
@@ -47,8 +46,5 @@ private:
     Descriptor fileLock;
     LSTATUS error;
 };
-
-// The mutex that a session holds, for calls that need no file.
-std::mutex& RegistryMutex();
 
 } // namespace Pal

@@ -77,18 +77,6 @@ DWORD RegistryStore::Enter(RegistryRoot root, Access access, Descriptor& lock)
     return error;
 }
 
-void RegistryStore::CompactAtExit()
-{
-    const Descriptor lock = OpenLockFile(LockPath(machineRoot), 0);
-    if (!lock.IsOpen() || LockFile(lock, LOCK_EX) != ERROR_SUCCESS)
-        return; // the machine is gone, or the files stay as they are: longer, but right
-    for (RegistryFile& file : files)
-    {
-        if (file.Refresh() == ERROR_SUCCESS)
-            file.CompactIfAppended();
-    }
-}
-
 std::shared_ptr<RegistryStore> CurrentStore()
 {
     static auto& current = *new std::shared_ptr<RegistryStore>; // never destroyed: used during exit

@@ -33,9 +33,6 @@ public:
     // its file. The lock is held until its descriptor is closed.
     DWORD Enter(RegistryRoot root, Access access, Descriptor& lock);
 
-    // Tidies the files that this process has appended to. Nothing is made that is not there.
-    void CompactAtExit();
-
 private:
     DWORD OpenLock(Descriptor& lock) const;
 

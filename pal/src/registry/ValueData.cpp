@@ -51,14 +51,7 @@ DWORD DwordOf(const std::string& data)
 
 std::string DiskBytes(std::u16string_view text)
 {
-    std::string bytes;
-    bytes.reserve(text.size() * sizeof(char16_t));
-    for (const char16_t unit : text)
-    {
-        bytes.push_back(static_cast<char>(unit & 0xFF));
-        bytes.push_back(static_cast<char>(unit >> 8));
-    }
-    return bytes;
+    return std::string(reinterpret_cast<const char*>(text.data()), text.size() * sizeof(char16_t));
 }
 
 std::u16string CharactersOf(std::string_view diskBytes)

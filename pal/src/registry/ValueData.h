@@ -23,7 +23,7 @@ bool IsPlainText(const std::string& data, std::u16string& content);
 
 DWORD DwordOf(const std::string& data);
 
-// Characters as UTF-16LE bytes.
+// Characters as UTF-16LE bytes, the order of the processors that this layer runs on.
 std::string DiskBytes(std::u16string_view text);
 
 // UTF-16LE bytes as characters; an odd byte at the end is dropped.
