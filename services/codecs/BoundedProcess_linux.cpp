@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <optional>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -91,6 +92,12 @@ private:
     posix_spawnattr_t attributes{};
 };
 
+int MillisecondsUntil(Clock::time_point end)
+{
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
+    return static_cast<int>(std::clamp<decltype(left)>(left, 0, 1 << 30));
+}
+
 // A started program. Its process id is not reused before it is reaped, so the group can be ended
 // after the program itself has ended.
 class Child
@@ -99,25 +106,28 @@ public:
     explicit Child(pid_t started) : id(started), pidFd(pidfd_open(started, 0)) {}
     Child(const Child&) = delete;
     Child& operator=(const Child&) = delete;
-    ~Child() { EndGroup(); }
+    ~Child() { EndGroup(std::chrono::seconds(1)); }
 
     int PidFd() const { return pidFd.Get(); }
 
-    // Ends the whole group; the program's own wait status.
-    int EndGroup()
+    // Ends the whole group; the program's own wait status, or nothing when it has not ended in
+    // time.
+    std::optional<int> EndGroup(std::chrono::milliseconds grace)
     {
         if (id == 0)
-            return status;
+            return std::nullopt;
         kill(-id, SIGKILL);
-        while (waitpid(id, &status, 0) < 0 && errno == EINTR)
+        const Clock::time_point end = Clock::now() + grace;
+        pollfd watched{pidFd.Get(), POLLIN, 0};
+        while (poll(&watched, 1, MillisecondsUntil(end)) < 0 && errno == EINTR)
             continue;
-        id = 0;
-        return status;
+        int status = 0;
+        const pid_t ended = waitpid(std::exchange(id, 0), &status, WNOHANG);
+        return ended > 0 ? std::optional(status) : std::nullopt;
     }
 
 private:
     pid_t id;
-    int status = 0;
     Descriptor pidFd;
 };
 
@@ -162,12 +172,6 @@ Reading ReadAvailable(int pipe, std::string& output, std::size_t maxOutput)
     }
 }
 
-int MillisecondsUntil(Clock::time_point end)
-{
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
-    return static_cast<int>(std::clamp<decltype(left)>(left, 0, 1 << 30));
-}
-
 BoundedRun::End Watch(
     const Child& child, int pipe, Clock::time_point end, std::size_t maxOutput, std::string& output)
 {
@@ -190,7 +194,8 @@ BoundedRun::End Watch(
 }
 
 void RunInGroup(const QString& program, const QStringList& arguments,
-    std::chrono::milliseconds limit, std::size_t maxOutput, BoundedRun& run)
+    std::chrono::milliseconds limit, std::chrono::milliseconds grace, std::size_t maxOutput,
+    BoundedRun& run)
 {
     const Clock::time_point end = Clock::now() + limit;
     Pipe pipe;
@@ -202,21 +207,23 @@ void RunInGroup(const QString& program, const QStringList& arguments,
         throw std::system_error(errno, std::generic_category(), "pidfd_open");
     pipe.writeEnd = Descriptor();
     const BoundedRun::End ending = Watch(child, pipe.readEnd.Get(), end, maxOutput, run.output);
-    const int status = child.EndGroup();
-    run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : 0;
-    run.end = ending == BoundedRun::End::Exited && WIFSIGNALED(status) ? BoundedRun::End::Crashed
-                                                                       : ending;
+    const std::optional<int> status = child.EndGroup(grace);
+    run.isLeftBehind = !status;
+    run.exitCode = status && WIFEXITED(*status) ? WEXITSTATUS(*status) : 0;
+    run.end = ending == BoundedRun::End::Exited && status && WIFSIGNALED(*status)
+                  ? BoundedRun::End::Crashed
+                  : ending;
 }
 
 } // namespace
 
 BoundedRun RunBounded(const QString& program, const QStringList& arguments,
-    std::chrono::milliseconds limit, std::size_t maxOutput)
+    std::chrono::milliseconds limit, std::chrono::milliseconds grace, std::size_t maxOutput)
 {
     BoundedRun run;
     try
     {
-        RunInGroup(program, arguments, limit, maxOutput, run);
+        RunInGroup(program, arguments, limit, grace, maxOutput, run);
     }
     catch (const std::system_error& error)
     {

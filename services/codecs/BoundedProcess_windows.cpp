@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <array>
-#include <future>
 #include <system_error>
 #include <vector>
 
@@ -18,6 +17,9 @@ namespace Vorlan::Platform
 namespace
 {
 
+using Clock = std::chrono::steady_clock;
+
+constexpr DWORD readInterval = 10;               // milliseconds
 constexpr DWORD firstExceptionCode = 0xC0000000; // an exit code from here on is an NTSTATUS error
 
 [[noreturn]] void ThrowLastError(const char* what)
@@ -142,62 +144,77 @@ UniqueProcess StartInJob(
     return process;
 }
 
-// Reads to the end of the pipe; false, with the job ended, at the limit of the output.
-bool ReadOutput(HANDLE pipe, HANDLE job, std::size_t maxOutput, std::string& output)
+DWORD WaitTime(Clock::time_point end)
+{
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now()).count();
+    return static_cast<DWORD>(std::clamp<long long>(left, 0, static_cast<long long>(INFINITE) - 1));
+}
+
+// Takes what is in the pipe now; false at the limit of the output. Never waits: a process that
+// cannot be killed keeps its end of the pipe open.
+bool ReadAvailable(HANDLE pipe, std::size_t maxOutput, std::string& output)
 {
     std::array<char, 4096> buffer{};
-    DWORD count = 0;
-    while (ReadFile(pipe, buffer.data(), static_cast<DWORD>(buffer.size()), &count, nullptr))
+    DWORD available = 0;
+    while (PeekNamedPipe(pipe, nullptr, 0, nullptr, &available, nullptr) && available > 0)
     {
+        DWORD count = 0;
+        const DWORD wanted = std::min(available, static_cast<DWORD>(buffer.size()));
+        if (!ReadFile(pipe, buffer.data(), wanted, &count, nullptr))
+            break;
         output.append(buffer.data(), std::min<std::size_t>(count, maxOutput - output.size()));
         if (output.size() == maxOutput)
-        {
-            TerminateJobObject(job, 1);
             return false;
-        }
     }
     return true;
 }
 
-DWORD WaitTime(std::chrono::milliseconds limit)
+BoundedRun::End Watch(
+    HANDLE process, HANDLE pipe, Clock::time_point end, std::size_t maxOutput, std::string& output)
 {
-    return static_cast<DWORD>(
-        std::clamp<long long>(limit.count(), 0, static_cast<long long>(INFINITE) - 1));
+    while (true)
+    {
+        const DWORD timeLeft = WaitTime(end);
+        const bool hasEnded =
+            WaitForSingleObject(process, std::min(timeLeft, readInterval)) == WAIT_OBJECT_0;
+        if (!ReadAvailable(pipe, maxOutput, output))
+            return BoundedRun::End::TooMuchOutput;
+        if (hasEnded)
+            return BoundedRun::End::Exited;
+        if (timeLeft == 0)
+            return BoundedRun::End::TimedOut;
+    }
 }
 
 void RunInJob(const QString& program, const QStringList& arguments, std::chrono::milliseconds limit,
-    std::size_t maxOutput, BoundedRun& run)
+    std::chrono::milliseconds grace, std::size_t maxOutput, BoundedRun& run)
 {
+    const Clock::time_point end = Clock::now() + limit;
     Pipe pipe;
     const UniqueObject job = MakeJob();
     const UniqueProcess process = StartInJob(program, arguments, pipe.writeEnd.Get(), job.Get());
     pipe.writeEnd.Reset();
-    auto reading = std::async(std::launch::async, ReadOutput, pipe.readEnd.Get(), job.Get(),
-        maxOutput, std::ref(run.output));
-    const bool isInTime = WaitForSingleObject(process.Get(), WaitTime(limit)) == WAIT_OBJECT_0;
+    run.end = Watch(process.Get(), pipe.readEnd.Get(), end, maxOutput, run.output);
     TerminateJobObject(job.Get(), 1);
-    WaitForSingleObject(process.Get(), INFINITE);
-    const bool isWithinLimit = reading.get();
     DWORD code = 0;
-    GetExitCodeProcess(process.Get(), &code);
+    run.isLeftBehind =
+        WaitForSingleObject(process.Get(), WaitTime(Clock::now() + grace)) != WAIT_OBJECT_0;
+    if (!run.isLeftBehind)
+        GetExitCodeProcess(process.Get(), &code);
     run.exitCode = static_cast<int>(code);
-    if (!isWithinLimit)
-        run.end = BoundedRun::End::TooMuchOutput;
-    else if (!isInTime)
-        run.end = BoundedRun::End::TimedOut;
-    else
-        run.end = code >= firstExceptionCode ? BoundedRun::End::Crashed : BoundedRun::End::Exited;
+    if (run.end == BoundedRun::End::Exited && code >= firstExceptionCode)
+        run.end = BoundedRun::End::Crashed;
 }
 
 } // namespace
 
 BoundedRun RunBounded(const QString& program, const QStringList& arguments,
-    std::chrono::milliseconds limit, std::size_t maxOutput)
+    std::chrono::milliseconds limit, std::chrono::milliseconds grace, std::size_t maxOutput)
 {
     BoundedRun run;
     try
     {
-        RunInJob(program, arguments, limit, maxOutput, run);
+        RunInJob(program, arguments, limit, grace, maxOutput, run);
     }
     catch (const std::system_error& error)
     {

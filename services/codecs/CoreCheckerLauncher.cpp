@@ -24,10 +24,12 @@ using std::chrono::milliseconds;
 
 constexpr std::chrono::seconds defaultLimit{20};
 constexpr std::chrono::seconds maxLimit = std::chrono::hours(24);
-constexpr int sharesOfLimit = 4;        // a single probe gets one of them
-constexpr std::size_t maxOutput = 4096; // bytes; an answer is one line
+constexpr int sharesOfLimit = 4;           // a single probe gets one of them
+constexpr milliseconds longestGrace{1000}; // for a probe that was killed to end
+constexpr std::size_t maxOutput = 4096;    // bytes; an answer is one line
 constexpr char notTried[] = "not tried";
 constexpr char knownBroken[] = "known broken";
+constexpr char leftBehind[] = "cannot be ended";
 
 // The parts of the probe's one line, or no match.
 QRegularExpressionMatch ReadAnswer(const std::string& output)
@@ -81,17 +83,17 @@ void CoreCheckerLauncher::StartCheck(CheckType type)
     errorInfo.clear();
     brokenPlugins.clear();
     brokenCodecs.clear();
-    if (!QFileInfo(probe).isFile())
-    {
-        AddError("There is no probe program " + probe.toStdString() + ": nothing was checked");
-        return;
-    }
     const KnownBroken known(
         brokenCodecsPath, brokenPluginsPath, [this](const std::string& text) { AddError(text); });
     MakePairs(known.Codecs(), known.Plugins());
-    TryPairs(start + limit);
+    const bool hasProbe = QFileInfo(probe).isFile();
+    if (hasProbe)
+        TryPairs(start + limit - Grace());
+    else
+        AddError("There is no probe program " + probe.toStdString() + ": nothing was checked");
     CollectBroken(type);
-    CollectStatistics(Clock::now() - start);
+    if (hasProbe)
+        CollectStatistics(Clock::now() - start);
     known.Add(brokenCodecs, brokenPlugins);
 }
 
@@ -182,8 +184,20 @@ void CoreCheckerLauncher::TryPairs(Clock::time_point end)
         for (std::future<void>& helper : helpers)
             helper.get();
     }
+    for (const Pair& pair : pairs)
+    {
+        if (pair.detail == leftBehind)
+            AddError("The probe for " + pair.codec + " with " + pair.impl +
+                     " cannot be ended and was left running");
+    }
     if (!startError.empty())
         AddError("The probe program " + probe.toStdString() + " cannot be started: " + startError);
+}
+
+// The part of the limit that is kept for the end of probes that are killed at it.
+milliseconds CoreCheckerLauncher::Grace() const
+{
+    return std::min(longestGrace, limit / sharesOfLimit);
 }
 
 // Why the probe could not be started, or nothing.
@@ -195,7 +209,13 @@ std::string CoreCheckerLauncher::TryPair(Pair& pair, Clock::time_point end) cons
         return {};
     const Platform::BoundedRun run = Platform::RunBounded(probe,
         {QString::fromStdString(pair.codec), QString::fromStdString(pair.impl)},
-        std::min(share, left), maxOutput);
+        std::min(share, left), Grace(), maxOutput);
+    if (run.isLeftBehind)
+    {
+        pair.state = State::Broken;
+        pair.detail = leftBehind;
+        return {};
+    }
     const auto isBroken = [&pair](const std::string& detail)
     {
         pair.state = State::Broken;

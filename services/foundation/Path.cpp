@@ -114,7 +114,8 @@ PathValidationState IsThisPathValid(const QString& path)
     const QFileInfo existing = Platform::NearestExisting(portable);
     if (!existing.isDir())
         return PathValidationState::NotAFolder;
-    return existing.isWritable() ? PathValidationState::Valid : PathValidationState::NotWritable;
+    return Platform::MayCreateIn(existing.absoluteFilePath()) ? PathValidationState::Valid
+                                                              : PathValidationState::NotWritable;
 }
 
 std::int64_t GetAvailableDiskSpace(const ioPath& path)

@@ -1,5 +1,9 @@
 #include "platform/Path.h"
 
+#include <QFile>
+
+#include <unistd.h>
+
 namespace Vorlan::Platform
 {
 
@@ -11,6 +15,11 @@ QString ToNativePath(QString path)
 std::wstring PathForCall(std::wstring path)
 {
     return path;
+}
+
+bool MayCreateIn(const QString& folder)
+{
+    return access(QFile::encodeName(folder).constData(), W_OK | X_OK) == 0;
 }
 
 QString DriveRoot(const QString& path)

@@ -37,7 +37,9 @@ enum class CheckType : int
 // probe's contract, the files and the statistics are described in docs/probe.md.
 //
 // A probe that crashes, hangs, or answers anything but its one line makes its pair broken and never
-// disturbs the check. A pair that could not be tried within the time is not broken.
+// disturbs the check; one that cannot be ended is left running and named in the error text. A pair
+// that could not be tried within the time is not broken. Without a probe program the result is what
+// the files name.
 //
 // Set up, then StartCheck once, then ask; one thread, which need not be the main one.
 class CoreCheckerLauncher
@@ -95,6 +97,7 @@ private:
     std::vector<std::string> ValidNames(const std::vector<std::string>& names);
     void MakePairs(const std::map<std::string, std::set<std::string>>& knownCodecs,
         const std::set<std::string>& knownPlugins);
+    std::chrono::milliseconds Grace() const;
     void TryPairs(Clock::time_point end);
     std::string TryPair(Pair& pair, Clock::time_point end) const;
     static void TakeAnswer(Pair& pair, int exitCode, const std::string& output);

@@ -82,6 +82,9 @@ QString ToNativePath(QString path);
 // the machine's policy for long paths is.
 std::wstring PathForCall(std::wstring path);
 
+// Whether the system lets this process create files and folders in an existing folder.
+bool MayCreateIn(const QString& folder);
+
 // The path whose free space is queried: "C:\" on Windows, the path itself where volumes have no
 // letters.
 QString DriveRoot(const QString& path);

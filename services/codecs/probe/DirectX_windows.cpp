@@ -35,10 +35,20 @@ std::optional<GUID> ProfileOf(const std::string& name)
     return std::nullopt;
 }
 
+// Whether the machine has no such device; every other failure is one of a device that is there.
+bool MeansNoDevice(HRESULT result)
+{
+    return result == DXGI_ERROR_UNSUPPORTED || result == DXGI_ERROR_NOT_FOUND ||
+           result == DXGI_ERROR_SDK_COMPONENT_MISSING || result == E_INVALIDARG ||
+           result == E_NOTIMPL;
+}
+
 Answer OpenDecoder(ID3D11VideoDevice& device, const GUID& profile)
 {
     BOOL isSupported = FALSE;
     const HRESULT asked = device.CheckVideoDecoderFormat(&profile, DXGI_FORMAT_NV12, &isSupported);
+    if (FAILED(asked) && !MeansNoDevice(asked))
+        return Unusable("CheckVideoDecoderFormat", asked);
     if (FAILED(asked) || !isSupported)
         return NotPresent("the device does not decode this codec");
     const D3D11_VIDEO_DECODER_DESC description{
@@ -64,10 +74,12 @@ Answer TryDirectX(const std::string& codec)
     if (!createDevice)
         return NotPresent("no Direct3D 11");
     ComPointer<ID3D11Device> device;
-    if (FAILED(createDevice(nullptr, D3D_DRIVER_TYPE_HARDWARE, nullptr,
+    if (const HRESULT result = createDevice(nullptr, D3D_DRIVER_TYPE_HARDWARE, nullptr,
             D3D11_CREATE_DEVICE_VIDEO_SUPPORT, nullptr, 0, D3D11_SDK_VERSION, device.Put(), nullptr,
-            nullptr)))
-        return NotPresent("no device with video support");
+            nullptr);
+        FAILED(result))
+        return MeansNoDevice(result) ? NotPresent("no device with video support")
+                                     : Unusable("D3D11CreateDevice", result);
     ComPointer<ID3D11VideoDevice> videoDevice;
     if (FAILED(device->QueryInterface(
             IID_ID3D11VideoDevice, reinterpret_cast<void**>(videoDevice.Put()))))

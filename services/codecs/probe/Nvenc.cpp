@@ -41,6 +41,8 @@ public:
     {
         if (!nvenc)
             return NotPresent("no NVENC library");
+        if (IsDriverTooOld())
+            return NotPresent("the driver is older than this NVENC interface");
         api.version = NV_ENCODE_API_FUNCTION_LIST_VER;
         if (const int error = nvenc->NvEncodeAPICreateInstance(&api))
             return Unusable("NvEncodeAPICreateInstance", error);
@@ -58,6 +60,14 @@ public:
     }
 
 private:
+    // The driver's highest version has the minor number in its lowest four bits; see nvEncodeAPI.h.
+    bool IsDriverTooOld() const
+    {
+        std::uint32_t highest = 0;
+        return nvenc->NvEncodeAPIGetMaxSupportedVersion(&highest) == NV_ENC_SUCCESS &&
+               highest < ((NVENCAPI_MAJOR_VERSION << 4) | NVENCAPI_MINOR_VERSION);
+    }
+
     int Open(CUcontext context)
     {
         NV_ENC_OPEN_ENCODE_SESSION_EX_PARAMS parameters{};

@@ -182,6 +182,16 @@ TEST_F(CoreCheckerTest, WithoutAProbeThatStartsThereIsOneErrorAndNoResult)
     }
 }
 
+TEST_F(CoreCheckerTest, WithoutAProbeTheListsAreTheResult)
+{
+    launcher = CoreCheckerLauncher(machine.Path("missing.exe"));
+    UseFiles("# Vorlan broken codecs 1\nA=x\n", "# Vorlan broken plug-ins 1\ny\n");
+    Check({"A", "B"}, {"x", "y"});
+    EXPECT_EQ(launcher.GetBrokenCodecs(), BrokenCodecs({{"A", {"x"}}}));
+    EXPECT_EQ(launcher.GetBrokenPlugins(), Names({"y"}));
+    EXPECT_EQ(ReadFile(codecsFile), "# Vorlan broken codecs 1\nA=x\n");
+}
+
 TEST_F(CoreCheckerTest, ShippedProbeAnswersForEveryPair)
 {
     launcher = CoreCheckerLauncher(FRONTEND_FOLDER "/probe/corechecker.exe");
