@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include <dlfcn.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 
@@ -101,6 +102,13 @@ std::string MachineId()
 bool MaySetUpWhileLoading()
 {
     return true;
+}
+
+void KeepLibraryLoaded()
+{
+    Dl_info library = {};
+    if (dladdr(reinterpret_cast<const void*>(&KeepLibraryLoaded), &library) != 0)
+        dlopen(library.dli_fname, RTLD_LAZY | RTLD_NOLOAD | RTLD_NODELETE);
 }
 
 bool IsProcessEnding()

@@ -144,6 +144,13 @@ bool MaySetUpWhileLoading()
     return false;
 }
 
+void KeepLibraryLoaded()
+{
+    HMODULE library = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_PIN,
+        reinterpret_cast<LPCWSTR>(&KeepLibraryLoaded), &library);
+}
+
 bool IsProcessEnding()
 {
     return RtlDllShutdownInProgress() != FALSE;

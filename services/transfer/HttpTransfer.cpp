@@ -2,7 +2,7 @@
 
 #include "base/ProductProfile.h"
 #include "network/CurlMulti.h"
-#include "network/TransferSetup.h"
+#include "transfer/ProxySearch.h"
 
 #include <algorithm>
 
@@ -62,12 +62,13 @@ TransferCode CodeOf(CURLcode error)
 class Hop
 {
 public:
-    Hop(const HttpRequest& asked, const QUrl& target, std::chrono::milliseconds limit)
+    Hop(const HttpRequest& asked, const QUrl& target, const std::string& proxy,
+        std::chrono::milliseconds limit)
         : request(asked), multi(CurlMulti::Create())
     {
         auto created = CurlEasy::Create();
         easy = created.get();
-        SetTarget(target);
+        SetTarget(target, proxy);
         SetLimits(limit);
         SetReceiver();
         multi->Add(std::move(created));
@@ -75,6 +76,7 @@ public:
 
     HttpAnswer Run(const std::atomic<bool>& keepRunning)
     {
+        start = Clock::now();
         CURLcode error = CURLE_OK;
         QString text;
         try
@@ -96,8 +98,7 @@ public:
             return {TransferCode::ServerRefused,
                 QString("the server answered with status %1").arg(status)};
         if (refusal != TransferCode::Done)
-            return {refusal,
-                refusal == TransferCode::TooLarge ? "more bytes than allowed" : "not written"};
+            return {refusal, refusalText};
         return {CodeOf(error), text};
     }
 
@@ -105,17 +106,18 @@ public:
     const QUrl& Redirect() const { return redirect; }
 
 private:
-    void SetTarget(const QUrl& target)
+    void SetTarget(const QUrl& target, const std::string& proxy)
     {
         const QByteArray address = target.toEncoded(QUrl::RemoveFragment);
-        const std::string proxy = ProxyProvider().getProxy(address.toStdString()).address;
         const std::string agent =
             (ProductProfile::productFullName + QString("/") + ProductProfile::versionText)
                 .toStdString();
         easy->SetOption(CURLOPT_URL, address.constData());
         easy->SetOption(CURLOPT_PROTOCOLS_STR, "http,https");
-        // An empty one is none: libcurl does not look into the environment by itself then.
+        // Empty texts are none: libcurl reads neither from the environment by itself then.
         easy->SetOption(CURLOPT_PROXY, proxy.c_str());
+        easy->SetOption(CURLOPT_NOPROXY, "");
+        easy->SetOption(CURLOPT_SSLVERSION, static_cast<long>(CURL_SSLVERSION_TLSv1_2));
         easy->SetOption(CURLOPT_USERAGENT, agent.c_str());
         easy->SetOption(CURLOPT_SSL_VERIFYPEER, 1L);
         easy->SetOption(CURLOPT_SSL_VERIFYHOST, 2L);
@@ -151,7 +153,16 @@ private:
 
     static std::size_t OnData(char* data, std::size_t, std::size_t size, void* hop) noexcept
     {
-        return static_cast<Hop*>(hop)->Take(data, size) ? size : CURL_WRITEFUNC_ERROR;
+        auto& self = *static_cast<Hop*>(hop);
+        try
+        {
+            return self.Take(data, size) ? size : CURL_WRITEFUNC_ERROR;
+        }
+        catch (const std::exception&) // of the receiver, for want of memory
+        {
+            self.Refuse(TransferCode::Failed, "the body could not be taken");
+            return CURL_WRITEFUNC_ERROR;
+        }
     }
 
     // libcurl's own limit of the size does not stop a body of unknown length: the bytes are
@@ -163,12 +174,28 @@ private:
             return IsRedirect(Status()) && received <= largestRedirectBody;
         const long long declared = easy->ContentLength();
         if (std::max(received, declared) > request.policy.largestBody)
-            refusal = TransferCode::TooLarge;
+            Refuse(TransferCode::TooLarge, "more bytes than allowed");
+        else if (IsLate(std::max(received, declared)))
+            Refuse(TransferCode::TimedOut, "slower than allowed");
         else if (!request.receive(data, size))
-            refusal = TransferCode::NotWritable;
+            Refuse(TransferCode::NotWritable, "not written");
         if (refusal == TransferCode::Done && request.progress)
             request.progress(received, declared);
         return refusal == TransferCode::Done;
+    }
+
+    void Refuse(TransferCode code, const char* text)
+    {
+        refusal = code;
+        refusalText = text;
+    }
+
+    // A server that sends a little just in time, again and again, would hold a transfer for ever.
+    bool IsLate(long long size) const
+    {
+        const auto allowed =
+            request.policy.startLimit + std::chrono::seconds(size / request.policy.averageRate);
+        return Clock::now() - start > allowed;
     }
 
     long Status() const
@@ -189,7 +216,9 @@ private:
     std::unique_ptr<CurlMulti> multi;
     CurlEasy* easy = nullptr; // owned by `multi`
     long long received = 0;
+    Clock::time_point start;
     TransferCode refusal = TransferCode::Done; // ours, in the middle of the body
+    const char* refusalText = "";
     QUrl redirect;
 };
 
@@ -200,6 +229,42 @@ std::chrono::milliseconds TimeLeft(const TransferPolicy& policy, Clock::time_poi
         return policy.overallLimit;
     const auto passed = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
     return std::max(policy.overallLimit - passed, std::chrono::milliseconds(1));
+}
+
+// What a redirect is refused for, or nothing.
+QString RefusalOf(const QUrl& from, const QUrl& to)
+{
+    if (!IsAddressAllowed(to))
+        return "redirected to " + to.toDisplayString();
+    if (from.scheme() == "https" && to.scheme() == "http")
+        return QStringLiteral("redirected from https to http");
+    return {};
+}
+
+HttpAnswer FollowRedirects(const HttpRequest& request, const std::atomic<bool>& keepRunning)
+{
+    const Clock::time_point start = Clock::now();
+    QUrl url = request.url;
+    for (int followed = 0;; ++followed)
+    {
+        const ProxySearch proxy = FindProxy(url.toEncoded(QUrl::RemoveFragment).toStdString(),
+            request.policy.connectLimit, keepRunning);
+        if (!keepRunning)
+            return {TransferCode::Cancelled, "cancelled"};
+        if (!proxy.hasEnded)
+            return {TransferCode::TimedOut, "the search for a proxy did not end"};
+        Hop hop(request, url, proxy.address, TimeLeft(request.policy, start));
+        HttpAnswer answer = hop.Run(keepRunning);
+        if (hop.Redirect().isEmpty() || answer.code != TransferCode::ServerRefused)
+            return answer;
+        if (followed == request.policy.redirects)
+            return {TransferCode::RedirectRefused,
+                QString("more than %1 redirects").arg(request.policy.redirects)};
+        const QString refusal = RefusalOf(url, hop.Redirect());
+        if (!refusal.isEmpty())
+            return {TransferCode::RedirectRefused, refusal};
+        url = hop.Redirect();
+    }
 }
 
 } // namespace
@@ -214,20 +279,13 @@ HttpAnswer Fetch(const HttpRequest& request, const std::atomic<bool>& keepRunnin
 {
     if (!IsAddressAllowed(request.url))
         return {TransferCode::AddressRefused, "only http and https addresses without credentials"};
-    const Clock::time_point start = Clock::now();
-    QUrl url = request.url;
-    for (int followed = 0;; ++followed)
+    try
     {
-        Hop hop(request, url, TimeLeft(request.policy, start));
-        HttpAnswer answer = hop.Run(keepRunning);
-        if (hop.Redirect().isEmpty() || answer.code != TransferCode::ServerRefused)
-            return answer;
-        if (followed == request.policy.redirects)
-            return {TransferCode::RedirectRefused,
-                QString("more than %1 redirects").arg(request.policy.redirects)};
-        url = hop.Redirect();
-        if (!IsAddressAllowed(url))
-            return {TransferCode::RedirectRefused, "redirected to " + url.toDisplayString()};
+        return FollowRedirects(request, keepRunning);
+    }
+    catch (const std::exception& error)
+    {
+        return {TransferCode::Failed, error.what()};
     }
 }
 

@@ -18,7 +18,7 @@ struct HttpRequest
     QUrl url;
     TransferPolicy policy{};
     // Gets the body piece by piece; false ends the transfer with NotWritable. Never sees what comes
-    // with another status than 200. Must not throw.
+    // with another status than 200. What it throws ends the transfer as Failed.
     std::function<bool(const char* data, std::size_t size)> receive{};
     // Hears after each piece how many bytes came, and how many the server declared (-1: unknown).
     // May be empty; must not throw.
@@ -38,7 +38,7 @@ bool IsAddressAllowed(const QUrl& url);
 
 // Fetches over the operating system's proxy for each address on the way, with certificate checks.
 // Blocks until the end; another thread may clear the flag to end it within 100 ms as Cancelled.
-// Throws std::runtime_error only when libcurl gives no handle.
+// Every failure is an answer; nothing is thrown.
 HttpAnswer Fetch(const HttpRequest& request, const std::atomic<bool>& keepRunning);
 
 // The same for a body of text that is kept in memory; it cannot be cancelled.

@@ -10,6 +10,8 @@
 
 #include <winhttp.h>
 
+#include <optional>
+
 namespace Vorlan::Networking
 {
 
@@ -48,15 +50,16 @@ UserConfiguration ReadUserConfiguration()
         {TakeText(config.lpszProxy), TakeText(config.lpszProxyBypass)}};
 }
 
-// The proxies that the configuration script, given or found in the network, returns for the URL.
-ProxyLists AskScript(const UserConfiguration& user, const QUrl& url)
+// The proxies that the configuration script, given or found in the network, returns for the URL;
+// empty lists for a direct connection, nothing where no script answers.
+std::optional<ProxyLists> AskScript(const UserConfiguration& user, const QUrl& url)
 {
     const HINTERNET session =
         WinHttpOpen(nullptr, WINHTTP_ACCESS_TYPE_NO_PROXY, nullptr, nullptr, 0);
     const std::wstring script = Platform::WideFromText(user.scriptUrl);
     const std::wstring target = Platform::WideFromText(url.toString(QUrl::FullyEncoded));
     WINHTTP_AUTOPROXY_OPTIONS options = {};
-    options.fAutoLogonIfChallenged = TRUE;
+    options.fAutoLogonIfChallenged = FALSE; // the user's credentials are for nobody here
     if (script.empty())
     {
         options.dwFlags = WINHTTP_AUTOPROXY_AUTO_DETECT;
@@ -68,9 +71,11 @@ ProxyLists AskScript(const UserConfiguration& user, const QUrl& url)
         options.lpszAutoConfigUrl = script.c_str();
     }
     WINHTTP_PROXY_INFO info = {};
-    WinHttpGetProxyForUrl(session, target.c_str(), &options, &info);
+    const bool hasAnswered =
+        WinHttpGetProxyForUrl(session, target.c_str(), &options, &info) != FALSE;
     WinHttpCloseHandle(session);
-    return {TakeText(info.lpszProxy), TakeText(info.lpszProxyBypass)};
+    const ProxyLists lists{TakeText(info.lpszProxy), TakeText(info.lpszProxyBypass)};
+    return hasAnswered ? std::optional(lists) : std::nullopt;
 }
 
 QStringList Entries(const QString& list)
@@ -112,12 +117,9 @@ IProxyProvider::Proxy NativeProxyProvider::getProxy(const std::string& url)
 {
     const QUrl target(QString::fromStdString(url));
     const UserConfiguration user = ReadUserConfiguration();
-    ProxyLists lists = user.lists;
-    if (user.detects || !user.scriptUrl.isEmpty())
-    {
-        const ProxyLists ofScript = AskScript(user, target);
-        lists = ofScript.proxies.isEmpty() ? lists : ofScript;
-    }
+    const bool hasScript = user.detects || !user.scriptUrl.isEmpty();
+    const ProxyLists lists =
+        (hasScript ? AskScript(user, target) : std::nullopt).value_or(user.lists);
     if (IsReachedDirectly(target.host(), lists.bypass))
         return {};
     const QString address = ProxyForScheme(lists.proxies, target.scheme());

@@ -13,38 +13,46 @@
 namespace Vorlan::ProductProfile
 {
 
+/// A literal with its length, which QLatin1String alone counts at compile time only with some
+/// compilers.
+template <int Size>
+constexpr QLatin1String Text(const char (&literal)[Size])
+{
+    return QLatin1String(literal, Size - 1);
+}
+
 /// Publisher, and the key of the company in the registry.
-inline constexpr QLatin1String companyName{"Vorlan"};
+inline constexpr QLatin1String companyName = Text("Vorlan");
 /// The company in names of resources.
-inline constexpr QLatin1String brandName{"vorlan"};
+inline constexpr QLatin1String brandName = Text("vorlan");
 /// Id of the product for the vendor's services and for programs that depend on it.
-inline constexpr QLatin1String applicationId{"quillax"};
+inline constexpr QLatin1String applicationId = Text("quillax");
 /// Display name of the product where "settings.ini" has no other.
-inline constexpr QLatin1String productName{"Quillax"};
+inline constexpr QLatin1String productName = Text("Quillax");
 /// Id of the main application for other programs.
-inline constexpr QLatin1String shortName{"quill"};
+inline constexpr QLatin1String shortName = Text("quill");
 /// First number of the version.
-inline constexpr QLatin1String versionMajor{"24"};
+inline constexpr QLatin1String versionMajor = Text("24");
 /// The other numbers of the version.
-inline constexpr QLatin1String versionMinor{VORLAN_VERSION_MINOR};
+inline constexpr QLatin1String versionMinor = Text(VORLAN_VERSION_MINOR);
 /// The version; that of the build's project() is the same.
-inline constexpr QLatin1String versionText{"24." VORLAN_VERSION_MINOR};
+inline constexpr QLatin1String versionText = Text("24." VORLAN_VERSION_MINOR);
 /// Name of the product key, and of the folder of logs.
-inline constexpr QLatin1String applicationKey{"Quillax24"};
+inline constexpr QLatin1String applicationKey = Text("Quillax24");
 /// Name of the installation folder, the shortcuts and the entry in the list of programs.
-inline constexpr QLatin1String productFullName{"Vorlan Quillax"};
+inline constexpr QLatin1String productFullName = Text("Vorlan Quillax");
 /// The payload, beside the front end.
-inline constexpr QLatin1String archiveFileName{"InstallerData.7z"};
+inline constexpr QLatin1String archiveFileName = Text("InstallerData.7z");
 /// The front end in the installation folder.
-inline constexpr QLatin1String uninstallerFileName{"uninst.exe"};
+inline constexpr QLatin1String uninstallerFileName = Text("uninst.exe");
 /// What shortcuts and the end of an installation start.
-inline constexpr QLatin1String mainExecutable{"quill.exe"};
+inline constexpr QLatin1String mainExecutable = Text("quill.exe");
 /// Program that starts at logon; this product has none.
-inline constexpr QLatin1String autoLaunchExecutable{""};
+inline constexpr QLatin1String autoLaunchExecutable = Text("");
 /// What the addresses of pages and services end in.
-inline constexpr QLatin1String vendorDomain{"vorlan.example"};
+inline constexpr QLatin1String vendorDomain = Text("vorlan.example");
 /// For a system whose language is not supported.
-inline constexpr QLatin1String defaultLocale{"en_US"};
+inline constexpr QLatin1String defaultLocale = Text("en_US");
 
 /// The languages that the product is translated into, in the order of preference.
 inline QStringList SupportedLocales()

@@ -32,10 +32,10 @@ static inline void RequestWebConfig(
         });
 
     const auto tracker = Tracking::getSessionTrackerInstance();
-    App::WebConfig::Context context{&GetTopManager(),
+    const App::WebConfig::Context context{&GetTopManager(),
         tracker ? tracker->GetSessionText() : std::string(),
         settings.webConfigParameter.toStdString(), false};
-    result = static_cast<int>(App::WebConfig::RequestWebConfig(std::move(context)));
+    result = static_cast<int>(App::WebConfig::RequestWebConfig(context));
 }
 
 } // namespace Vorlan

@@ -72,6 +72,10 @@ bool MaySetUpWhileLoading();
 // already.
 bool IsProcessEnding();
 
+// Keeps the library that holds this code loaded to the end of the process, for threads that nobody
+// waits for.
+void KeepLibraryLoaded();
+
 // The product's log folder, without a separator at its end; it need not exist. Empty where the
 // machine has no local application-data folder.
 QString LogFolder();

@@ -33,10 +33,13 @@ struct TransferPolicy
     std::chrono::seconds slowLimit{15};           // a transfer is given up when for so long
     long slowestRate = 1024;                      // it was slower than this, in bytes a second
     std::chrono::milliseconds overallLimit{0};    // for everything, redirects included; 0: none
-    int redirects = 5;                            // as many are followed
-    long long largestBody = 16LL << 30;           // bytes
-    std::string authorities;                      // file of trusted certificates (PEM); empty: the
-                                                  // system's
+    std::chrono::milliseconds startLimit{300000}; // a body may take so long, and as much longer as
+    long averageRate = 16 * 1024; // its declared length (else what has come) takes at this rate,
+                                  // in bytes a second
+    int redirects = 5;            // as many are followed
+    long long largestBody = 16LL << 30; // bytes
+    std::string authorities;            // file of trusted certificates (PEM); empty: the
+                                        // system's
 };
 
 } // namespace Vorlan::Networking

@@ -124,9 +124,9 @@ QLayout* AlertBox::Form::MakeBody(QFrame* frame)
 }
 
 // The icon by value is part of the exported interface.
-// NOLINTNEXTLINE(performance-unnecessary-value-param)
 AlertBox::AlertBox(const QString& text, QWidget* parent,
-    QFlags<QDialogButtonBox::StandardButton> buttons, QPixmap pixmap)
+    QFlags<QDialogButtonBox::StandardButton> buttons,
+    QPixmap pixmap) // NOLINT(performance-unnecessary-value-param)
     : MovableWidget<QDialog>(parent), icon(pixmap)
 {
     setWindowFlags(windowFlags() | Qt::FramelessWindowHint);

@@ -34,6 +34,10 @@ TEST(ConnectionsLinuxTest, OnlyATrustedCertificateForThatHostIsAccepted)
     EXPECT_EQ(Ask(https, trusted).body, "safe");
     EXPECT_EQ(Ask(Address("http", "/redirect?to=" + https), trusted).body, "safe");
 
+    const TextAnswer downgraded =
+        Ask(Address("https", "/redirect?to=" + Address("http", "/text")), trusted);
+    EXPECT_EQ(downgraded.answer.code, TransferCode::RedirectRefused);
+
     const QString otherHost = QString(https).replace("127.0.0.1", "localhost");
     for (const auto& answer : {Ask(https), Ask(Address("http", "/redirect?to=" + https)),
              Ask(otherHost, trusted), Ask(https, "no such file")})

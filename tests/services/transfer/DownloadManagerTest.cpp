@@ -30,6 +30,8 @@ TransferPolicy Impatient()
     policy.connectLimit = 1s;
     policy.slowLimit = 1s;
     policy.largestBody = 3'000'000;
+    policy.startLimit = 2s;
+    policy.averageRate = 100'000'000;
     return policy;
 }
 
@@ -184,6 +186,7 @@ INSTANTIATE_TEST_SUITE_P(Servers, FailedDownloadTest,
         Failure{"partial", "http", "/status?code=206&text=ab", TransferCode::ServerRefused},
         Failure{"stalled", "http", "/stall", TransferCode::TimedOut},
         Failure{"slowheader", "http", "/slow-header", TransferCode::TimedOut},
+        Failure{"drip", "http", "/drip", TransferCode::TimedOut},
         Failure{"half", "http", "/half", TransferCode::Incomplete},
         Failure{"cutchunk", "http", "/chunk-cut", TransferCode::Incomplete},
         Failure{"endless", "http", "/endless", TransferCode::TooLarge},

@@ -1,6 +1,7 @@
 // What libcurl and the system are made to fail with: their functions are replaced in this program.
 #include "network/CurlMulti.h"
 #include "platform/DownloadManager.h"
+#include "platform/WebUidManager.h"
 #include "support/Environment.h"
 #include "support/Machine.h"
 #include "support/MediatorAccess.h"
@@ -185,21 +186,34 @@ TEST_F(NetworkFaults, EveryFailureHasItsText)
     }
 }
 
-TEST_F(NetworkFaults, ThrowingServiceEndsTheInstallation)
+TEST_F(NetworkFaults, TransfersThatCannotBeSetUpEndTheirStepAndNotTheRun)
 {
     const QString name = "setup.exe";
     InstallerMediator mediator({name, false, true, QSettings::UserScope, false});
-    MediatorAccess{mediator}.OpenArchive(Payload("small.7z"));
+    MediatorAccess access{mediator};
+    access.OpenArchive(Payload("small.7z"));
+    access.Settings().installDir = machine.Path("Vorlan Quillax/");
     SignalLog signalLog(mediator);
-    const Failing fault("curl_multi_init");
-    mediator.StartInstallation();
-    signalLog.WaitForEnd();
-    EXPECT_EQ(signalLog.Calls().mid(1, 2),
-        QStringList({"WebConfigLoaderStarted", "WebConfigLoaderFinished(1)"}));
-    EXPECT_EQ(signalLog.Count("InstallationError"), 1);
-    EXPECT_TRUE(machine.Log().contains("Web config requested with  1"));
-    EXPECT_TRUE(machine.Log().contains(
-        "Error  Failed creating CURL multi object  in InstallerMediator::Extract()"));
+    const Environment asked("VORLAN_CONFIG_URL", Address("http", "/echo"));
+    const Environment alsoAsked("VORLAN_WEBUID_URL", Address("http", "/identity"));
+    for (const char* function : {"curl_easy_init", "curl_multi_init", "curl_multi_perform"})
+    {
+        const Failing fault(function);
+        EXPECT_EQ(App::WebUidManager({}).requestWebUid({{"app", "quillax"}}), "") << function;
+        mediator.StartInstallation();
+        signalLog.WaitForEnd();
+        EXPECT_EQ(signalLog.Calls().last(), "InstallationFinished") << function;
+    }
+    EXPECT_EQ(signalLog.Count("WebConfigLoaderFinished(1)"), 3);
+    EXPECT_EQ(machine.Log().filter("Web config failed: ").size(), 3);
+}
+
+TEST_F(NetworkFaults, BodyThatCannotBeTakenIsAFailure)
+{
+    HttpRequest request;
+    request.url = Address("http", "/text?text=body");
+    request.receive = [](const char*, std::size_t) -> bool { throw std::bad_alloc(); };
+    EXPECT_EQ(Fetch(request, keepRunning).code, TransferCode::Failed);
 }
 
 TEST_F(NetworkFaults, FullDiskEndsTheDownloadAndLeavesNothing)
@@ -263,6 +277,10 @@ TEST_F(NetworkFaults, ProxyOfTheEnvironmentIsAskedForEachAddressOnTheWay)
     EXPECT_EQ(bodyOf(Address("http", "/text?text=direct")), "direct");
     EXPECT_EQ(bodyOf(Address("http", "/redirect?to=http://far.example/y")),
         "through the proxy: http://far.example/y");
-    const Environment everything("no_proxy", "");
-    EXPECT_EQ(bodyOf("http://127.0.0.1:1/z"), "through the proxy: http://127.0.0.1:1/z");
+    // The second form is one that only libcurl knows; it must not look at the list again.
+    for (const char* list : {"", "127.0.0.0/8"})
+    {
+        const Environment others("no_proxy", list);
+        EXPECT_EQ(bodyOf("http://127.0.0.1:1/z"), "through the proxy: http://127.0.0.1:1/z");
+    }
 }
