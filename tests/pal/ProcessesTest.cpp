@@ -104,14 +104,6 @@ TEST_F(ProcessesTest, OfAnUnquotedNameTheShortestThatIsThereCounts)
     EXPECT_EQ(Start(L"\"" + line + L"\" exit 3").error, DWORD{ERROR_SUCCESS});
 }
 
-TEST_F(ProcessesTest, AnApplicationNamePicksTheFileWhateverTheCommandLineSays)
-{
-    const std::wstring program = CopyChild(L"two words/child.exe");
-    const StartResult child = Start(L"anything exit 6", nullptr, program.c_str());
-    ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
-    EXPECT_EQ(ExitCode(child.process), 6);
-}
-
 TEST_F(ProcessesTest, TheExtensionMayBeLeftOut)
 {
     const std::wstring program = CopyChild(L"child.exe");
@@ -130,20 +122,6 @@ TEST_F(ProcessesTest, AChildStartsInTheFolderItIsGiven)
     ASSERT_EQ(Report().size(), 1u);
     EXPECT_EQ(QFileInfo(QString::fromStdString(Report()[0])).canonicalFilePath(),
         QFileInfo(QString::fromStdWString(PathOf(L"work"))).canonicalFilePath());
-}
-
-TEST_F(ProcessesTest, WhatCannotBeStartedSaysWhy)
-{
-    EXPECT_EQ(Start(PathOf(L"none.exe")).error, DWORD{ERROR_FILE_NOT_FOUND});
-    EXPECT_EQ(Start(L"no-such-program-anywhere.exe /S").error, DWORD{ERROR_FILE_NOT_FOUND});
-    QFile text(QString::fromStdWString(PathOf(L"text.exe")));
-    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
-    text.write("This is no program.\n");
-    text.setPermissions(text.permissions() | QFile::ExeOwner);
-    text.close();
-    EXPECT_EQ(Start(PathOf(L"text.exe")).error, DWORD{ERROR_BAD_EXE_FORMAT});
-    EXPECT_EQ(Start(L"\"" + ChildProgram() + L"\" exit 0", PathOf(L"no folder").c_str()).error,
-        DWORD{ERROR_DIRECTORY});
 }
 
 TEST_F(ProcessesTest, OpenedByItsNumberAProcessIsTheSame)

@@ -65,50 +65,6 @@ TEST_F(RegistryValuesTest, EveryTextTypeComesBackAsItWasStored)
     }
 }
 
-TEST_F(RegistryValuesTest, AskingTellsTheSizeAndATooSmallBufferIsMoreData)
-{
-    SetText(Key(), L"value", L"1234");
-    const DWORD bytes = 5 * sizeof(wchar_t);
-    DWORD size = 0;
-    DWORD type = 0;
-    BYTE data[64] = {};
-    EXPECT_EQ(RegQueryValueExW(Key(), L"value", nullptr, &type, nullptr, nullptr), ERROR_SUCCESS);
-    EXPECT_EQ(type, DWORD{REG_SZ});
-    EXPECT_EQ(RegQueryValueExW(Key(), L"value", nullptr, nullptr, nullptr, &size), ERROR_SUCCESS);
-    EXPECT_EQ(size, bytes);
-    size = bytes - 1;
-    EXPECT_EQ(RegQueryValueExW(Key(), L"value", nullptr, &type, data, &size), ERROR_MORE_DATA);
-    EXPECT_EQ(size, bytes);
-    EXPECT_EQ(RegQueryValueExW(Key(), L"value", nullptr, &type, data, &size), ERROR_SUCCESS);
-    EXPECT_STREQ(reinterpret_cast<const wchar_t*>(data), L"1234");
-    EXPECT_EQ(
-        RegQueryValueExW(Key(), L"value", nullptr, &type, data, nullptr), ERROR_INVALID_PARAMETER);
-    EXPECT_EQ(
-        RegQueryValueExW(Key(), L"none", nullptr, &type, nullptr, &size), ERROR_FILE_NOT_FOUND);
-}
-
-TEST_F(RegistryValuesTest, TextStoredWithoutAZeroIsReadWithOneWhereThereIsRoom)
-{
-    const DWORD bytes = 3 * sizeof(wchar_t);
-    ASSERT_EQ(
-        RegSetValueExW(Key(), L"value", 0, REG_SZ, reinterpret_cast<const BYTE*>(L"abcX"), bytes),
-        ERROR_SUCCESS);
-    wchar_t text[8];
-    std::wmemset(text, L'#', 8);
-    DWORD size = bytes;
-    EXPECT_EQ(
-        RegQueryValueExW(Key(), L"value", nullptr, nullptr, reinterpret_cast<BYTE*>(text), &size),
-        ERROR_SUCCESS);
-    EXPECT_EQ(size, bytes);
-    EXPECT_EQ(std::wstring(text, 4), L"abc#");
-    size = sizeof(text);
-    EXPECT_EQ(
-        RegQueryValueExW(Key(), L"value", nullptr, nullptr, reinterpret_cast<BYTE*>(text), &size),
-        ERROR_SUCCESS);
-    EXPECT_EQ(size, bytes);
-    EXPECT_STREQ(text, L"abc");
-}
-
 TEST_F(RegistryValuesTest, NamesIgnoreCaseAndKeepTheOneTheyWereMadeWith)
 {
     SetText(Key(), L"InstallDir", L"first");
@@ -136,33 +92,6 @@ TEST_F(RegistryValuesTest, ANameMayHoldWhatAKeyNameMayNot)
     EXPECT_EQ(Sorted(ValueNames(Key())), Sorted(names));
     for (const std::wstring& name : names)
         EXPECT_EQ(TextOf(Key(), name), name);
-}
-
-TEST_F(RegistryValuesTest, ListingGivesNameTypeAndDataAndSaysWhatDoesNotFit)
-{
-    SetText(Key(), L"four", L"text");
-    wchar_t name[8];
-    wchar_t text[8];
-    DWORD type = 0;
-    DWORD length = 4;
-    DWORD size = sizeof(text);
-    const auto list = [&](DWORD index)
-    {
-        return RegEnumValueW(
-            Key(), index, name, &length, nullptr, &type, reinterpret_cast<BYTE*>(text), &size);
-    };
-    EXPECT_EQ(list(0), ERROR_MORE_DATA);
-    length = 5;
-    size = 5 * sizeof(wchar_t) - 1;
-    EXPECT_EQ(list(0), ERROR_MORE_DATA);
-    EXPECT_EQ(size, 5 * sizeof(wchar_t));
-    length = 5;
-    EXPECT_EQ(list(0), ERROR_SUCCESS);
-    EXPECT_EQ(length, 4u);
-    EXPECT_STREQ(name, L"four");
-    EXPECT_EQ(type, DWORD{REG_SZ});
-    EXPECT_STREQ(text, L"text");
-    EXPECT_EQ(list(1), ERROR_NO_MORE_ITEMS);
 }
 
 TEST_F(RegistryValuesTest, ManyValuesInOneKeyAreAllThereAndCanAllGo)
