@@ -72,6 +72,7 @@ HKEY MakeHandle(const RegistrySession& session, const KeyPath& path, REGSAM acce
     const KeyLocation& parent = session.Location();
     const auto key =
         std::make_shared<OpenKey>(KeyLocation{parent.store, parent.root, path}, access);
+    key->Node(); // binds the handle to this key, not to a later one of the same name
     return static_cast<HKEY>(HandleTable::Instance().Add(key));
 }
 
