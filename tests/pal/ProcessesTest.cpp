@@ -38,17 +38,6 @@ protected:
     }
 };
 
-TEST_F(ProcessesTest, AChildEndsWithItsExitCode)
-{
-    for (const int code : {0, 1, 42, 200})
-    {
-        const StartResult child =
-            Start(L"\"" + ChildProgram() + L"\" exit " + std::to_wstring(code));
-        ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
-        EXPECT_EQ(ExitCode(child.process), code);
-    }
-}
-
 TEST_F(ProcessesTest, AChildIsActiveUntilItIsTerminatedWithACode)
 {
     const StartResult child = StartWaiting();
@@ -83,33 +72,6 @@ TEST_F(ProcessesTest, ArgumentsAreCutByTheRulesOfQuotesAndBackslashes)
     };
     for (const auto& [text, seen] : cases)
         EXPECT_EQ(ArgumentsSeen(text), seen) << QString::fromWCharArray(text).toStdString();
-}
-
-TEST_F(ProcessesTest, AnUnquotedProgramMayHoldBlanks)
-{
-    const std::wstring program = CopyChild(L"two words/the child.exe");
-    const StartResult child = Start(program + L" exit 5");
-    ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
-    EXPECT_EQ(ExitCode(child.process), 5);
-}
-
-TEST_F(ProcessesTest, OfAnUnquotedNameTheShortestThatIsThereCounts)
-{
-    CopyChild(L"two words.exe");
-    const std::wstring shorter = CopyChild(L"two.exe");
-    const std::wstring line = shorter.substr(0, shorter.size() - 4) + L" words.exe";
-    const StartResult child = Start(line + L" wait");
-    ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
-    EXPECT_EQ(ExitCode(child.process), 99); // its first argument is "words.exe"
-    EXPECT_EQ(Start(L"\"" + line + L"\" exit 3").error, DWORD{ERROR_SUCCESS});
-}
-
-TEST_F(ProcessesTest, TheExtensionMayBeLeftOut)
-{
-    const std::wstring program = CopyChild(L"child.exe");
-    const StartResult child = Start(program.substr(0, program.size() - 4) + L" exit 4");
-    ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
-    EXPECT_EQ(ExitCode(child.process), 4);
 }
 
 TEST_F(ProcessesTest, AChildStartsInTheFolderItIsGiven)

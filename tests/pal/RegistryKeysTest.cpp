@@ -29,28 +29,6 @@ TEST_F(RegistryKeysTest, CreatingMakesEveryKeyOnTheWayAndTellsWhetherItWasThere)
     RegCloseKey(key);
 }
 
-TEST_F(RegistryKeysTest, OpeningFindsKeysWithoutRegardToCaseAndNeverMakesThem)
-{
-    RegCloseKey(MakeKey(Key(), L"M\u00e4rz"));
-    HKEY key = nullptr;
-    ASSERT_EQ(RegOpenKeyExW(Key(), L"m\u00c4RZ", 0, KEY_READ, &key), ERROR_SUCCESS);
-    RegCloseKey(key);
-    EXPECT_EQ(RegOpenKeyExW(Key(), L"Missing", 0, KEY_READ, &key), ERROR_FILE_NOT_FOUND);
-    EXPECT_EQ(SubKeyNames(Key()), Names{L"M\u00e4rz"});
-}
-
-TEST_F(RegistryKeysTest, OpeningNothingOpensTheKeyItself)
-{
-    SetText(Key(), L"name", L"own");
-    HKEY same = nullptr;
-    ASSERT_EQ(RegOpenKeyExW(Key(), nullptr, 0, KEY_READ, &same), ERROR_SUCCESS);
-    EXPECT_EQ(TextOf(same, L"name"), L"own");
-    RegCloseKey(same);
-    ASSERT_EQ(RegOpenKeyExW(Key(), L"", 0, KEY_READ, &same), ERROR_SUCCESS);
-    EXPECT_EQ(TextOf(same, L"name"), L"own");
-    RegCloseKey(same);
-}
-
 TEST_F(RegistryKeysTest, SubKeysAreListedSortedAndKeepTheirCase)
 {
     for (const wchar_t* name : {L"beta", L"Alpha", L"GAMMA", L"alpha2"})

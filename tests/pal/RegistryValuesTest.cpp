@@ -1,5 +1,5 @@
 #include "support/PalMachine.h"
-#include "support/RegistryCalls.h"
+#include "support/RegistrySamples.h"
 
 #include <algorithm>
 #include <cwchar>
@@ -24,44 +24,17 @@ Names Sorted(Names names)
 
 TEST_F(RegistryValuesTest, EveryTypeComesBackAsItWasStored)
 {
-    const std::vector<std::pair<DWORD, Bytes>> values = {
-        {REG_NONE, {}},
-        {REG_NONE, {1, 2, 3}},
-        {REG_BINARY, Bytes(300, 0xA5)},
-        {REG_DWORD, {0x78, 0x56, 0x34, 0x12}},
-        {REG_QWORD, {1, 0, 0, 0, 0, 0, 0, 0x80}},
-    };
-    for (const auto& [type, data] : values)
+    for (const RegistrySample& sample : RegistrySamples())
     {
-        ASSERT_EQ(SetBytes(Key(), L"value", type, data), ERROR_SUCCESS);
-        const auto seen = SeeValue(Key(), L"VALUE");
+        const bool isText = !sample.text.empty();
+        ASSERT_EQ(isText ? SetWide(Key(), sample.name, sample.type, sample.text)
+                         : SetBytes(Key(), sample.name, sample.type, sample.bytes),
+            ERROR_SUCCESS);
+        const auto seen = SeeValue(Key(), sample.name);
         ASSERT_TRUE(seen);
-        EXPECT_EQ(seen->type, type);
-        EXPECT_EQ(seen->data, data);
-    }
-}
-
-TEST_F(RegistryValuesTest, EveryTextTypeComesBackAsItWasStored)
-{
-    using namespace std::string_literals;
-    const std::vector<std::pair<DWORD, std::wstring>> texts = {
-        {REG_SZ, L"\0"s},
-        {REG_SZ, L"plain\0"s},
-        {REG_SZ, L"\"quoted\" C:\\back\\slash %PATH% ; [x]\0"s},
-        {REG_SZ, L"two\r\nlines\0"s},
-        {REG_SZ, L"a zero \0 inside\0"s},
-        {REG_SZ, L"\u4e2d\u6587 \u00fc\0"s},
-        {REG_EXPAND_SZ, L"%ProgramFiles%\\x\0"s},
-        {REG_MULTI_SZ, L"one\0two\0\0"s},
-        {REG_MULTI_SZ, L"\0"s},
-    };
-    for (const auto& [type, text] : texts)
-    {
-        ASSERT_EQ(SetWide(Key(), L"value", type, text), ERROR_SUCCESS);
-        const auto seen = SeeValue(Key(), L"value");
-        ASSERT_TRUE(seen);
-        EXPECT_EQ(seen->type, type);
-        EXPECT_EQ(seen->Text(), text);
+        EXPECT_EQ(seen->type, sample.type);
+        EXPECT_EQ(isText ? seen->Text() : sample.text, sample.text);
+        EXPECT_EQ(isText ? sample.bytes : seen->data, sample.bytes);
     }
 }
 
@@ -71,17 +44,6 @@ TEST_F(RegistryValuesTest, NamesIgnoreCaseAndKeepTheOneTheyWereMadeWith)
     SetText(Key(), L"INSTALLDIR", L"second");
     EXPECT_EQ(ValueNames(Key()), Names{L"InstallDir"});
     EXPECT_EQ(TextOf(Key(), L"installdir"), L"second");
-}
-
-TEST_F(RegistryValuesTest, TheDefaultValueHasAnEmptyNameOrNone)
-{
-    SetText(Key(), L"", L"default");
-    DWORD size = 0;
-    EXPECT_EQ(RegQueryValueExW(Key(), nullptr, nullptr, nullptr, nullptr, &size), ERROR_SUCCESS);
-    EXPECT_EQ(size, 8 * sizeof(wchar_t));
-    EXPECT_EQ(ValueNames(Key()), Names{L""});
-    EXPECT_EQ(RegDeleteValueW(Key(), nullptr), ERROR_SUCCESS);
-    EXPECT_EQ(RegDeleteValueW(Key(), L""), ERROR_FILE_NOT_FOUND);
 }
 
 TEST_F(RegistryValuesTest, ANameMayHoldWhatAKeyNameMayNot)

@@ -74,6 +74,7 @@ TEST_F(WindowsFactsTest, OfKeys)
     const HKEY gone = MakeKey(Key(), L"Gone");
     RegDeleteKeyW(Key(), L"Gone");
     RegCloseKey(MakeKey(Key(), L"Gone"));
+    const HKEY other = MakeKey(Key(), L"M\u00e4rz");
     const HKEY closed = MakeKey(Key(), L"Closed");
     RegCloseKey(closed);
     const auto open = [](HKEY key, const wchar_t* name, REGSAM access = KEY_READ)
@@ -98,6 +99,8 @@ TEST_F(WindowsFactsTest, OfKeys)
     };
     Check({
         {"A missing key gives no handle", open(parent, L"none"), fails(ERROR_FILE_NOT_FOUND)},
+        {"Case does not matter", open(Key(), L"m\u00c4RZ"), Seen(0, parent)},
+        {"No name opens the key itself", open(parent, nullptr), Seen(0, parent)},
         {"A null key has no sub-keys", open(nullptr, L""), fails(ERROR_INVALID_HANDLE)},
         {"A closed key has none", open(closed, L"Child"), fails(ERROR_INVALID_HANDLE)},
         {"A path begins with a name", open(parent, L"\\Child"), fails(ERROR_BAD_PATHNAME)},
@@ -117,17 +120,17 @@ TEST_F(WindowsFactsTest, OfKeys)
         {"The handle's rights do not matter", Seen(RegDeleteKeyW(reader, L"Child")), Seen(0)},
         {"Nor does case", Seen(RegDeleteKeyW(Key(), L"PARENT\\")), Seen(0)},
         {"It is gone", open(Key(), L"Parent"), fails(ERROR_FILE_NOT_FOUND)},
-        {"An empty name deletes the key itself", Seen(RegDeleteKeyW(Key(), L"Gone")), Seen(0)},
+        {"An empty name deletes the key itself", Seen(RegDeleteKeyW(other, L"")), Seen(0)},
         {"A deleted key's handle says so",
             Seen(RegQueryValueExW(gone, L"", nullptr, nullptr, nullptr, &size),
                 SetText(gone, L"", L"text"), RegDeleteValueW(gone, L""),
                 RegEnumKeyExW(gone, 0, name, &length, nullptr, nullptr, nullptr, nullptr)),
             Seen(ERROR_KEY_DELETED, ERROR_KEY_DELETED, ERROR_KEY_DELETED, ERROR_KEY_DELETED)},
         {"It opens nothing", open(gone, L"Child"), fails(ERROR_KEY_DELETED)},
-        {"It is closed like any other", Seen(RegCloseKey(gone)), Seen(0)},
+        {"It is closed all the same", Seen(RegCloseKey(gone)), Seen(0)},
     });
-    RegCloseKey(parent);
-    RegCloseKey(reader);
+    for (const HKEY key : {parent, reader, other})
+        RegCloseKey(key);
 }
 
 TEST_F(WindowsFactsTest, OfValues)
@@ -135,7 +138,6 @@ TEST_F(WindowsFactsTest, OfValues)
     const DWORD textSize = 5 * sizeof(wchar_t);
     SetText(Key(), L"four", L"text");
     SetWide(Key(), L"open", REG_SZ, L"abc");
-    SetBytes(Key(), L"short", REG_DWORD, {1, 2});
     const HKEY reader = MakeKey(Key(), L"", KEY_READ);
     const HKEY writer = MakeKey(Key(), L"", KEY_SET_VALUE);
     wchar_t name[16];
@@ -166,7 +168,7 @@ TEST_F(WindowsFactsTest, OfValues)
             Seen(ERROR_MORE_DATA, empty, 4, REG_SZ, textSize)},
         {"Data that does not fit leaves the rest", list(0, 5, textSize - 1, Key()),
             Seen(ERROR_MORE_DATA, L"four"s, 4, REG_SZ, textSize)},
-        {"The list ends after the last value", list(3, 5, 64, Key()),
+        {"The list ends after the last value", list(2, 5, 64, Key()),
             Seen(ERROR_NO_MORE_ITEMS, empty, 5, 0, 64)},
         {"A name needs a buffer",
             Seen(RegEnumValueW(Key(), 0, nullptr, &both, nullptr, nullptr, nullptr, nullptr)),
@@ -187,11 +189,15 @@ TEST_F(WindowsFactsTest, OfValues)
             Seen(0, REG_SZ, 3 * sizeof(wchar_t), L"abc\0"s)},
         {"And only there", query(L"open", 3 * sizeof(wchar_t), Key()),
             Seen(0, REG_SZ, 3 * sizeof(wchar_t), L"abc#"s)},
-        {"A number may have any size", query(L"short", 0, Key()), Seen(0, REG_DWORD, 2, L"####"s)},
         {"A missing value has no size", query(L"none", 0, Key()),
             Seen(ERROR_FILE_NOT_FOUND, 0, 0, L"####"s)},
         {"A missing value is not deleted", Seen(RegDeleteValueW(Key(), L"none")),
             Seen(ERROR_FILE_NOT_FOUND)},
+        {"The default value has no name", Seen(SetText(Key(), L"", L"")), Seen(0)},
+        {"Or an empty one", query(nullptr, 0, Key()), Seen(0, REG_SZ, sizeof(wchar_t), L"####"s)},
+        {"It is deleted once",
+            Seen(RegDeleteValueW(reader, nullptr), RegDeleteValueW(Key(), nullptr)),
+            Seen(ERROR_ACCESS_DENIED, 0)},
         {"Data needs a place", Seen(RegSetValueExW(Key(), L"x", 0, REG_BINARY, nullptr, 1)),
             Seen(ERROR_NOACCESS)},
         {"A reader does not write",
@@ -291,6 +297,10 @@ TEST_F(WindowsFactsTest, OfProcesses)
     const std::wstring child = L"\"" + ChildProgram() + L"\" ";
     const std::wstring folder = PathOf(L"sub");
     CopyChild(L"sub/child.exe");
+    CopyChild(L"one words.exe");
+    CopyChild(L"one.exe");
+    const std::wstring one = PathOf(L"one");
+    const std::wstring blanks = CopyChild(L"a b/c d.exe");
     const auto start = [](const wchar_t* application, const std::wstring& commandLine,
                            const wchar_t* startFolder = nullptr)
     {
@@ -341,6 +351,10 @@ TEST_F(WindowsFactsTest, OfProcesses)
         {"It must not be empty", start(L"", L""), fails(ERROR_PATH_NOT_FOUND)},
         {"The folder to start in is there", start(nullptr, child + L"exit 0", L"none"),
             fails(ERROR_DIRECTORY)},
+        {"An unquoted name may hold blanks", start(nullptr, blanks + L" exit 5"), Seen(5)},
+        {"The shortest that is there counts", start(nullptr, one + L" words.exe wait"), Seen(99)},
+        {"Quotes keep it together", start(nullptr, L"\"" + one + L" words.exe\" exit 3"), Seen(3)},
+        {"Its extension may be missing", start(nullptr, one + L" exit 4"), Seen(4)},
         {"A relative name begins in the caller's folder",
             start(nullptr, L"sub\\child.exe exit 5", folder.c_str()), Seen(5)},
         {"So does an application's", start(L"sub\\child.exe", L"x exit 6", folder.c_str()),
@@ -405,6 +419,14 @@ TEST_F(WindowsFactsTest, OfLinksAndFolders)
     const ComThread com;
     TestLink link;
     wchar_t text[MAX_PATH] = L"old";
+    const CLSID unknown = {0x5F0B7F3E, 0x1C2D, 0x4E5F, {0x80, 1, 2, 3, 4, 5, 6, 7}};
+    const auto create = [&text](REFCLSID classId, REFIID iid)
+    {
+        void* object = text;
+        const HRESULT result =
+            CoCreateInstance(classId, nullptr, CLSCTX_INPROC_SERVER, iid, &object);
+        return Seen(result, object);
+    };
     // A result, and the text that the call left.
     const auto told = [&text](HRESULT result) { return Seen(result) + Shown(std::wstring(text)); };
     const auto arguments = [&](int size) { return told(link.Link().GetArguments(text, size)); };
@@ -417,6 +439,8 @@ TEST_F(WindowsFactsTest, OfLinksAndFolders)
             Seen(HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND))},
         {"It is loaded from a file", Seen(link.Load(PathOf(L"none.lnk"))),
             Seen(HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND))},
+        {"An unknown class", create(unknown, IID_IUnknown), Seen(REGDB_E_CLASSNOTREG, nullptr)},
+        {"An unknown interface", create(CLSID_ShellLink, unknown), Seen(E_NOINTERFACE, nullptr)},
         {"An object needs a place",
             Seen(CoCreateInstance(
                 CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW, nullptr)),
