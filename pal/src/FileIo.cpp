@@ -115,11 +115,14 @@ DWORD LowPart(int64_t value)
 
 } // namespace Pal
 
-// Keeps:   at the end of the file TRUE with zero bytes; ERROR_ACCESS_DENIED without GENERIC_READ.
+// Keeps:   at the end of the file TRUE with zero bytes; ERROR_ACCESS_DENIED without GENERIC_READ,
+//          ERROR_NOACCESS for an unusable buffer, both with zero bytes.
 // Refuses: overlapped reading.
 BOOL ReadFile(
     HANDLE file, LPVOID buffer, DWORD bytesToRead, LPDWORD bytesRead, LPOVERLAPPED overlapped)
 {
+    if (bytesRead)
+        *bytesRead = 0;
     if (Pal::FaultHits(__func__))
         return FALSE;
     const auto open = Pal::FindFile(file);
@@ -132,9 +135,10 @@ BOOL ReadFile(
     return error == ERROR_SUCCESS ? TRUE : Pal::Failed(error);
 }
 
-// Keeps:   all bytes are written, or FALSE; ERROR_DISK_FULL when there is no room;
-//          ERROR_ACCESS_DENIED without GENERIC_WRITE.
-// Differs: bytesWritten tells after a failure how much was written before it.
+// Keeps:   all bytes are written, or FALSE; ERROR_DISK_FULL if there is no room,
+//          ERROR_ACCESS_DENIED without GENERIC_WRITE, ERROR_INVALID_USER_BUFFER for an unusable
+//          buffer.
+// Differs: after a failure bytesWritten counts the bytes written before it.
 // Refuses: overlapped writing.
 BOOL WriteFile(
     HANDLE file, LPCVOID buffer, DWORD bytesToWrite, LPDWORD bytesWritten, LPOVERLAPPED overlapped)
@@ -150,6 +154,8 @@ BOOL WriteFile(
     const auto writeSome = [&](DWORD offset, DWORD size)
     { return write(open->Descriptor(), static_cast<const char*>(buffer) + offset, size); };
     error = Pal::TransferAll(bytesToWrite, *bytesWritten, writeSome);
+    if (error == ERROR_NOACCESS)
+        error = ERROR_INVALID_USER_BUFFER;
     if (error == ERROR_SUCCESS && *bytesWritten < bytesToWrite)
         error = ERROR_WRITE_FAULT;
     return error == ERROR_SUCCESS ? TRUE : Pal::Failed(error);

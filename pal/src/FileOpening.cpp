@@ -7,6 +7,8 @@
 #include "OpenFile.h"
 #include "WideText.h"
 
+#include <QString>
+
 #include <cerrno>
 #include <filesystem>
 #include <memory>
@@ -132,8 +134,16 @@ HANDLE EnterFile(const std::shared_ptr<OpenFile>& file, DWORD disposition)
     return handle;
 }
 
+bool IsNullDevice(const std::string& path)
+{
+    const std::string name = std::filesystem::path(path).filename();
+    return QString::fromStdString(name).compare("nul", Qt::CaseInsensitive) == 0;
+}
+
 HANDLE OpenNativeFile(const std::string& path, const OpenRequest& request)
 {
+    if (path.back() == '/')
+        return FailedOpen(ERROR_PATH_NOT_FOUND);
     struct stat status = {};
     const bool existed = stat(path.c_str(), &status) == 0;
     const int descriptor = OpenDescriptor(path, OpenFlags(request));
@@ -161,7 +171,9 @@ HANDLE OpenNamedFile(Name name, const OpenRequest& request, DWORD flags, bool ha
     std::string path;
     if (error == ERROR_SUCCESS)
         error = NativePath(name, path);
-    return error == ERROR_SUCCESS ? OpenNativeFile(path, request) : FailedOpen(error);
+    if (error != ERROR_SUCCESS)
+        return FailedOpen(error);
+    return OpenNativeFile(IsNullDevice(path) ? "/dev/null" : path, request);
 }
 
 DWORD AttributesOf(const std::string& path, const struct stat& status)
@@ -181,11 +193,15 @@ DWORD AttributesOf(const std::string& path, const struct stat& status)
 } // namespace Pal
 
 // Keeps:   access, share modes and dispositions; ERROR_FILE_EXISTS from CREATE_NEW; success sets
-//          the last error to zero, or to ERROR_ALREADY_EXISTS where CREATE_ALWAYS or OPEN_ALWAYS
-//          found the file; a folder is ERROR_ACCESS_DENIED; a symbolic link is followed.
-// Differs: share modes bind the handles of this process only, and FILE_SHARE_DELETE changes
-//          nothing. Names are case-sensitive and may hold any character. A new file gets mode 0777
-//          less the umask, because Windows has no executable bit.
+//          the last error to zero, or to ERROR_ALREADY_EXISTS if CREATE_ALWAYS or OPEN_ALWAYS found
+//          the file. A folder is ERROR_ACCESS_DENIED, a name with a separator at its end
+//          ERROR_PATH_NOT_FOUND. A symbolic link is followed. "nul" is the null device in every
+//          folder.
+// Differs: share modes apply to the handles of this process only, and FILE_SHARE_DELETE changes
+//          nothing. Names are case-sensitive, may hold any character and have any length; the
+//          prefix "\\?\" has no meaning, and the names of other devices, such as CON and COM1, are
+//          ordinary ones. A new file gets mode 0777 less the umask, because Windows has no
+//          executable bit.
 // Refuses: access other than GENERIC_READ and GENERIC_WRITE, every flag and attribute but
 //          FILE_ATTRIBUTE_NORMAL, security attributes, a template; CREATE_ALWAYS without
 //          GENERIC_WRITE.
@@ -211,8 +227,8 @@ HANDLE CreateFileA(LPCSTR fileName, DWORD desiredAccess, DWORD shareMode,
         flagsAndAttributes, securityAttributes || templateFile);
 }
 
-// Keeps:   ERROR_ALREADY_EXISTS for whatever bears the name, ERROR_PATH_NOT_FOUND without the
-//          parent folder.
+// Keeps:   ERROR_ALREADY_EXISTS if the name exists, ERROR_PATH_NOT_FOUND without the parent folder.
+// Differs: names as in CreateFileW, so dots and blanks at the end of a name are kept.
 // Refuses: security attributes.
 BOOL CreateDirectoryW(LPCWSTR pathName, LPSECURITY_ATTRIBUTES securityAttributes)
 {
@@ -230,9 +246,9 @@ BOOL CreateDirectoryW(LPCWSTR pathName, LPSECURITY_ATTRIBUTES securityAttributes
 }
 
 // Keeps:   folder, read-only, and a symbolic link as FILE_ATTRIBUTE_REPARSE_POINT of its own;
-//          FILE_ATTRIBUTE_NORMAL when there is nothing else to say.
-// Differs: a file is read-only when nobody may write it; a folder never is. The other attributes,
-//          FILE_ATTRIBUTE_ARCHIVE among them, do not exist.
+//          FILE_ATTRIBUTE_NORMAL if no other attribute is set.
+// Differs: a file is read-only if nobody may write it; a folder never is. The other attributes,
+//          including FILE_ATTRIBUTE_ARCHIVE, do not exist.
 DWORD GetFileAttributesW(LPCWSTR fileName)
 {
     if (Pal::FaultHits(__func__))

@@ -32,11 +32,11 @@ struct FolderOfShell
 
 constexpr FolderOfShell shellFolders[] = {
     {CSIDL_DESKTOP, nullptr, "Desktop"},
-    {CSIDL_PROGRAMS, nullptr, "Start Menu/Programs"},
+    {CSIDL_PROGRAMS, nullptr, "AppData/Roaming/Microsoft/Windows/Start Menu/Programs"},
     {CSIDL_APPDATA, nullptr, "AppData/Roaming"},
     {CSIDL_LOCAL_APPDATA, nullptr, "AppData/Local"},
     {CSIDL_COMMON_DESKTOPDIRECTORY, "Users/Public", "Desktop"},
-    {CSIDL_COMMON_PROGRAMS, "ProgramData", "Start Menu/Programs"},
+    {CSIDL_COMMON_PROGRAMS, "ProgramData", "Microsoft/Windows/Start Menu/Programs"},
     {CSIDL_COMMON_APPDATA, "ProgramData", ""},
     {CSIDL_SYSTEM, "Windows", "System32"},
 };

@@ -1,11 +1,12 @@
-// schtasks: keeps the tasks of the machine, each in a file of its own. Nothing starts them.
+// schtasks: stores the tasks of the machine, each in its own file. Nothing starts them.
 //
 //   schtasks /create /sc onlogon /rl highest /tn <name> /tr "<command>" [/f]
 //   schtasks /query /tn <name>
-//   schtasks /delete /f /tn <name>
+//   schtasks /delete /tn <name> [/f]
 //
-// Exit codes: 0 done, 1 not. Names ignore case. Nobody is ever asked: /create without /f fails for
-// a task that exists. Every other schedule, level and option is refused.
+// Exit codes: 0 done, 1 not. Names ignore case. Without /f, /delete and a /create for a task that
+// exists ask on standard output and read the answer from standard input; everything but "y", the
+// end of the input included, is no. Every other schedule, level and option is refused.
 #include "Machine.h"
 #include "WholeFile.h"
 
@@ -67,6 +68,14 @@ void Expect(const Request& request, const QString& option, const QString& onlyVa
         Refuse("Invalid value for " + option + ": only " + onlyValue + " is known.");
 }
 
+bool IsConfirmed(const QString& question)
+{
+    std::printf("WARNING: %s (Y/N)? ", qUtf8Printable(question));
+    std::fflush(stdout);
+    const int answer = std::getchar();
+    return answer == 'y' || answer == 'Y';
+}
+
 std::string TaskFile(const Request& request)
 {
     const QByteArray name = QUrl::toPercentEncoding(Value(request, "/tn").toLower());
@@ -79,8 +88,9 @@ void Create(const Request& request)
     const QString command = Value(request, "/tr");
     Expect(request, "/sc", "onlogon");
     Expect(request, "/rl", "highest");
-    if (!request.force && std::filesystem::exists(TaskFile(request)))
-        Refuse("The task \"" + name + "\" exists already: /f replaces it.");
+    if (!request.force && std::filesystem::exists(TaskFile(request)) &&
+        !IsConfirmed("The task name \"" + name + "\" already exists. Do you want to replace it"))
+        Refuse("The task \"" + name + "\" is not replaced.");
     const QString text =
         "name=" + name + "\nschedule=onlogon\nlevel=highest\ncommand=" + command + "\n";
     if (Pal::WriteWholeFile(TaskFile(request), text.toStdString()) != ERROR_SUCCESS)
@@ -100,8 +110,8 @@ void Query(const Request& request)
 void Delete(const Request& request)
 {
     const QString name = Value(request, "/tn");
-    if (!request.force)
-        Refuse("Nobody is asked: /delete needs /f.");
+    if (!request.force && !IsConfirmed("Are you sure you want to remove the task \"" + name + "\""))
+        Refuse("The task \"" + name + "\" is not deleted.");
     if (!std::filesystem::remove(TaskFile(request)))
         Refuse("The specified task name \"" + name + "\" does not exist in the system.");
     std::printf(

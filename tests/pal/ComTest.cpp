@@ -7,8 +7,6 @@
 namespace
 {
 
-constexpr CLSID unknownClass = {0x5F0B7F3E, 0x1C2D, 0x4E5F, {0x80, 1, 2, 3, 4, 5, 6, 7}};
-
 HRESULT Create(REFCLSID classId, REFIID iid, IUnknown** object)
 {
     return CoCreateInstance(
@@ -20,17 +18,6 @@ template <typename Steps>
 void OnFreshThread(Steps steps)
 {
     std::thread(steps).join();
-}
-
-TEST(ComTest, WithoutInitialisationNothingIsMade)
-{
-    OnFreshThread(
-        []
-        {
-            IUnknown* object = nullptr;
-            EXPECT_EQ(Create(CLSID_ShellLink, IID_IUnknown, &object), CO_E_NOTINITIALIZED);
-            EXPECT_EQ(object, nullptr);
-        });
 }
 
 TEST(ComTest, EveryInitialisationWantsItsEnd)
@@ -46,22 +33,6 @@ TEST(ComTest, EveryInitialisationWantsItsEnd)
             EXPECT_EQ(object->Release(), 0u);
             CoUninitialize();
             EXPECT_EQ(Create(CLSID_ShellLink, IID_IUnknown, &object), CO_E_NOTINITIALIZED);
-        });
-}
-
-TEST(ComTest, AnUnknownClassAndAnUnknownInterfaceAreToldApart)
-{
-    OnFreshThread(
-        []
-        {
-            IUnknown* object = reinterpret_cast<IUnknown*>(1);
-            ASSERT_EQ(CoInitialize(nullptr), S_OK);
-            EXPECT_EQ(Create(unknownClass, IID_IUnknown, &object), REGDB_E_CLASSNOTREG);
-            EXPECT_EQ(object, nullptr);
-            object = reinterpret_cast<IUnknown*>(1);
-            EXPECT_EQ(Create(CLSID_ShellLink, unknownClass, &object), E_NOINTERFACE);
-            EXPECT_EQ(object, nullptr);
-            CoUninitialize();
         });
 }
 

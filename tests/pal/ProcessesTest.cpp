@@ -38,17 +38,6 @@ protected:
     }
 };
 
-TEST_F(ProcessesTest, AChildEndsWithItsExitCode)
-{
-    for (const int code : {0, 1, 42, 200})
-    {
-        const StartResult child =
-            Start(L"\"" + ChildProgram() + L"\" exit " + std::to_wstring(code));
-        ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
-        EXPECT_EQ(ExitCode(child.process), code);
-    }
-}
-
 TEST_F(ProcessesTest, AChildIsActiveUntilItIsTerminatedWithACode)
 {
     const StartResult child = StartWaiting();
@@ -85,41 +74,6 @@ TEST_F(ProcessesTest, ArgumentsAreCutByTheRulesOfQuotesAndBackslashes)
         EXPECT_EQ(ArgumentsSeen(text), seen) << QString::fromWCharArray(text).toStdString();
 }
 
-TEST_F(ProcessesTest, AnUnquotedProgramMayHoldBlanks)
-{
-    const std::wstring program = CopyChild(L"two words/the child.exe");
-    const StartResult child = Start(program + L" exit 5");
-    ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
-    EXPECT_EQ(ExitCode(child.process), 5);
-}
-
-TEST_F(ProcessesTest, OfAnUnquotedNameTheShortestThatIsThereCounts)
-{
-    CopyChild(L"two words.exe");
-    const std::wstring shorter = CopyChild(L"two.exe");
-    const std::wstring line = shorter.substr(0, shorter.size() - 4) + L" words.exe";
-    const StartResult child = Start(line + L" wait");
-    ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
-    EXPECT_EQ(ExitCode(child.process), 99); // its first argument is "words.exe"
-    EXPECT_EQ(Start(L"\"" + line + L"\" exit 3").error, DWORD{ERROR_SUCCESS});
-}
-
-TEST_F(ProcessesTest, AnApplicationNamePicksTheFileWhateverTheCommandLineSays)
-{
-    const std::wstring program = CopyChild(L"two words/child.exe");
-    const StartResult child = Start(L"anything exit 6", nullptr, program.c_str());
-    ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
-    EXPECT_EQ(ExitCode(child.process), 6);
-}
-
-TEST_F(ProcessesTest, TheExtensionMayBeLeftOut)
-{
-    const std::wstring program = CopyChild(L"child.exe");
-    const StartResult child = Start(program.substr(0, program.size() - 4) + L" exit 4");
-    ASSERT_EQ(child.error, DWORD{ERROR_SUCCESS});
-    EXPECT_EQ(ExitCode(child.process), 4);
-}
-
 TEST_F(ProcessesTest, AChildStartsInTheFolderItIsGiven)
 {
     ASSERT_TRUE(CreateDirectoryW(PathOf(L"work").c_str(), nullptr));
@@ -130,20 +84,6 @@ TEST_F(ProcessesTest, AChildStartsInTheFolderItIsGiven)
     ASSERT_EQ(Report().size(), 1u);
     EXPECT_EQ(QFileInfo(QString::fromStdString(Report()[0])).canonicalFilePath(),
         QFileInfo(QString::fromStdWString(PathOf(L"work"))).canonicalFilePath());
-}
-
-TEST_F(ProcessesTest, WhatCannotBeStartedSaysWhy)
-{
-    EXPECT_EQ(Start(PathOf(L"none.exe")).error, DWORD{ERROR_FILE_NOT_FOUND});
-    EXPECT_EQ(Start(L"no-such-program-anywhere.exe /S").error, DWORD{ERROR_FILE_NOT_FOUND});
-    QFile text(QString::fromStdWString(PathOf(L"text.exe")));
-    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
-    text.write("This is no program.\n");
-    text.setPermissions(text.permissions() | QFile::ExeOwner);
-    text.close();
-    EXPECT_EQ(Start(PathOf(L"text.exe")).error, DWORD{ERROR_BAD_EXE_FORMAT});
-    EXPECT_EQ(Start(L"\"" + ChildProgram() + L"\" exit 0", PathOf(L"no folder").c_str()).error,
-        DWORD{ERROR_DIRECTORY});
 }
 
 TEST_F(ProcessesTest, OpenedByItsNumberAProcessIsTheSame)

@@ -1,5 +1,5 @@
 #include "support/PalMachine.h"
-#include "support/RegistryCalls.h"
+#include "support/RegistrySamples.h"
 
 #include <algorithm>
 #include <cwchar>
@@ -24,89 +24,18 @@ Names Sorted(Names names)
 
 TEST_F(RegistryValuesTest, EveryTypeComesBackAsItWasStored)
 {
-    const std::vector<std::pair<DWORD, Bytes>> values = {
-        {REG_NONE, {}},
-        {REG_NONE, {1, 2, 3}},
-        {REG_BINARY, Bytes(300, 0xA5)},
-        {REG_DWORD, {0x78, 0x56, 0x34, 0x12}},
-        {REG_QWORD, {1, 0, 0, 0, 0, 0, 0, 0x80}},
-    };
-    for (const auto& [type, data] : values)
+    for (const RegistrySample& sample : RegistrySamples())
     {
-        ASSERT_EQ(SetBytes(Key(), L"value", type, data), ERROR_SUCCESS);
-        const auto seen = SeeValue(Key(), L"VALUE");
+        const bool isText = !sample.text.empty();
+        ASSERT_EQ(isText ? SetWide(Key(), sample.name, sample.type, sample.text)
+                         : SetBytes(Key(), sample.name, sample.type, sample.bytes),
+            ERROR_SUCCESS);
+        const auto seen = SeeValue(Key(), sample.name);
         ASSERT_TRUE(seen);
-        EXPECT_EQ(seen->type, type);
-        EXPECT_EQ(seen->data, data);
+        EXPECT_EQ(seen->type, sample.type);
+        EXPECT_EQ(isText ? seen->Text() : sample.text, sample.text);
+        EXPECT_EQ(isText ? sample.bytes : seen->data, sample.bytes);
     }
-}
-
-TEST_F(RegistryValuesTest, EveryTextTypeComesBackAsItWasStored)
-{
-    using namespace std::string_literals;
-    const std::vector<std::pair<DWORD, std::wstring>> texts = {
-        {REG_SZ, L"\0"s},
-        {REG_SZ, L"plain\0"s},
-        {REG_SZ, L"\"quoted\" C:\\back\\slash %PATH% ; [x]\0"s},
-        {REG_SZ, L"two\r\nlines\0"s},
-        {REG_SZ, L"a zero \0 inside\0"s},
-        {REG_SZ, L"\u4e2d\u6587 \u00fc\0"s},
-        {REG_EXPAND_SZ, L"%ProgramFiles%\\x\0"s},
-        {REG_MULTI_SZ, L"one\0two\0\0"s},
-        {REG_MULTI_SZ, L"\0"s},
-    };
-    for (const auto& [type, text] : texts)
-    {
-        ASSERT_EQ(SetWide(Key(), L"value", type, text), ERROR_SUCCESS);
-        const auto seen = SeeValue(Key(), L"value");
-        ASSERT_TRUE(seen);
-        EXPECT_EQ(seen->type, type);
-        EXPECT_EQ(seen->Text(), text);
-    }
-}
-
-TEST_F(RegistryValuesTest, AskingTellsTheSizeAndATooSmallBufferIsMoreData)
-{
-    SetText(Key(), L"value", L"1234");
-    const DWORD bytes = 5 * sizeof(wchar_t);
-    DWORD size = 0;
-    DWORD type = 0;
-    BYTE data[64] = {};
-    EXPECT_EQ(RegQueryValueExW(Key(), L"value", nullptr, &type, nullptr, nullptr), ERROR_SUCCESS);
-    EXPECT_EQ(type, DWORD{REG_SZ});
-    EXPECT_EQ(RegQueryValueExW(Key(), L"value", nullptr, nullptr, nullptr, &size), ERROR_SUCCESS);
-    EXPECT_EQ(size, bytes);
-    size = bytes - 1;
-    EXPECT_EQ(RegQueryValueExW(Key(), L"value", nullptr, &type, data, &size), ERROR_MORE_DATA);
-    EXPECT_EQ(size, bytes);
-    EXPECT_EQ(RegQueryValueExW(Key(), L"value", nullptr, &type, data, &size), ERROR_SUCCESS);
-    EXPECT_STREQ(reinterpret_cast<const wchar_t*>(data), L"1234");
-    EXPECT_EQ(
-        RegQueryValueExW(Key(), L"value", nullptr, &type, data, nullptr), ERROR_INVALID_PARAMETER);
-    EXPECT_EQ(
-        RegQueryValueExW(Key(), L"none", nullptr, &type, nullptr, &size), ERROR_FILE_NOT_FOUND);
-}
-
-TEST_F(RegistryValuesTest, TextStoredWithoutAZeroIsReadWithOneWhereThereIsRoom)
-{
-    const DWORD bytes = 3 * sizeof(wchar_t);
-    ASSERT_EQ(
-        RegSetValueExW(Key(), L"value", 0, REG_SZ, reinterpret_cast<const BYTE*>(L"abcX"), bytes),
-        ERROR_SUCCESS);
-    wchar_t text[8];
-    std::wmemset(text, L'#', 8);
-    DWORD size = bytes;
-    EXPECT_EQ(
-        RegQueryValueExW(Key(), L"value", nullptr, nullptr, reinterpret_cast<BYTE*>(text), &size),
-        ERROR_SUCCESS);
-    EXPECT_EQ(size, bytes);
-    EXPECT_EQ(std::wstring(text, 4), L"abc#");
-    size = sizeof(text);
-    EXPECT_EQ(
-        RegQueryValueExW(Key(), L"value", nullptr, nullptr, reinterpret_cast<BYTE*>(text), &size),
-        ERROR_SUCCESS);
-    EXPECT_EQ(size, bytes);
-    EXPECT_STREQ(text, L"abc");
 }
 
 TEST_F(RegistryValuesTest, NamesIgnoreCaseAndKeepTheOneTheyWereMadeWith)
@@ -117,17 +46,6 @@ TEST_F(RegistryValuesTest, NamesIgnoreCaseAndKeepTheOneTheyWereMadeWith)
     EXPECT_EQ(TextOf(Key(), L"installdir"), L"second");
 }
 
-TEST_F(RegistryValuesTest, TheDefaultValueHasAnEmptyNameOrNone)
-{
-    SetText(Key(), L"", L"default");
-    DWORD size = 0;
-    EXPECT_EQ(RegQueryValueExW(Key(), nullptr, nullptr, nullptr, nullptr, &size), ERROR_SUCCESS);
-    EXPECT_EQ(size, 8 * sizeof(wchar_t));
-    EXPECT_EQ(ValueNames(Key()), Names{L""});
-    EXPECT_EQ(RegDeleteValueW(Key(), nullptr), ERROR_SUCCESS);
-    EXPECT_EQ(RegDeleteValueW(Key(), L""), ERROR_FILE_NOT_FOUND);
-}
-
 TEST_F(RegistryValuesTest, ANameMayHoldWhatAKeyNameMayNot)
 {
     const Names names = {L"back\\slash", L"\"quoted\"", L"[a]=b", L"@", L"; c", L"sl/ash"};
@@ -136,33 +54,6 @@ TEST_F(RegistryValuesTest, ANameMayHoldWhatAKeyNameMayNot)
     EXPECT_EQ(Sorted(ValueNames(Key())), Sorted(names));
     for (const std::wstring& name : names)
         EXPECT_EQ(TextOf(Key(), name), name);
-}
-
-TEST_F(RegistryValuesTest, ListingGivesNameTypeAndDataAndSaysWhatDoesNotFit)
-{
-    SetText(Key(), L"four", L"text");
-    wchar_t name[8];
-    wchar_t text[8];
-    DWORD type = 0;
-    DWORD length = 4;
-    DWORD size = sizeof(text);
-    const auto list = [&](DWORD index)
-    {
-        return RegEnumValueW(
-            Key(), index, name, &length, nullptr, &type, reinterpret_cast<BYTE*>(text), &size);
-    };
-    EXPECT_EQ(list(0), ERROR_MORE_DATA);
-    length = 5;
-    size = 5 * sizeof(wchar_t) - 1;
-    EXPECT_EQ(list(0), ERROR_MORE_DATA);
-    EXPECT_EQ(size, 5 * sizeof(wchar_t));
-    length = 5;
-    EXPECT_EQ(list(0), ERROR_SUCCESS);
-    EXPECT_EQ(length, 4u);
-    EXPECT_STREQ(name, L"four");
-    EXPECT_EQ(type, DWORD{REG_SZ});
-    EXPECT_STREQ(text, L"text");
-    EXPECT_EQ(list(1), ERROR_NO_MORE_ITEMS);
 }
 
 TEST_F(RegistryValuesTest, ManyValuesInOneKeyAreAllThereAndCanAllGo)

@@ -28,11 +28,13 @@ TEST_F(ShellFoldersLinuxTest, TheFoldersLieUnderTheMachineRoot)
     const std::string user = root + "/Users/" + getpwuid(getuid())->pw_name;
     EXPECT_EQ(Pal::MachineRoot(), root);
     EXPECT_EQ(PathOf(CSIDL_DESKTOP), user + "/Desktop");
-    EXPECT_EQ(PathOf(CSIDL_PROGRAMS), user + "/Start Menu/Programs");
+    EXPECT_EQ(
+        PathOf(CSIDL_PROGRAMS), user + "/AppData/Roaming/Microsoft/Windows/Start Menu/Programs");
     EXPECT_EQ(PathOf(CSIDL_APPDATA), user + "/AppData/Roaming");
     EXPECT_EQ(PathOf(CSIDL_LOCAL_APPDATA), user + "/AppData/Local");
     EXPECT_EQ(PathOf(CSIDL_COMMON_DESKTOPDIRECTORY), root + "/Users/Public/Desktop");
-    EXPECT_EQ(PathOf(CSIDL_COMMON_PROGRAMS), root + "/ProgramData/Start Menu/Programs");
+    EXPECT_EQ(
+        PathOf(CSIDL_COMMON_PROGRAMS), root + "/ProgramData/Microsoft/Windows/Start Menu/Programs");
     EXPECT_EQ(PathOf(CSIDL_COMMON_APPDATA), root + "/ProgramData");
     EXPECT_EQ(PathOf(CSIDL_SYSTEM), root + "/Windows/System32");
 }

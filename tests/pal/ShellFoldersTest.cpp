@@ -29,11 +29,4 @@ TEST_F(ShellFoldersTest, EveryFolderIsThereAndHasAPathOfItsOwn)
     EXPECT_EQ(paths.size(), std::size(folders));
 }
 
-TEST_F(ShellFoldersTest, ANumberThatIsNoFolderFailsWithAnEmptyText)
-{
-    wchar_t path[MAX_PATH] = L"old";
-    EXPECT_FALSE(SHGetSpecialFolderPathW(nullptr, path, 0xFFF, FALSE));
-    EXPECT_STREQ(path, L"");
-}
-
 } // namespace

@@ -65,27 +65,4 @@ TEST_F(ShellLinksTest, SavingReplacesTheFormerLink)
     EXPECT_EQ(loaded.Arguments(), L"");
 }
 
-TEST_F(ShellLinksTest, WithoutItsFolderALinkIsNotSaved)
-{
-    TestLink link;
-    link.Link().SetPath(Target(L"a.exe").c_str());
-    EXPECT_EQ(link.Save(PathOf(L"none/a.lnk")), HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND));
-    EXPECT_EQ(GetFileAttributesW(PathOf(L"none").c_str()), INVALID_FILE_ATTRIBUTES);
-}
-
-TEST_F(ShellLinksTest, AMissingFileIsNotLoaded)
-{
-    TestLink link;
-    EXPECT_EQ(link.Load(PathOf(L"none.lnk")), HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND));
-}
-
-TEST_F(ShellLinksTest, AShortBufferGetsTheBeginning)
-{
-    TestLink link;
-    link.Link().SetArguments(L"abcdef");
-    wchar_t text[4] = L"";
-    EXPECT_EQ(link.Link().GetArguments(text, 4), S_OK);
-    EXPECT_STREQ(text, L"abc");
-}
-
 } // namespace

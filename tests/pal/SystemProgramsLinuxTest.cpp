@@ -18,18 +18,21 @@ protected:
     QString SystemFolder() const { return MachineFolder() + "/Windows/System32/"; }
 
     // What a program says on either stream, behind its exit code.
-    static std::string Said(const QString& program, const QStringList& arguments)
+    static std::string Said(
+        const QString& program, const QStringList& arguments, const QByteArray& input = {})
     {
         QProcess process;
         process.setProcessChannelMode(QProcess::MergedChannels);
         process.start(program, arguments);
+        process.write(input);
+        process.closeWriteChannel();
         EXPECT_TRUE(process.waitForFinished());
         return std::to_string(process.exitCode()) + " " + process.readAll().toStdString();
     }
 
-    static std::string SchTasks(const QStringList& arguments)
+    static std::string SchTasks(const QStringList& arguments, const QByteArray& input = {})
     {
-        return Said("schtasks", arguments);
+        return Said("schtasks", arguments, input);
     }
 
     // As programs with elevated rights are started.
@@ -90,16 +93,37 @@ TEST_F(SystemProgramsLinuxTest, ATaskIsMadeFoundAndDeleted)
     EXPECT_EQ(Elevated(L"/query /tn Quill"), 1);
 }
 
-TEST_F(SystemProgramsLinuxTest, ATaskThatExistsIsReplacedOnlyByForce)
+TEST_F(SystemProgramsLinuxTest, ATaskIsReplacedAndDeletedByForceOrByAnswer)
 {
-    const QStringList create = {
-        "/create", "/sc", "onlogon", "/rl", "highest", "/tn", "a/\u00e4", "/tr"};
-    EXPECT_EQ(SchTasks(create + QStringList{"one"}).front(), '0');
-    EXPECT_EQ(SchTasks(create + QStringList{"two"}),
-        "1 ERROR: The task \"a/\u00e4\" exists already: /f replaces it.\n");
-    EXPECT_NE(SchTasks({"/query", "/tn", "a/\u00e4"}).find("command=one\n"), std::string::npos);
-    EXPECT_EQ(SchTasks(create + QStringList{"two", "/f"}).front(), '0');
-    EXPECT_NE(SchTasks({"/query", "/tn", "a/\u00e4"}).find("command=two\n"), std::string::npos);
+    const auto create = [](const char* command, const QStringList& more, const QByteArray& input)
+    {
+        return SchTasks(QStringList{"/create", "/sc", "onlogon", "/rl", "highest", "/tn",
+                            "a/\u00e4", "/tr", command} +
+                            more,
+            input);
+    };
+    const auto isCommand = [](const std::string& command)
+    {
+        return SchTasks({"/query", "/tn", "a/\u00e4"}).find("command=" + command + "\n") !=
+               std::string::npos;
+    };
+    EXPECT_EQ(create("one", {}, ""), "0 SUCCESS: The scheduled task \"a/\u00e4\" has successfully "
+                                     "been created.\n");
+    for (const char* input : {"", "n\n", "\n"})
+    {
+        EXPECT_EQ(create("two", {}, input),
+            "1 WARNING: The task name \"a/\u00e4\" already exists. Do you want to replace it "
+            "(Y/N)? ERROR: The task \"a/\u00e4\" is not replaced.\n");
+        EXPECT_TRUE(isCommand("one"));
+    }
+    EXPECT_EQ(create("two", {}, "y\n").front(), '0');
+    EXPECT_TRUE(isCommand("two"));
+    EXPECT_EQ(create("three", {"/f"}, "").front(), '0');
+    EXPECT_TRUE(isCommand("three"));
+    EXPECT_EQ(SchTasks({"/delete", "/tn", "a/\u00e4"}).front(), '1');
+    EXPECT_TRUE(isCommand("three"));
+    EXPECT_EQ(SchTasks({"/delete", "/tn", "a/\u00e4"}, "Y\n").front(), '0');
+    EXPECT_FALSE(isCommand("three"));
 }
 
 TEST_F(SystemProgramsLinuxTest, WhatAProgramDoesNotUnderstandIsRefused)
@@ -115,7 +139,6 @@ TEST_F(SystemProgramsLinuxTest, WhatAProgramDoesNotUnderstandIsRefused)
         {"schtasks", {"/create", "/tn", "a", "/tr", "b", "/sc", "daily", "/rl", "highest"},
             "1 ERROR: Invalid value for /sc: only onlogon is known.\n"},
         {"schtasks", {"/create", "/tn", "a"}, "1 ERROR: Missing option /tr.\n"},
-        {"schtasks", {"/delete", "/tn", "a"}, "1 ERROR: Nobody is asked: /delete needs /f.\n"},
         {"schtasks", {"/run"}, "1 ERROR: Invalid argument/option - '/run'.\n"},
         {"taskkill", {"/IM", "a.exe"},
             "1 ERROR: Invalid syntax. Use taskkill /IM <image name> /F.\n"},

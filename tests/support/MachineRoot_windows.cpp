@@ -25,10 +25,11 @@ const ShellFolder shellFolders[] = {
     {HKEY_CURRENT_USER, L"AppData", "Users/user/AppData/Roaming"},
     {HKEY_CURRENT_USER, L"Local AppData", "Users/user/AppData/Local"},
     {HKEY_CURRENT_USER, L"Desktop", "Users/user/Desktop"},
-    {HKEY_CURRENT_USER, L"Programs", "Users/user/Start Menu/Programs"},
+    {HKEY_CURRENT_USER, L"Programs",
+        "Users/user/AppData/Roaming/Microsoft/Windows/Start Menu/Programs"},
     {HKEY_LOCAL_MACHINE, L"Common AppData", "ProgramData"},
     {HKEY_LOCAL_MACHINE, L"Common Desktop", "Users/Public/Desktop"},
-    {HKEY_LOCAL_MACHINE, L"Common Programs", "ProgramData/Start Menu/Programs"},
+    {HKEY_LOCAL_MACHINE, L"Common Programs", "ProgramData/Microsoft/Windows/Start Menu/Programs"},
 };
 
 void SetShellFolders(const QString& machine)

@@ -118,7 +118,7 @@ QString SetupRun::DefaultProductFolder() const
     while (folders.hasNext())
     {
         const QString folder = folders.next();
-        if (folder.contains("/AppData/Roaming/"))
+        if (folder.endsWith("/AppData/Roaming/Vorlan Quillax"))
         {
             return folder;
         }

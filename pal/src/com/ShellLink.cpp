@@ -76,6 +76,7 @@ ULONG ShellLink::Release()
 }
 
 // Keeps:   S_FALSE and an empty text for a link without a target; a text that does not fit is cut.
+// Differs: a path of more than MAX_PATH characters is returned whole.
 // Refuses: file data, and every flag but SLGP_RAWPATH, which changes nothing.
 HRESULT ShellLink::GetPath(LPWSTR path, int size, WIN32_FIND_DATAW* data, DWORD flags)
 {
@@ -132,8 +133,9 @@ HRESULT ShellLink::SetArguments(LPCWSTR arguments)
 
 // Keeps:   replaces the link's content, or changes nothing on failure: E_FAIL for a file that is no
 //          link, ERROR_FILE_NOT_FOUND as a result for a missing one.
-// Differs: a failure sets the last error. The target is read from the link information; a link that
-//          has it in the item list only is loaded without a target.
+// Differs: a failure sets the last error. The share modes of open handles are not checked. The
+//          target is read from the link information; a link that has it in the item list only, or
+//          on a network share, is loaded without a target.
 // Refuses: every mode but STGM_READ.
 HRESULT ShellLink::Load(LPCWSTR fileName, DWORD mode)
 {
@@ -145,8 +147,8 @@ HRESULT ShellLink::Load(LPCWSTR fileName, DWORD mode)
 }
 
 // Keeps:   replaces the file as a whole, or changes nothing.
-// Differs: a failure sets the last error. The file is never remembered. No item list is written,
-// because the machine has no shell
+// Differs: a failure sets the last error. The file is never remembered, and the share modes of open
+//          handles are not checked. No item list is written, because the machine has no shell
 //          namespace; the target is in the link information only, as 8-bit text (UTF-8) and as
 //          UTF-16. Windows reads the UTF-16 text. Wine reads the 8-bit text in its own code page,
 //          so there only ASCII targets are right.

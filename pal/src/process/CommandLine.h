@@ -8,8 +8,10 @@
 namespace Pal
 {
 
-// The words that a program is given, by the rules of CommandLineToArgvW. In the first one, which
-// names the program, only quotes count.
+// The words that a program receives, by the rules of the C run-time library: inside quotes, two
+// quotes are a literal one; in the first word, which names the program, backslashes are always
+// literal. CommandLineToArgvW differs: two quotes inside quotes are a literal one and end the
+// quoted part, and in the first word only a leading quote counts.
 enum class FirstWord
 {
     NamesProgram,

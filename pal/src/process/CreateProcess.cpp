@@ -11,6 +11,8 @@
 
 #include <Pal.h>
 
+#include <filesystem>
+
 namespace Pal
 {
 
@@ -68,6 +70,8 @@ DWORD PlanNamed(LPCWSTR applicationName, std::wstring_view commandLine, ProcessS
     const std::vector<ProgramName> firstWords = PossiblePrograms(commandLine);
     if (error != ERROR_SUCCESS || firstWords.empty())
         return error == ERROR_SUCCESS ? DWORD{ERROR_INVALID_PARAMETER} : error;
+    std::error_code ignored;
+    program = std::filesystem::absolute(program, ignored);
     const bool beginsWithName = commandLine.substr(0, name.size()) == name;
     start = PlanStart(program, SplitCommandLine(commandLine, FirstWord::NamesProgram),
         beginsWithName ? commandLine.substr(name.size()) : firstWords.front().rest);
@@ -115,15 +119,19 @@ PROCESS_INFORMATION HandOut(const std::shared_ptr<Process>& process)
 
 // Starts a program of this system, or a ".bat" with /bin/sh.
 // Keeps:   without an application name the command line begins with the program: quoted, or
-//          unquoted and then every blank may end it, the first name that exists counts and
-//          becomes one word of the child's. The child's arguments are cut from the command line by
-//          the Windows rules; cmd.exe gets the text behind its name uncut. Errors of the start are
-//          the caller's: a missing file, one that may not be started (ERROR_ACCESS_DENIED) or is no
-//          program (ERROR_BAD_EXE_FORMAT), a missing folder to start in (ERROR_DIRECTORY).
-// Differs: a name without an extension is looked for as it is before ".exe" is added. With
-//          CREATE_NO_WINDOW the child has no standard streams unless it is given some, without it
-//          those of this process; it never gets other handles, and a null handle is no stream. A
-//          ".bat" gets the words of the command line without their quotes. The thread handle can
+//          unquoted, and then every blank may end it; the shortest name that exists is used and is
+//          the child's first argument. A name is searched in the folder of the running program, the
+//          current folder, the system folder, the Windows folder and $PATH; a relative path begins
+//          in the current folder, whatever currentDirectory is. The errors of the start are
+//          returned: a missing file, one that is not executable (ERROR_ACCESS_DENIED) or no program
+//          (ERROR_BAD_EXE_FORMAT), a missing folder to start in (ERROR_DIRECTORY). A failure clears
+//          the process information.
+// Differs: the child's arguments are split here, by the rules of the C run-time library; cmd.exe
+//          gets the text after its name as it is. A name without an extension is searched before
+//          ".exe" is added to it. The lengths of the command line and of names are not limited.
+//          With CREATE_NO_WINDOW the child has only the standard streams that it is given, without
+//          it those of this process; it inherits no other handles, and a null handle is no stream.
+//          A ".bat" gets the words of the command line without their quotes. The thread handle can
 //          only be closed.
 // Refuses: every other creation flag, start-up flag and attribute, an environment block, streams
 //          without inheritHandles, streams that are not from GetStdHandle.
@@ -132,6 +140,8 @@ BOOL CreateProcessW(LPCWSTR applicationName, LPWSTR commandLine,
     BOOL inheritHandles, DWORD creationFlags, LPVOID environment, LPCWSTR currentDirectory,
     LPSTARTUPINFOW startupInfo, LPPROCESS_INFORMATION processInformation)
 {
+    if (processInformation)
+        *processInformation = {};
     if (Pal::FaultHits(__func__))
         return FALSE;
     DWORD error = Pal::CheckStart(startupInfo, creationFlags, inheritHandles,
@@ -139,7 +149,7 @@ BOOL CreateProcessW(LPCWSTR applicationName, LPWSTR commandLine,
     const std::wstring_view line = commandLine       ? commandLine
                                    : applicationName ? applicationName
                                                      : L"";
-    if (error == ERROR_SUCCESS && (line.empty() || !processInformation))
+    if (error == ERROR_SUCCESS && ((line.empty() && !applicationName) || !processInformation))
         error = ERROR_INVALID_PARAMETER;
     if (error == ERROR_SUCCESS)
         error = Pal::EnterMachine();

@@ -51,10 +51,7 @@ DWORD CopyCut(const std::wstring& text, LPWSTR buffer, DWORD size)
     const auto fitting = static_cast<DWORD>(std::min<size_t>(text.size(), size - 1));
     std::copy_n(text.begin(), fitting, buffer);
     buffer[fitting] = L'\0';
-    if (fitting == text.size())
-        return fitting;
-    SetLastError(ERROR_INSUFFICIENT_BUFFER);
-    return size;
+    return fitting == text.size() ? fitting : size;
 }
 
 } // namespace
@@ -77,7 +74,7 @@ BOOL K32EnumProcesses(LPDWORD processIds, DWORD size, LPDWORD bytesReturned)
 {
     if (Pal::FaultHits(__func__))
         return FALSE;
-    if (!processIds || !bytesReturned)
+    if ((!processIds && size) || !bytesReturned)
         return Pal::Failed(ERROR_INVALID_PARAMETER);
     std::vector<DWORD> ids;
     const DWORD error = Pal::ProcessIds(ids);
@@ -89,10 +86,12 @@ BOOL K32EnumProcesses(LPDWORD processIds, DWORD size, LPDWORD bytesReturned)
     return TRUE;
 }
 
-// Keeps:   a path that does not fit is cut and the result is the buffer's size; 0 on failure, such
-//          as for a process that has ended or a handle without the rights to query and read.
-// Differs: "/" separates; a cut text always ends with a zero; a script shows the program that reads
-//          it; a file that has gone or moved keeps its former path where the system knows it.
+// Keeps:   a path that does not fit is cut, the result is then the buffer's size and the last error
+//          is unchanged; 0 on failure, such as for a process that has ended or a handle without the
+//          rights to query and read.
+// Differs: the separator is "/"; a cut text always ends with a zero; a script shows its
+//          interpreter; a file that was deleted or moved keeps its former path if the system knows
+//          it.
 // Refuses: every module but the executable.
 DWORD K32GetModuleFileNameExW(HANDLE process, HMODULE module, LPWSTR fileName, DWORD size)
 {

@@ -11,8 +11,6 @@
 #include <shlobj.h>
 
 #include <cerrno>
-#include <filesystem>
-#include <vector>
 
 #include <sys/stat.h>
 
@@ -42,48 +40,78 @@ DWORD FindWithExtension(const std::string& name, std::string& path)
     return CheckFile(path) == ERROR_SUCCESS ? ERROR_SUCCESS : error;
 }
 
-std::vector<fs::path> SearchedFolders()
+fs::path CurrentFolder()
 {
-    std::vector<fs::path> folders = {
-        fs::read_symlink("/proc/self/exe").parent_path(), fs::current_path()};
-    folders.push_back(*ShellFolder(MachineRoot(), CSIDL_SYSTEM));
+    std::error_code error;
+    return fs::current_path(error);
+}
+
+void AddCommonFolders(std::vector<fs::path>& folders)
+{
+    const fs::path systemFolder = *ShellFolder(MachineRoot(), CSIDL_SYSTEM);
+    folders.insert(folders.end(), {CurrentFolder(), systemFolder, systemFolder.parent_path()});
     for (const QByteArray& folder : qgetenv("PATH").split(':'))
     {
         if (!folder.isEmpty())
             folders.push_back(folder.toStdString());
     }
-    return folders;
 }
 
-DWORD FindInFolders(const std::string& name, std::string& path)
+DWORD FindInFolders(const fs::path& name, const std::vector<fs::path>& folders, std::string& path)
 {
-    for (const fs::path& folder : SearchedFolders())
+    DWORD error = ERROR_FILE_NOT_FOUND;
+    for (const fs::path& folder : folders)
     {
-        if (FindWithExtension(folder / name, path) == ERROR_SUCCESS)
+        std::error_code ignored;
+        error = FindWithExtension(fs::absolute(folder, ignored) / name, path);
+        if (error == ERROR_SUCCESS)
             return ERROR_SUCCESS;
     }
-    return ERROR_FILE_NOT_FOUND;
+    return name.has_parent_path() ? error : DWORD{ERROR_FILE_NOT_FOUND};
 }
 
 } // namespace
 
-DWORD FindProgram(std::wstring_view name, std::string& path)
+SearchedFolders FoldersOfCreateProcess()
+{
+    std::error_code ignored;
+    const fs::path ownFolder = fs::read_symlink("/proc/self/exe", ignored).parent_path();
+    SearchedFolders folders{{CurrentFolder()}, {ownFolder}};
+    AddCommonFolders(folders.ofNames);
+    return folders;
+}
+
+SearchedFolders FoldersOfShell(const std::string& startFolder)
+{
+    SearchedFolders folders;
+    if (!startFolder.empty())
+        folders = {{startFolder}, {startFolder}};
+    folders.ofPaths.push_back(CurrentFolder());
+    AddCommonFolders(folders.ofNames);
+    return folders;
+}
+
+DWORD FindProgram(std::wstring_view name, const SearchedFolders& folders, std::string& path)
 {
     std::string nativeName;
     const DWORD error = NativePath(std::wstring(name).c_str(), nativeName);
     if (error != ERROR_SUCCESS)
         return error == ERROR_PATH_NOT_FOUND ? ERROR_FILE_NOT_FOUND : error;
-    return nativeName.find('/') == nativeName.npos ? FindInFolders(nativeName, path)
-                                                   : FindWithExtension(nativeName, path);
+    const fs::path program = nativeName;
+    if (program.is_absolute())
+        return FindWithExtension(nativeName, path);
+    return FindInFolders(
+        program, program.has_parent_path() ? folders.ofPaths : folders.ofNames, path);
 }
 
 DWORD FindProgramOf(std::wstring_view commandLine, std::string& path, ProgramName& found)
 {
+    const SearchedFolders folders = FoldersOfCreateProcess();
     DWORD firstError = ERROR_SUCCESS;
     for (const ProgramName& possible : PossiblePrograms(commandLine))
     {
         found = possible;
-        const DWORD error = FindProgram(possible.name, path);
+        const DWORD error = FindProgram(possible.name, folders, path);
         if (error == ERROR_SUCCESS)
             return ERROR_SUCCESS;
         if (firstError == ERROR_SUCCESS)

@@ -5,19 +5,34 @@
 
 #include <windows.h>
 
+#include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Pal
 {
 
-// Looks for the file under its name and, where that has no extension, with ".exe" behind it. A name
-// without a folder is looked for in the folder of the running program, the current folder, the
-// machine's system folder and then in those of $PATH. A folder is no program.
-DWORD FindProgram(std::wstring_view name, std::string& path);
+// Where a program is looked for that is named without a whole path.
+struct SearchedFolders
+{
+    std::vector<std::filesystem::path> ofPaths; // of relative paths
+    std::vector<std::filesystem::path> ofNames; // of names without a folder
+};
 
-// The program at the start of a command line: the shortest name that is there, and the text behind
-// it. Where there is none the error is that of the shortest name.
+// The folder of the running program, the current folder, the machine's system folder and Windows
+// folder, those of $PATH.
+SearchedFolders FoldersOfCreateProcess();
+
+// The folder to start in, if there is one, and all of these but that of the running program.
+SearchedFolders FoldersOfShell(const std::string& startFolder);
+
+// The absolute path of a program that exists under its name or, if that has no extension, with
+// ".exe" after it. A folder is no program.
+DWORD FindProgram(std::wstring_view name, const SearchedFolders& folders, std::string& path);
+
+// The program at the start of a command line: the shortest name that exists, and the text after it.
+// If none exists the error is that of the shortest name.
 DWORD FindProgramOf(std::wstring_view commandLine, std::string& path, ProgramName& found);
 
 } // namespace Pal

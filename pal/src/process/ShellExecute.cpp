@@ -9,6 +9,9 @@
 #include "process/ProcessStart.h"
 #include "process/ProgramSearch.h"
 
+#include <QFileInfo>
+#include <QStringList>
+
 namespace Pal
 {
 
@@ -17,35 +20,60 @@ namespace
 
 bool IsKnownVerb(LPCWSTR verb)
 {
-    const std::wstring_view text = verb ? verb : L"open";
-    return text == L"open" || text == L"runas";
+    const std::wstring_view text = verb ? verb : L"";
+    return text.empty() || text == L"open" || text == L"runas";
 }
 
 DWORD CheckExecution(const SHELLEXECUTEINFOW* info)
 {
     if (!info || info->cbSize != sizeof(SHELLEXECUTEINFOW))
         return ERROR_INVALID_PARAMETER;
-    const bool wantsMore = info->lpIDList || info->lpClass || info->hkeyClass || info->dwHotKey;
-    if (wantsMore || (info->fMask & ~ULONG{SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI}) ||
+    if ((info->fMask & ~ULONG{SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI}) ||
         !IsKnownVerb(info->lpVerb) || (info->nShow != SW_HIDE && info->nShow != SW_SHOW))
         return ERROR_NOT_SUPPORTED;
     return info->lpFile ? ERROR_SUCCESS : ERROR_FILE_NOT_FOUND;
 }
 
+std::wstring_view WithoutQuotes(std::wstring_view name)
+{
+    if (name.substr(0, 1) != L"\"")
+        return name;
+    name.remove_prefix(1);
+    return name.substr(0, name.find(L'"'));
+}
+
+bool IsProgramName(const std::string& path)
+{
+    const QString extension = QFileInfo(QString::fromStdString(path)).suffix().toLower();
+    return QStringList{"", "exe", "com", "bat", "cmd"}.contains(extension);
+}
+
+DWORD FindFolder(const SHELLEXECUTEINFOW& info, std::string& folder)
+{
+    if (!info.lpDirectory || !*info.lpDirectory)
+        return ERROR_SUCCESS;
+    return NativePath(info.lpDirectory, folder);
+}
+
 DWORD Plan(const SHELLEXECUTEINFOW& info, ProcessStart& start)
 {
+    const std::wstring_view name = WithoutQuotes(info.lpFile);
     const std::wstring_view parameters = info.lpParameters ? info.lpParameters : L"";
+    std::string folder;
     std::string program;
-    const DWORD error = FindProgram(info.lpFile, program);
+    DWORD error = FindFolder(info, folder);
+    if (error == ERROR_SUCCESS)
+        error = FindProgram(name, FoldersOfShell(folder), program);
+    if (error == ERROR_SUCCESS && !IsProgramName(program))
+        error = ERROR_NO_ASSOCIATION;
     if (error != ERROR_SUCCESS)
         return error;
     std::vector<std::wstring> words = SplitCommandLine(parameters, FirstWord::IsArgument);
-    words.insert(words.begin(), info.lpFile);
+    words.insert(words.begin(), std::wstring(name));
     start = PlanStart(program, std::move(words), parameters);
+    start.folder = folder;
     start.ownSession = true;
-    if (!info.lpDirectory || !*info.lpDirectory)
-        return ERROR_SUCCESS;
-    return NativePath(info.lpDirectory, start.folder);
+    return ERROR_SUCCESS;
 }
 
 DWORD Execute(SHELLEXECUTEINFOW& info)
@@ -68,14 +96,16 @@ DWORD Execute(SHELLEXECUTEINFOW& info)
 } // namespace Pal
 
 // Starts a program, or a ".bat" with /bin/sh, that may outlive this process.
-// Keeps:   lpFile is looked for as CreateProcessW looks for a program; the arguments are cut from
-//          lpParameters by the Windows rules; hProcess is set with SEE_MASK_NOCLOSEPROCESS only.
-//          SEE_MASK_FLAG_NO_UI changes nothing, because no box is ever shown.
-// Differs: "runas" asks nobody and changes no rights; a test stands for the refusal with an
-//          injected ERROR_CANCELLED. The program has no standard streams and a session of its own,
-//          hidden or shown. hInstApp stays as it is.
-// Refuses: other verbs, flags and ways to show; documents, which no program is known for: they are
-//          ERROR_ACCESS_DENIED or ERROR_BAD_EXE_FORMAT.
+// Keeps:   lpFile may be quoted; it is searched in lpDirectory, the current folder, the system
+//          folder, the Windows folder and $PATH. A file with an extension that is not a program's
+//          is ERROR_NO_ASSOCIATION. hProcess is null, unless SEE_MASK_NOCLOSEPROCESS asks for it.
+//          Fields that need another mask bit are ignored. SEE_MASK_FLAG_NO_UI changes nothing,
+//          because no box is ever shown.
+// Differs: the arguments are split from lpParameters by the rules of the C run-time library. A file
+//          without an extension is a program. "runas" asks nobody and changes no rights; tests
+//          inject ERROR_CANCELLED for a refusal. The program has no standard streams and its own
+//          session, whether hidden or shown. hInstApp is not set.
+// Refuses: other verbs, flags and ways to show.
 BOOL ShellExecuteExW(SHELLEXECUTEINFOW* info)
 {
     if (info)

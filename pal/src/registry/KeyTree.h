@@ -20,6 +20,8 @@ namespace Pal
 using KeyPath = std::vector<std::u16string>;
 
 // Equal for names that differ in case only. Keys are listed in the order of their folded names.
+// Folds by Unicode upper case; the table of Windows leaves some characters unchanged, such as
+// U+0131 and U+017F.
 std::u16string FoldCase(std::u16string_view name);
 
 struct RegistryValue

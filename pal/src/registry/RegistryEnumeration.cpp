@@ -6,11 +6,11 @@
 #include "registry/RegistrySession.h"
 #include "registry/ValueOutput.h"
 
-// Keeps:   values in the order in which they were made; the name's length counts characters, with
-//          the closing zero on the way in and without it on the way out; ERROR_MORE_DATA when name
-//          or data do not fit, ERROR_NO_MORE_ITEMS past the last value.
-// Differs: text and names come as UTF-32. A name that does not fit leaves its buffer and length
-//          alone.
+// Keeps:   values in the order of their creation; the length of the name counts characters, on
+//          input with the closing zero and on output without it. ERROR_MORE_DATA with the type and
+//          the size of the data if the name does not fit, and with the name, too, if the data does
+//          not fit; ERROR_NO_MORE_ITEMS after the last value.
+// Differs: text and names are returned as UTF-32.
 LSTATUS RegEnumValueW(HKEY key, DWORD index, LPWSTR valueName, LPDWORD valueNameLength,
     LPDWORD reserved, LPDWORD type, LPBYTE data, LPDWORD dataSize)
 {
@@ -25,10 +25,13 @@ LSTATUS RegEnumValueW(HKEY key, DWORD index, LPWSTR valueName, LPDWORD valueName
         return ERROR_NO_MORE_ITEMS;
     const Pal::RegistryValue& value = session.Key().ValueAt(index);
     const LSTATUS error = Pal::GiveName(value.name, valueName, valueNameLength);
-    return error == ERROR_SUCCESS ? Pal::GiveValue(value, type, data, dataSize) : error;
+    if (error == ERROR_SUCCESS)
+        return Pal::GiveValue(value, type, data, dataSize);
+    Pal::GiveValue(value, type, nullptr, dataSize);
+    return error;
 }
 
-// Keeps:   sub-keys sorted by name without regard to case; lengths and errors as RegEnumValueW.
+// Keeps:   sub-keys sorted by name without case; lengths and errors as RegEnumValueW.
 // Differs: as RegEnumValueW.
 // Refuses: class and time of the last change.
 LSTATUS RegEnumKeyExW(HKEY key, DWORD index, LPWSTR name, LPDWORD nameLength, LPDWORD reserved,

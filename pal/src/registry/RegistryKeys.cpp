@@ -72,6 +72,7 @@ HKEY MakeHandle(const RegistrySession& session, const KeyPath& path, REGSAM acce
     const KeyLocation& parent = session.Location();
     const auto key =
         std::make_shared<OpenKey>(KeyLocation{parent.store, parent.root, path}, access);
+    key->Node(); // binds the handle to this key, not to a later one of the same name
     return static_cast<HKEY>(HandleTable::Instance().Add(key));
 }
 
@@ -139,7 +140,7 @@ LSTATUS DeleteKey(HKEY key, LPCWSTR subKey)
 //          ERROR_BAD_PATHNAME. The handle's own rights do not limit what is created below it. In
 //          the 32-bit view HKEY_LOCAL_MACHINE\Software is HKEY_LOCAL_MACHINE\Software\WOW6432Node.
 // Differs: every right that is asked for is granted. All of HKEY_LOCAL_MACHINE\Software has two
-//          views.
+//          views. The number of levels is not limited.
 // Refuses: a class, every option but REG_OPTION_NON_VOLATILE, security attributes, rights that
 //          winreg.h does not name, and names with CR or LF, which the file format cannot hold.
 LSTATUS RegCreateKeyExW(HKEY key, LPCWSTR subKey, DWORD reserved, LPWSTR className, DWORD options,
@@ -158,12 +159,14 @@ LSTATUS RegCreateKeyExW(HKEY key, LPCWSTR subKey, DWORD reserved, LPWSTR classNa
     return Pal::OpenOrMake(key, subKey, desiredAccess, result, disposition);
 }
 
-// Keeps:   ERROR_FILE_NOT_FOUND for a key that is missing; no subKey opens the key itself; views as
-//          in RegCreateKeyExW.
+// Keeps:   ERROR_FILE_NOT_FOUND for a missing key; a null subKey opens the key itself; a failure
+//          sets the result to null; views as in RegCreateKeyExW.
 // Differs: as RegCreateKeyExW; opening a predefined key itself gives a handle that must be closed.
 // Refuses: every option, and rights that winreg.h does not name.
 LSTATUS RegOpenKeyExW(HKEY key, LPCWSTR subKey, DWORD options, REGSAM desiredAccess, PHKEY result)
 {
+    if (result)
+        *result = nullptr;
     if (const auto fault = Pal::InjectedFault(__func__))
         return static_cast<LSTATUS>(*fault);
     if (!result)

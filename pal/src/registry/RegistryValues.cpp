@@ -28,7 +28,9 @@ LSTATUS CheckNewValue(const std::u16string& name, DWORD type, const BYTE* data, 
     if (name.size() > longestValueName || name.find_first_of(u"\r\n") != name.npos)
         return ERROR_INVALID_PARAMETER;
     const bool cutCharacter = IsTextType(type) && dataSize % sizeof(wchar_t) != 0;
-    return cutCharacter || (!data && dataSize) ? ERROR_INVALID_PARAMETER : ERROR_SUCCESS;
+    if (!data && dataSize)
+        return ERROR_NOACCESS;
+    return cutCharacter ? ERROR_INVALID_PARAMETER : ERROR_SUCCESS;
 }
 
 } // namespace
@@ -36,8 +38,8 @@ LSTATUS CheckNewValue(const std::u16string& name, DWORD type, const BYTE* data, 
 } // namespace Pal
 
 // Keeps:   stores the bytes as they are given, text with or without its closing zero; an existing
-//          name keeps its case; ERROR_INVALID_PARAMETER for a name of more than 16383 characters;
-//          ERROR_ACCESS_DENIED without KEY_SET_VALUE.
+//          name keeps its case; ERROR_INVALID_PARAMETER for a name of more than 16383 characters,
+//          ERROR_NOACCESS for null data with a size, ERROR_ACCESS_DENIED without KEY_SET_VALUE.
 // Differs: a text is never extended by a zero that follows it. Invalid characters become U+FFFD.
 // Refuses: types that winreg.h does not name, text that ends within a character, and names with CR
 //          or LF, which the file format cannot hold.
@@ -58,8 +60,9 @@ LSTATUS RegSetValueExW(
 }
 
 // Keeps:   without a buffer the size alone; ERROR_MORE_DATA with the size and the type if the
-//          buffer is too small; a text without its closing zero gets one if there is room;
-//          ERROR_FILE_NOT_FOUND for a missing value.
+//          buffer is too small; a text without its closing zero gets one if there is room. type and
+//          dataSize may be one variable, which receives the size. A missing value is
+//          ERROR_FILE_NOT_FOUND, and has size 0 if there is no buffer.
 // Differs: text is returned as UTF-32, whichever way it was stored, and sizes count that.
 LSTATUS RegQueryValueExW(
     HKEY key, LPCWSTR valueName, LPDWORD reserved, LPDWORD type, LPBYTE data, LPDWORD dataSize)
@@ -73,7 +76,11 @@ LSTATUS RegQueryValueExW(
         return session.Error();
     const Pal::RegistryValue* value =
         session.Key().Value(Pal::Utf16FromWide(valueName ? valueName : L""));
-    return value ? Pal::GiveValue(*value, type, data, dataSize) : ERROR_FILE_NOT_FOUND;
+    if (value)
+        return Pal::GiveValue(*value, type, data, dataSize);
+    if (dataSize && !data)
+        *dataSize = 0;
+    return ERROR_FILE_NOT_FOUND;
 }
 
 // Keeps:   ERROR_FILE_NOT_FOUND for a missing value; ERROR_ACCESS_DENIED without KEY_SET_VALUE.

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <utility>
 
 namespace Pal
 {
@@ -28,12 +27,13 @@ void CloseText(const std::string& bytes, BYTE* data, DWORD room)
 
 LSTATUS GiveValue(const RegistryValue& value, LPDWORD type, LPBYTE data, LPDWORD dataSize)
 {
+    const DWORD room = dataSize ? *dataSize : 0; // type and dataSize may be one variable
     if (type)
         *type = value.type;
     if (!dataSize)
         return ERROR_SUCCESS;
     const std::string bytes = DataForCaller(value.type, value.data);
-    const DWORD room = std::exchange(*dataSize, static_cast<DWORD>(bytes.size()));
+    *dataSize = static_cast<DWORD>(bytes.size());
     if (!data)
         return ERROR_SUCCESS;
     if (room < bytes.size())
