@@ -74,6 +74,7 @@ void CopyInParallel(benchmark::State& state)
         [](const std::vector<std::wstring>& names, const QString& folder)
         {
             std::vector<CopyJob> jobs;
+            jobs.reserve(names.size());
             for (const std::wstring& name : names)
                 jobs.push_back(CreateCopyJob({}, name, folder));
             RunCopies(static_cast<int>(std::thread::hardware_concurrency()), jobs,

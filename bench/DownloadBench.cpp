@@ -58,7 +58,7 @@ BENCHMARK(DownloadWithManager)->Iterations(5)->UseRealTime()->Unit(benchmark::kM
 void DownloadWithCurlCommand(benchmark::State& state)
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath("file");
+    QString path = folder.filePath("file");
     Measure(state,
         [&]
         {

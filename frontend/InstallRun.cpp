@@ -22,6 +22,12 @@ bool HasArchive()
     return QFileInfo(ArchivePath()).isFile();
 }
 
+QString MissingArchiveText()
+{
+    return QString("The archive %1 is missing: put it beside the setup program.")
+        .arg(QDir::toNativeSeparators(ArchivePath()));
+}
+
 std::unique_ptr<InstallerMediator> MakeInstaller(QSettings::Scope scope, bool isUnattended)
 {
     const QString programName = QFileInfo(QCoreApplication::applicationFilePath()).fileName();

@@ -20,6 +20,7 @@ namespace Vorlan::FrontEnd
 // Where the payload archive must be: in the program's folder.
 QString ArchivePath();
 bool HasArchive();
+QString MissingArchiveText();
 
 // A mediator for an installation from this program's folder. Throws std::runtime_error when the
 // archive cannot be read.

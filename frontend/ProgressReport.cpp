@@ -1,6 +1,6 @@
 #include "ProgressReport.h"
 
-#include <QMap>
+#include "StageTexts.h"
 
 #include <ostream>
 
@@ -10,19 +10,6 @@ namespace
 {
 
 constexpr int barWidth = 40;
-
-QString StageText(const QString& stageId)
-{
-    static const QMap<QString, QString> texts{
-        {"REMOVE_PREVIOUS_VERSION", "Removing the previous version"},
-        {"EXTRACT_FILES", "Placing the files"},
-        {"UPDATE_REGISTRY", "Registering the program"},
-        {"CHECK_ACCELERATIONS", "Checking hardware acceleration"},
-        {"DOWNLOAD_ADDITIONAL_DATA", "Downloading additional data"},
-        {"PERFORM_AFTER_INSTALL_ACTION", "Finishing"},
-    };
-    return texts.value(stageId, stageId);
-}
 
 double Bounded(double fraction)
 {
@@ -70,7 +57,8 @@ void ProgressReport::Show(const RunEvent& event)
 
 void ProgressReport::ShowStage(const QString& stageId)
 {
-    ShowLine(StageText(stageId) + "...");
+    const char* const text = StageText(stageId);
+    ShowLine(text ? text : stageId + "...");
 }
 
 void ProgressReport::ShowProgress(double fraction)

@@ -29,12 +29,7 @@ Outcome Failure(const QString& error)
 // The engine reports a missing archive in a modal box, which an unattended run must not open.
 Outcome CheckArchive()
 {
-    if (HasArchive())
-    {
-        return {};
-    }
-    return Failure(QString("The archive %1 is missing: put it beside the setup program.")
-                       .arg(QDir::toNativeSeparators(ArchivePath())));
+    return HasArchive() ? Outcome() : Failure(MissingArchiveText());
 }
 
 // An unusable folder and a volume without enough space have different exit codes.

@@ -47,9 +47,7 @@ Outcome InstallWithWindow(const CommandLine& options, const EventSink& sink)
         InstallWizard wizard(options, sink);
         if (!HasArchive()) // the engine has reported it in a box
         {
-            return {ExitCode::Failed, QString("The archive %1 is missing: put it beside the setup "
-                                              "program.")
-                                          .arg(QDir::toNativeSeparators(ArchivePath()))};
+            return {ExitCode::Failed, MissingArchiveText()};
         }
         return wizard.Run();
     }

@@ -1,5 +1,6 @@
 #include "wizard/ProgressPage.h"
 
+#include "StageTexts.h"
 #include "wizard/Texts.h"
 
 #include <QHBoxLayout>
@@ -82,7 +83,11 @@ void ProgressPage::Clear()
 void ProgressPage::Show(const RunEvent& event)
 {
     if (const auto* started = std::get_if<Events::ProcessStarted>(&event))
-        ShowStep(StageText(QString::fromStdString(started->stage)));
+    {
+        const QString id = QString::fromStdString(started->stage);
+        const char* const text = StageText(id);
+        ShowStep(text ? WizardText(text) : id);
+    }
     else if (const auto* problem = std::get_if<Events::CopyFileError>(&event))
     {
         copyErrors << problem->fileName + ": " + problem->reason;

@@ -45,19 +45,6 @@ QString LanguageName(const QString& locale)
     return names.value(locale, locale);
 }
 
-QString StageText(const QString& stageId)
-{
-    const QMap<QString, QString> texts{
-        {"REMOVE_PREVIOUS_VERSION", WizardText("Removing the previous version...")},
-        {"EXTRACT_FILES", WizardText("Placing the files...")},
-        {"UPDATE_REGISTRY", WizardText("Registering the program...")},
-        {"CHECK_ACCELERATIONS", WizardText("Checking hardware acceleration...")},
-        {"DOWNLOAD_ADDITIONAL_DATA", WizardText("Downloading additional data...")},
-        {"PERFORM_AFTER_INSTALL_ACTION", WizardText("Finishing...")},
-    };
-    return texts.value(stageId, stageId);
-}
-
 QString SizeText(qint64 bytes, const QString& locale)
 {
     return QLocale(locale).formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);

@@ -17,9 +17,6 @@ QString ProductTitle();
 // The native name of the language.
 QString LanguageName(const QString& locale);
 
-// The translated description of a stage; the id of an unknown stage.
-QString StageText(const QString& stageId);
-
 // A number of bytes with a unit, formatted for the given language.
 QString SizeText(qint64 bytes, const QString& locale);
 
