@@ -108,6 +108,8 @@ TEST_F(WindowsFactsTest, OfKeys)
         {"A key is opened in one view",
             open(parent, L"", KEY_READ | KEY_WOW64_32KEY | KEY_WOW64_64KEY),
             fails(ERROR_INVALID_PARAMETER)},
+        {"The user's keys are the same in both",
+            open(HKEY_CURRENT_USER, keyPath, KEY_READ | KEY_WOW64_32KEY), Seen(0, parent)},
         {"A result is required", Seen(RegOpenKeyExW(parent, L"", 0, KEY_READ, nullptr)),
             Seen(ERROR_INVALID_PARAMETER)},
         {"Null is no key to close", Seen(RegCloseKey(nullptr)), Seen(ERROR_INVALID_HANDLE)},
@@ -262,6 +264,11 @@ TEST_F(WindowsFactsTest, OfFiles)
         {"Only in a folder", Seen(makeFolder(L"none/folder")), Seen(ERROR_PATH_NOT_FOUND)},
         {"An empty name is no path", Seen(open(L"")), Seen(ERROR_PATH_NOT_FOUND)},
         {"A missing file is told", Seen(open(PathOf(L"none"))), Seen(ERROR_FILE_NOT_FOUND)},
+        {"It is not emptied", Seen(open(PathOf(L"none"), TRUNCATE_EXISTING)),
+            Seen(ERROR_FILE_NOT_FOUND)},
+        {"But made",
+            Seen(open(PathOf(L"made"), OPEN_ALWAYS), open(PathOf(L"made too"), CREATE_ALWAYS)),
+            Seen(0, 0)},
         {"And a missing folder", Seen(open(PathOf(L"none/x")), open(PathOf(L"none/x"), CREATE_NEW)),
             Seen(ERROR_PATH_NOT_FOUND, ERROR_PATH_NOT_FOUND)},
         {"A folder is no file", Seen(open(PathOf(L"folder")), open(PathOf(L"folder"), OPEN_ALWAYS)),
@@ -379,17 +386,44 @@ TEST_F(WindowsFactsTest, OfProcesses)
     QDir::setCurrent(formerFolder);
 }
 
+TEST_F(WindowsFactsTest, OfMutexes)
+{
+    const auto create = [](const wchar_t* name, TestHandle& mutex)
+    {
+        SetLastError(ERROR_GEN_FAILURE);
+        mutex = TestHandle(CreateMutexW(nullptr, FALSE, name));
+        return Seen(mutex.Get(), GetLastError());
+    };
+    TestHandle mutexes[4];
+    const auto made = Seen(mutexes, 0);
+    const auto found = Seen(mutexes, ERROR_ALREADY_EXISTS);
+    Check({
+        {"A mutex is made", create(L"VorlanTest {\u00e4/*}", mutexes[0]), made},
+        {"It is there for the next one", create(L"VorlanTest {\u00e4/*}", mutexes[1]), found},
+        {"Case counts", create(L"VorlanTest {\u00c4/*}", mutexes[2]), made},
+    });
+    mutexes[0].Close();
+    Check({
+        {"It outlives its first handle", create(L"Local\\VorlanTest {\u00e4/*}", mutexes[3]),
+            found},
+    });
+    for (TestHandle& mutex : mutexes)
+        mutex.Close();
+    Check({{"It goes with the last one", create(L"VorlanTest {\u00e4/*}", mutexes[0]), made}});
+}
+
 TEST_F(WindowsFactsTest, OfTheShell)
 {
     const std::wstring child = CopyChild(L"sub/child.exe");
     const std::wstring folder = PathOf(L"sub");
     CopyChild(L"sub/child.vorlan");
     const auto execute = [](const std::wstring& file, const wchar_t* startFolder = nullptr,
-                             const wchar_t* verb = nullptr, DWORD hotKey = 0)
+                             const wchar_t* verb = nullptr, DWORD hotKey = 0,
+                             DWORD mask = SEE_MASK_NOCLOSEPROCESS)
     {
         SHELLEXECUTEINFOW information = {};
         information.cbSize = sizeof information;
-        information.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI;
+        information.fMask = mask | SEE_MASK_FLAG_NO_UI;
         information.lpVerb = verb;
         information.lpFile = file.c_str();
         information.lpParameters = L"exit 3";
@@ -397,12 +431,14 @@ TEST_F(WindowsFactsTest, OfTheShell)
         information.dwHotKey = hotKey;
         information.hProcess = HKEY_CURRENT_USER;
         const DWORD error = ErrorOf([&] { return ShellExecuteExW(&information); });
-        return error == ERROR_SUCCESS ? Seen(ExitCode(TestHandle(information.hProcess)))
-                                      : Seen(error, information.hProcess);
+        return information.hProcess ? Seen(ExitCode(TestHandle(information.hProcess)))
+                                    : Seen(error, nullptr);
     };
     const auto fails = [](DWORD error) { return Seen(error, nullptr); };
     Check({
         {"A program is started", execute(child), Seen(3)},
+        {"There is no handle unless it is asked for", execute(child, nullptr, nullptr, 0, 0),
+            Seen(0, nullptr)},
         {"Its name may stand in quotes", execute(L"\"" + child + L"\""), Seen(3)},
         {"Its arguments do not belong to it", execute(child + L" x"), fails(ERROR_FILE_NOT_FOUND)},
         {"It is searched where it starts", execute(L"child.exe", folder.c_str()), Seen(3)},
@@ -420,6 +456,13 @@ TEST_F(WindowsFactsTest, OfLinksAndFolders)
     TestLink link;
     wchar_t text[MAX_PATH] = L"old";
     const CLSID unknown = {0x5F0B7F3E, 0x1C2D, 0x4E5F, {0x80, 1, 2, 3, 4, 5, 6, 7}};
+    const auto identity = [](IUnknown& face)
+    {
+        IUnknown* object = nullptr;
+        EXPECT_EQ(face.QueryInterface(IID_IUnknown, reinterpret_cast<void**>(&object)), S_OK);
+        object->Release();
+        return reinterpret_cast<uintptr_t>(object);
+    };
     const auto create = [&text](REFCLSID classId, REFIID iid)
     {
         void* object = text;
@@ -441,6 +484,8 @@ TEST_F(WindowsFactsTest, OfLinksAndFolders)
             Seen(HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND))},
         {"An unknown class", create(unknown, IID_IUnknown), Seen(REGDB_E_CLASSNOTREG, nullptr)},
         {"An unknown interface", create(CLSID_ShellLink, unknown), Seen(E_NOINTERFACE, nullptr)},
+        {"All interfaces of an object lead to one", Seen(identity(link.File())),
+            Seen(identity(link.Link()))},
         {"An object needs a place",
             Seen(CoCreateInstance(
                 CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW, nullptr)),
