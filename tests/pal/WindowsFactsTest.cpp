@@ -1,5 +1,5 @@
-// Facts about Windows: each in words, what the calls show of it here, and what they show on
-// Windows. Where Wine differs from Windows, the row has Wine's answer as well.
+// Facts about Windows. Each row has the fact in words, what the calls did, what they do on Windows
+// and, if Wine differs from Windows, what they do under Wine. The rows are evaluated in order.
 #include "support/ChildProcesses.h"
 #include "support/RegistryCalls.h"
 #include "support/ShellLinks.h"
