@@ -13,9 +13,9 @@
 namespace Pal
 {
 
-// The folder that stands for the whole machine: $VORLAN_MACHINE, else
-// $XDG_DATA_HOME/vorlan-machine, else ~/.local/share/vorlan-machine. The environment is read at
-// every call. The folder need not exist yet: the first registry or shell-folder call creates it.
+// The root folder of the machine: $VORLAN_MACHINE, else $XDG_DATA_HOME/vorlan-machine, else
+// ~/.local/share/vorlan-machine. The environment is read at every call. The folder need not exist:
+// the first registry or shell-folder call creates it.
 std::filesystem::path MachineRoot();
 
 // Makes one call of a function of this layer fail during the object's lifetime. Calls are counted
@@ -52,8 +52,8 @@ private:
     const std::unique_ptr<State> state;
 };
 
-// Called with a text that names the fault. Without a handler (nullptr) the text goes to the
-// standard error output and the program aborts.
+// Called with a text that describes the fault. Without a handler (nullptr) the text is written to
+// the standard error output and the program aborts.
 void SetUnusedFaultHandler(std::function<void(const std::string&)> handler);
 
 // Registers a class with CoCreateInstance for the object's lifetime. Of several registrations of

@@ -58,7 +58,7 @@ DWORD FileNameOf(LPCWSTR name, std::string& fileName)
     return ERROR_SUCCESS;
 }
 
-// Locks the mutex's file as one of its holders; existed tells whether there were others.
+// Locks the mutex's file for a new handle; existed: whether there were others.
 DWORD Join(const std::string& fileName, Descriptor& file, bool& existed)
 {
     const fs::path folder = MutexFolder(MachineRoot());
@@ -95,11 +95,11 @@ HANDLE CreateNamedMutex(LPCWSTR name)
 
 } // namespace Pal
 
-// Keeps:   the mutex is there as long as any process of this machine has a handle for it, and goes
-//          with the last one however that process ends; success sets the last error to zero, or to
-//          ERROR_ALREADY_EXISTS where it was there. "Local\" in front of a name changes nothing.
-// Differs: names may hold any character and have some 250 bytes.
-// Refuses: being its owner, waiting for it, security attributes, a mutex without a name.
+// Keeps:   a mutex exists as long as any process of this machine has a handle for it, however the
+//          processes end. Success sets the last error to zero, or to ERROR_ALREADY_EXISTS if the
+//          mutex existed. The prefix "Local\" changes nothing.
+// Differs: names may hold any character and have about 250 bytes at most.
+// Refuses: ownership, security attributes, a mutex without a name.
 HANDLE CreateMutexW(LPSECURITY_ATTRIBUTES mutexAttributes, BOOL initialOwner, LPCWSTR name)
 {
     if (Pal::FaultHits(__func__))

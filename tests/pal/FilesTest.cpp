@@ -58,17 +58,6 @@ protected:
     }
 };
 
-TEST_F(FilesTest, WhatIsWrittenIsReadAndTheEndOfTheFileIsNoError)
-{
-    const std::wstring path = PathOf(L"file");
-    MakeFile(path, "0123456789");
-    const HANDLE file = Open(path, GENERIC_READ, OPEN_EXISTING);
-    EXPECT_EQ(Read(file, 4), "0123");
-    EXPECT_EQ(Read(file, 100), "456789");
-    EXPECT_EQ(Read(file, 100), "");
-    EXPECT_TRUE(CloseHandle(file));
-}
-
 TEST_F(FilesTest, EachDispositionTreatsAFileThatIsThereInItsOwnWay)
 {
     struct Case
@@ -95,21 +84,6 @@ TEST_F(FilesTest, EachDispositionTreatsAFileThatIsThereInItsOwnWay)
         EXPECT_EQ(ContentOf(path), each.contentAfterwards);
     }
     ExpectOpenFails(PathOf(L"there"), GENERIC_WRITE, CREATE_NEW, ERROR_FILE_EXISTS);
-}
-
-TEST_F(FilesTest, EachDispositionTreatsAMissingFileInItsOwnWay)
-{
-    ExpectOpenFails(PathOf(L"none"), GENERIC_WRITE, OPEN_EXISTING, ERROR_FILE_NOT_FOUND);
-    ExpectOpenFails(PathOf(L"none"), GENERIC_WRITE, TRUNCATE_EXISTING, ERROR_FILE_NOT_FOUND);
-    for (const DWORD disposition : {CREATE_NEW, CREATE_ALWAYS, OPEN_ALWAYS})
-    {
-        const std::wstring path = PathOf(L"made" + std::to_wstring(disposition));
-        SetLastError(ERROR_GEN_FAILURE);
-        const HANDLE file = Open(path, GENERIC_WRITE, disposition);
-        EXPECT_EQ(GetLastError(), DWORD{ERROR_SUCCESS});
-        CloseHandle(file);
-        EXPECT_EQ(ContentOf(path), "");
-    }
 }
 
 TEST_F(FilesTest, BothSeparatorsSeparate)

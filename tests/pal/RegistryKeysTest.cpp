@@ -56,12 +56,4 @@ TEST_F(RegistryKeysTest, The32BitViewOfTheMachinesSoftwareIsAKeyOfItsOwn)
     EXPECT_EQ(RegDeleteKeyW(HKEY_LOCAL_MACHINE, keyPath), ERROR_SUCCESS);
 }
 
-TEST_F(RegistryKeysTest, TheUsersSoftwareIsTheSameInBothViews)
-{
-    SetText(Key(), L"view", L"both");
-    const HKEY narrow = MakeKey(HKEY_CURRENT_USER, keyPath, KEY_READ | KEY_WOW64_32KEY);
-    EXPECT_EQ(TextOf(narrow, L"view"), L"both");
-    RegCloseKey(narrow);
-}
-
 } // namespace

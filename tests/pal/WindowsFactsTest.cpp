@@ -1,5 +1,5 @@
-// Facts about Windows: each in words, what the calls show of it here, and what they show on
-// Windows. Where Wine differs from Windows, the row has Wine's answer as well.
+// Facts about Windows. Each row has the fact in words, what the calls did, what they do on Windows
+// and, if Wine differs from Windows, what they do under Wine. The rows are evaluated in order.
 #include "support/ChildProcesses.h"
 #include "support/RegistryCalls.h"
 #include "support/ShellLinks.h"
@@ -107,7 +107,9 @@ TEST_F(WindowsFactsTest, OfKeys)
         {"It may end with separators", open(parent, L"Child\\\\"), Seen(0, parent)},
         {"A key is opened in one view",
             open(parent, L"", KEY_READ | KEY_WOW64_32KEY | KEY_WOW64_64KEY),
-            fails(ERROR_INVALID_PARAMETER)},
+            fails(ERROR_INVALID_PARAMETER), Seen(0, parent)},
+        {"The user's keys are the same in both",
+            open(HKEY_CURRENT_USER, keyPath, KEY_READ | KEY_WOW64_32KEY), Seen(0, parent)},
         {"A result is required", Seen(RegOpenKeyExW(parent, L"", 0, KEY_READ, nullptr)),
             Seen(ERROR_INVALID_PARAMETER)},
         {"Null is no key to close", Seen(RegCloseKey(nullptr)), Seen(ERROR_INVALID_HANDLE)},
@@ -137,7 +139,8 @@ TEST_F(WindowsFactsTest, OfValues)
 {
     const DWORD textSize = 5 * sizeof(wchar_t);
     SetText(Key(), L"four", L"text");
-    SetWide(Key(), L"open", REG_SZ, L"abc");
+    RegSetValueExW(
+        Key(), L"open", 0, REG_SZ, reinterpret_cast<const BYTE*>(L"abcd"), 3 * sizeof(wchar_t));
     const HKEY reader = MakeKey(Key(), L"", KEY_READ);
     const HKEY writer = MakeKey(Key(), L"", KEY_SET_VALUE);
     wchar_t name[16];
@@ -262,12 +265,17 @@ TEST_F(WindowsFactsTest, OfFiles)
         {"Only in a folder", Seen(makeFolder(L"none/folder")), Seen(ERROR_PATH_NOT_FOUND)},
         {"An empty name is no path", Seen(open(L"")), Seen(ERROR_PATH_NOT_FOUND)},
         {"A missing file is told", Seen(open(PathOf(L"none"))), Seen(ERROR_FILE_NOT_FOUND)},
+        {"It is not emptied", Seen(open(PathOf(L"none"), TRUNCATE_EXISTING)),
+            Seen(ERROR_FILE_NOT_FOUND)},
+        {"But made",
+            Seen(open(PathOf(L"made"), OPEN_ALWAYS), open(PathOf(L"made too"), CREATE_ALWAYS)),
+            Seen(0, 0)},
         {"And a missing folder", Seen(open(PathOf(L"none/x")), open(PathOf(L"none/x"), CREATE_NEW)),
             Seen(ERROR_PATH_NOT_FOUND, ERROR_PATH_NOT_FOUND)},
         {"A folder is no file", Seen(open(PathOf(L"folder")), open(PathOf(L"folder"), OPEN_ALWAYS)),
             Seen(ERROR_ACCESS_DENIED, ERROR_ACCESS_DENIED)},
         {"Nor does a file's path end like a folder's", Seen(open(PathOf(L"folder\\"))),
-            Seen(ERROR_PATH_NOT_FOUND)},
+            Seen(ERROR_PATH_NOT_FOUND), Seen(ERROR_ACCESS_DENIED)},
         {"A file is made once", Seen(open(PathOf(L"file"), CREATE_NEW)), Seen(ERROR_FILE_EXISTS)},
         {"Nul is the null device", Seen(open(L"nul"), open(L"NUL")), Seen(0, 0)},
         {"What is missing has no attributes", Seen(attributes(L"none"), attributes(L"none/file")),
@@ -321,6 +329,8 @@ TEST_F(WindowsFactsTest, OfProcesses)
                                             information.dwProcessId, information.dwThreadId);
     };
     const auto fails = [](DWORD error) { return Seen(error, nullptr, nullptr, 0, 0); };
+    const auto failsUnderWine = [&child](DWORD error)
+    { return Seen(error, child.c_str(), child.c_str(), 1, 1); };
     DWORD bytes = 0;
     const HANDLE text = CreateFileW(PathOf(L"text.exe").c_str(), GENERIC_WRITE, 0, nullptr,
         CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -345,12 +355,13 @@ TEST_F(WindowsFactsTest, OfProcesses)
     QDir::setCurrent(QString::fromStdWString(PathOf(L"")));
     Check({
         {"A failure clears the information", start(nullptr, PathOf(L"none.exe")),
-            fails(ERROR_FILE_NOT_FOUND)},
-        {"A name is searched", start(nullptr, L"no-such-program /S"), fails(ERROR_FILE_NOT_FOUND)},
+            fails(ERROR_FILE_NOT_FOUND), failsUnderWine(ERROR_FILE_NOT_FOUND)},
+        {"A name is searched", start(nullptr, L"no-such-program /S"), fails(ERROR_FILE_NOT_FOUND),
+            failsUnderWine(ERROR_FILE_NOT_FOUND)},
         {"A text is no program", start(nullptr, PathOf(L"text.exe")), fails(ERROR_BAD_EXE_FORMAT)},
         {"It must not be empty", start(L"", L""), fails(ERROR_PATH_NOT_FOUND)},
         {"The folder to start in is there", start(nullptr, child + L"exit 0", L"none"),
-            fails(ERROR_DIRECTORY)},
+            fails(ERROR_DIRECTORY), failsUnderWine(ERROR_DIRECTORY)},
         {"An unquoted name may hold blanks", start(nullptr, blanks + L" exit 5"), Seen(5)},
         {"The shortest that is there counts", start(nullptr, one + L" words.exe wait"), Seen(99)},
         {"Quotes keep it together", start(nullptr, L"\"" + one + L" words.exe\" exit 3"), Seen(3)},
@@ -363,7 +374,7 @@ TEST_F(WindowsFactsTest, OfProcesses)
             Seen(ERROR_INVALID_PARAMETER)},
         {"A process ends once",
             Seen(ErrorOf([&] { return TerminateProcess(ended.process.Get(), 1); })),
-            Seen(ERROR_ACCESS_DENIED)},
+            Seen(ERROR_ACCESS_DENIED), Seen(0)},
         {"Waiting is a right",
             Seen(ErrorOf([&] { return WaitForSingleObject(query.Get(), 0) != WAIT_FAILED; })),
             Seen(ERROR_ACCESS_DENIED)},
@@ -379,17 +390,44 @@ TEST_F(WindowsFactsTest, OfProcesses)
     QDir::setCurrent(formerFolder);
 }
 
+TEST_F(WindowsFactsTest, OfMutexes)
+{
+    const auto create = [](const wchar_t* name, TestHandle& mutex)
+    {
+        SetLastError(ERROR_GEN_FAILURE);
+        mutex = TestHandle(CreateMutexW(nullptr, FALSE, name));
+        return Seen(mutex.Get(), GetLastError());
+    };
+    TestHandle mutexes[4];
+    const auto made = Seen(mutexes, 0);
+    const auto found = Seen(mutexes, ERROR_ALREADY_EXISTS);
+    Check({
+        {"A mutex is made", create(L"VorlanTest {\u00e4/*}", mutexes[0]), made},
+        {"It is there for the next one", create(L"VorlanTest {\u00e4/*}", mutexes[1]), found},
+        {"Case counts", create(L"VorlanTest {\u00c4/*}", mutexes[2]), made},
+    });
+    mutexes[0].Close();
+    Check({
+        {"It outlives its first handle", create(L"Local\\VorlanTest {\u00e4/*}", mutexes[3]),
+            found},
+    });
+    for (TestHandle& mutex : mutexes)
+        mutex.Close();
+    Check({{"It goes with the last one", create(L"VorlanTest {\u00e4/*}", mutexes[0]), made}});
+}
+
 TEST_F(WindowsFactsTest, OfTheShell)
 {
     const std::wstring child = CopyChild(L"sub/child.exe");
     const std::wstring folder = PathOf(L"sub");
     CopyChild(L"sub/child.vorlan");
     const auto execute = [](const std::wstring& file, const wchar_t* startFolder = nullptr,
-                             const wchar_t* verb = nullptr, DWORD hotKey = 0)
+                             const wchar_t* verb = nullptr, DWORD hotKey = 0,
+                             DWORD mask = SEE_MASK_NOCLOSEPROCESS)
     {
         SHELLEXECUTEINFOW information = {};
         information.cbSize = sizeof information;
-        information.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI;
+        information.fMask = mask | SEE_MASK_FLAG_NO_UI;
         information.lpVerb = verb;
         information.lpFile = file.c_str();
         information.lpParameters = L"exit 3";
@@ -397,20 +435,23 @@ TEST_F(WindowsFactsTest, OfTheShell)
         information.dwHotKey = hotKey;
         information.hProcess = HKEY_CURRENT_USER;
         const DWORD error = ErrorOf([&] { return ShellExecuteExW(&information); });
-        return error == ERROR_SUCCESS ? Seen(ExitCode(TestHandle(information.hProcess)))
-                                      : Seen(error, information.hProcess);
+        return information.hProcess ? Seen(ExitCode(TestHandle(information.hProcess)))
+                                    : Seen(error, nullptr);
     };
     const auto fails = [](DWORD error) { return Seen(error, nullptr); };
     Check({
         {"A program is started", execute(child), Seen(3)},
+        {"There is no handle unless it is asked for", execute(child, nullptr, nullptr, 0, 0),
+            Seen(0, nullptr)},
         {"Its name may stand in quotes", execute(L"\"" + child + L"\""), Seen(3)},
         {"Its arguments do not belong to it", execute(child + L" x"), fails(ERROR_FILE_NOT_FOUND)},
         {"It is searched where it starts", execute(L"child.exe", folder.c_str()), Seen(3)},
-        {"But not beside the caller", execute(L"test-program.exe"), fails(ERROR_FILE_NOT_FOUND)},
+        {"But not beside the caller", execute(L"test-program.exe"), fails(ERROR_FILE_NOT_FOUND),
+            Seen(3)},
         {"An empty verb is none", execute(child, nullptr, L""), Seen(3)},
         {"What the mask leaves out is not read", execute(child, nullptr, nullptr, 1), Seen(3)},
         {"A name's ending says what a file is", execute(PathOf(L"sub\\child.vorlan")),
-            fails(ERROR_NO_ASSOCIATION)},
+            fails(ERROR_NO_ASSOCIATION), Seen(3)},
     });
 }
 
@@ -420,6 +461,13 @@ TEST_F(WindowsFactsTest, OfLinksAndFolders)
     TestLink link;
     wchar_t text[MAX_PATH] = L"old";
     const CLSID unknown = {0x5F0B7F3E, 0x1C2D, 0x4E5F, {0x80, 1, 2, 3, 4, 5, 6, 7}};
+    const auto identity = [](IUnknown& face)
+    {
+        IUnknown* object = nullptr;
+        EXPECT_EQ(face.QueryInterface(IID_IUnknown, reinterpret_cast<void**>(&object)), S_OK);
+        object->Release();
+        return reinterpret_cast<uintptr_t>(object);
+    };
     const auto create = [&text](REFCLSID classId, REFIID iid)
     {
         void* object = text;
@@ -441,6 +489,8 @@ TEST_F(WindowsFactsTest, OfLinksAndFolders)
             Seen(HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND))},
         {"An unknown class", create(unknown, IID_IUnknown), Seen(REGDB_E_CLASSNOTREG, nullptr)},
         {"An unknown interface", create(CLSID_ShellLink, unknown), Seen(E_NOINTERFACE, nullptr)},
+        {"All interfaces of an object lead to one", Seen(identity(link.File())),
+            Seen(identity(link.Link()))},
         {"An object needs a place",
             Seen(CoCreateInstance(
                 CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkW, nullptr)),

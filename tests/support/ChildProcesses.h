@@ -20,6 +20,11 @@ class TestHandle
 public:
     explicit TestHandle(HANDLE owned = nullptr) : handle(owned) {}
     TestHandle(TestHandle&& other) noexcept : handle(std::exchange(other.handle, nullptr)) {}
+    TestHandle& operator=(TestHandle&& other) noexcept
+    {
+        std::swap(handle, other.handle);
+        return *this;
+    }
     ~TestHandle() { Close(); }
 
     HANDLE Get() const { return handle; }

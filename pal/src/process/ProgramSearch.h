@@ -1,4 +1,4 @@
-// Where a program lies that a caller names.
+// Searches for programs.
 #pragma once
 
 #include "process/CommandLine.h"
@@ -13,7 +13,7 @@
 namespace Pal
 {
 
-// Where a program is looked for that is named without a whole path.
+// The folders in which programs are searched, in order.
 struct SearchedFolders
 {
     std::vector<std::filesystem::path> ofPaths; // of relative paths
@@ -24,7 +24,8 @@ struct SearchedFolders
 // folder, those of $PATH.
 SearchedFolders FoldersOfCreateProcess();
 
-// The folder to start in, if there is one, and all of these but that of the running program.
+// The folder to start in, unless it is empty, and the folders above without that of the running
+// program.
 SearchedFolders FoldersOfShell(const std::string& startFolder);
 
 // The absolute path of a program that exists under its name or, if that has no extension, with
