@@ -27,6 +27,7 @@ protected:
 
 TEST_F(FocusChangedEvendHandlerTest, IsTheInterfaceThatItSays)
 {
+    static_assert(std::has_virtual_destructor_v<FocusChangedEvendHandler>); // the last of the slots
     void* object = nullptr;
     for (const IID& iid : {IID_IUnknown, UiAutomation::idIUIAutomationFocusChangedEventHandler})
     {

@@ -160,7 +160,6 @@ TEST_F(ShortcutsTest, RemovalTellsWhatItFindsAndTakesTheOldDesktopLink)
     access.CreateShortcuts();
     access.Settings().previousFolderName = "Old Name";
     const QString desktop = GetStandardLocation(StandardLocation::Desktop) + QDir::separator();
-    WriteFile(installDir + "quill.exe", "what the link leads to");
     ASSERT_TRUE(CreateShortCut(desktop + "Old Name", installDir + "quill.exe", {}));
     access.RemoveShortcuts();
     EXPECT_EQ(Links(StandardLocation::Desktop), QStringList("Vorlan Quillax.lnk"));

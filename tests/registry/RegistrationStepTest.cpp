@@ -156,6 +156,16 @@ TEST_P(RegistrationStepTest, ContextMenuHasAVerbForEveryExtensionInTheSystemsLan
     EXPECT_EQ(verbs(" = "), QStringList());
 }
 
+TEST_P(RegistrationStepTest, VerbWithoutATranslationIsLeftOutAndNamed)
+{
+    access.Settings().systemLocale = "xx_XX";
+    access.Settings().contextMenuConvert = 2;
+    access.AddRegistryInfo();
+    EXPECT_EQ(Records().filter("\\Shell\\"), QStringList());
+    EXPECT_TRUE(machine.Log().contains(
+        "The verb Convert to is left out: it is not translated to \"xx_XX\""));
+}
+
 TEST_P(RegistrationStepTest, ForeignValuesOfOurKeysSurviveTheRemoval)
 {
     RegistrySettings foreign(
