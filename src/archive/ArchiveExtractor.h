@@ -47,8 +47,8 @@ public:
     // lie in memory. Throws std::runtime_error: "Failed to extract file data!", "Failed to create
     // directory", "Cannot open destination file for write", "Cannot write output file" or "Cannot
     // close output file". What was written before stays.
-    void Unpack(
-        const ExtractSettings& selection, const std::wstring& destination, const Progress& progress);
+    void Unpack(const ExtractSettings& selection, const std::wstring& destination,
+        const Progress& progress);
 
 private:
     struct State;

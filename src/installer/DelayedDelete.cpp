@@ -21,7 +21,7 @@ constexpr char scriptResource[] = ":/Batch/uninstallDelayedDir.bat";
 QString CopyScript()
 {
     QString path = QDir::toNativeSeparators(QDir::tempPath()) + QDir::separator() +
-                         QUuid::createUuid().toString() + ".bat";
+                   QUuid::createUuid().toString() + ".bat";
     if (!QFile::copy(scriptResource, path))
         return QString();
     QFile::setPermissions(path, QFile::permissions(path) | QFile::WriteOwner | QFile::WriteUser |
