@@ -43,6 +43,7 @@ extern "C"
     LSTATUS WINAPI RegOpenKeyExW(
         HKEY key, LPCWSTR subKey, DWORD options, REGSAM desiredAccess, PHKEY result);
     LSTATUS WINAPI RegCloseKey(HKEY key);
+    LSTATUS WINAPI RegOverridePredefKey(HKEY key, HKEY replacement);
     LSTATUS WINAPI RegDeleteKeyW(HKEY key, LPCWSTR subKey);
 
     LSTATUS WINAPI RegSetValueExW(

@@ -10,6 +10,19 @@ class RegistryKeysTest : public PalMachine
 {
 };
 
+TEST_F(RegistryKeysTest, ARedirectedRootLeadsToTheKeyUntilItIsUndone)
+{
+    const HKEY target = MakeKey(Key(), L"Redirected");
+    ASSERT_EQ(RegOverridePredefKey(HKEY_LOCAL_MACHINE, target), ERROR_SUCCESS);
+    RegCloseKey(MakeKey(HKEY_LOCAL_MACHINE, L"Software\\Product"));
+    ASSERT_EQ(RegOverridePredefKey(HKEY_LOCAL_MACHINE, nullptr), ERROR_SUCCESS);
+    EXPECT_EQ(SubKeyNames(target), (std::vector<std::wstring>{L"Software"}));
+    RegCloseKey(target);
+    HKEY missing = nullptr;
+    EXPECT_EQ(RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"Software\\Product", 0, KEY_READ, &missing),
+        ERROR_FILE_NOT_FOUND);
+}
+
 TEST_F(RegistryKeysTest, CreatingMakesEveryKeyOnTheWayAndTellsWhetherItWasThere)
 {
     HKEY key = nullptr;

@@ -2,6 +2,9 @@
 
 #include <QString>
 
+#include <array>
+#include <utility>
+
 namespace Pal
 {
 
@@ -11,6 +14,13 @@ namespace
 RegistryRoot RootOf(HKEY predefined)
 {
     return predefined == HKEY_CURRENT_USER ? RegistryRoot::CurrentUser : RegistryRoot::LocalMachine;
+}
+
+// The replacement of each root, or null.
+std::array<std::shared_ptr<OpenKey>, 2>& Overrides()
+{
+    static auto& overrides = *new std::array<std::shared_ptr<OpenKey>, 2>;
+    return overrides;
 }
 
 } // namespace
@@ -46,7 +56,15 @@ std::shared_ptr<OpenKey> FindOpenKey(HKEY key)
 {
     if (!IsPredefined(key))
         return HandleTable::Instance().Find<OpenKey>(key);
-    return std::make_shared<OpenKey>(KeyLocation{CurrentStore(), RootOf(key), {}}, KEY_ALL_ACCESS);
+    const RegistryRoot root = RootOf(key);
+    if (const auto& replacement = Overrides()[static_cast<size_t>(root)])
+        return replacement;
+    return std::make_shared<OpenKey>(KeyLocation{CurrentStore(), root, {}}, KEY_ALL_ACCESS);
+}
+
+void OverridePredefined(HKEY predefined, std::shared_ptr<OpenKey> replacement)
+{
+    Overrides()[static_cast<size_t>(RootOf(predefined))] = std::move(replacement);
 }
 
 } // namespace Pal

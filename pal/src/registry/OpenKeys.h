@@ -39,7 +39,11 @@ private:
 
 bool IsPredefined(HKEY key);
 
-// The key of a handle, or null; for a predefined key the root of the current machine.
+// The key of a handle, or null; for a predefined key its replacement, or the root of the current
+// machine. The registry's mutex must be held.
 std::shared_ptr<OpenKey> FindOpenKey(HKEY key);
+
+// A null replacement removes the one there is.
+void OverridePredefined(HKEY predefined, std::shared_ptr<OpenKey> replacement);
 
 } // namespace Pal

@@ -191,6 +191,26 @@ LSTATUS RegCloseKey(HKEY key)
     return closed ? ERROR_SUCCESS : ERROR_INVALID_HANDLE;
 }
 
+// For tests that need registry roots of their own in one process, on both systems.
+// Keeps:   redirects a predefined key, for this process only, to the key of a handle, which may be
+//          closed afterwards; a null replacement removes the redirection.
+// Differs: the redirection refers to the machine on which the handle was opened.
+// Refuses: a predefined key as replacement, with ERROR_INVALID_HANDLE.
+LSTATUS RegOverridePredefKey(HKEY key, HKEY replacement)
+{
+    if (const auto fault = Pal::InjectedFault(__func__))
+        return static_cast<LSTATUS>(*fault);
+    if (!Pal::IsPredefined(key) || Pal::IsPredefined(replacement))
+        return ERROR_INVALID_HANDLE;
+    const std::lock_guard lock(Pal::RegistryMutex());
+    const auto target = replacement ? Pal::FindOpenKey(replacement) : nullptr;
+    if (replacement && !target)
+        return ERROR_INVALID_HANDLE;
+    Pal::OverridePredefined(
+        key, target ? std::make_shared<Pal::OpenKey>(target->Location(), KEY_ALL_ACCESS) : nullptr);
+    return ERROR_SUCCESS;
+}
+
 // Keeps:   the handle's rights are not checked; an empty subKey deletes the key itself; a key with
 //          sub-keys and a root are ERROR_ACCESS_DENIED; after it, open handles of the key return
 //          ERROR_KEY_DELETED.

@@ -14,13 +14,13 @@ void PrintReports(const std::vector<std::string>& reports)
         qWarning("%s", report.c_str());
 }
 
+} // namespace
+
 std::mutex& RegistryMutex()
 {
     static std::mutex& mutex = *new std::mutex; // never destroyed: used during exit
     return mutex;
 }
-
-} // namespace
 
 RegistrySession::RegistrySession(HKEY handle, REGSAM rights, Access access)
     : processLock(RegistryMutex()), key(FindOpenKey(handle)), error(Open(rights, access))

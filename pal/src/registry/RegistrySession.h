@@ -8,6 +8,9 @@
 namespace Pal
 {
 
+// Guards the open keys and the trees in memory.
+std::mutex& RegistryMutex();
+
 // From construction to destruction the thread holds a mutex within this process and
 // the file lock against other processes. Warnings are printed after both are released, so a message
 // handler may use the registry.
