@@ -1,6 +1,7 @@
 #include "InstallRun.h"
 
 #include "MediatorRun.h"
+#include "RemovalMark.h"
 
 #include "base/ProductProfile.h"
 #include "installer/InstallerMediator.h"
@@ -30,8 +31,15 @@ std::unique_ptr<InstallerMediator> MakeInstaller(QSettings::Scope scope, bool is
 }
 
 Outcome InstallWith(
-    InstallerMediator& mediator, const InstallationSettings& settings, const EventSink& sink)
+    InstallerMediator& mediator, InstallationSettings settings, const EventSink& sink)
 {
+    if (!CancelRemovals(settings.installDir))
+    {
+        return {ExitCode::Failed,
+            QCoreApplication::translate(
+                "Wizard", "The folder %1 is still being removed. Wait a moment and try again.")
+                .arg(QDir::toNativeSeparators(QDir::cleanPath(settings.installDir)))};
+    }
     mediator.SetSettings(settings);
     mediator.OnLocaleChanged(settings.locale);
     return RunToTheEnd(mediator, &InstallerMediator::StartInstallation, sink);

@@ -1,5 +1,7 @@
 #include "OwnFolder.h"
 
+#include "RemovalMark.h"
+
 #include "base/ProductProfile.h"
 #include "registry/SettingsManager.h"
 
@@ -11,9 +13,6 @@ namespace Vorlan::FrontEnd
 {
 namespace
 {
-
-// A folder, because the uninstallation deletes only the files at the top.
-constexpr char markName[] = "uninst.unfinished";
 
 QString RegisteredFolder(QSettings::Scope scope)
 {
@@ -63,21 +62,6 @@ OwnFolder ExamineOwnFolder(const QString& folder, QSettings::Scope defaultScope)
             "The program is not installed in %1: nothing was deleted. Delete the folder by hand "
             "if it is not needed.")
             .arg(QDir::toNativeSeparators(folder))};
-}
-
-RemovalMark::RemovalMark(const QString& folder) : path(QDir(folder).filePath(markName))
-{
-    QDir().mkpath(path);
-}
-
-void RemovalMark::Finish() const
-{
-    QDir().rmdir(path);
-}
-
-bool RemovalMark::IsIn(const QString& folder)
-{
-    return QDir(folder).exists(markName);
 }
 
 } // namespace Vorlan::FrontEnd

@@ -18,17 +18,4 @@ struct OwnFolder
 // program nor the mark of an interrupted removal.
 OwnFolder ExamineOwnFolder(const QString& folder, QSettings::Scope defaultScope);
 
-// Marks the folder until Finish is called, so that an interrupted removal can be repeated.
-class RemovalMark
-{
-public:
-    explicit RemovalMark(const QString& folder);
-    void Finish() const;
-
-    static bool IsIn(const QString& folder);
-
-private:
-    QString path;
-};
-
 } // namespace Vorlan::FrontEnd

@@ -185,6 +185,22 @@ TEST_F(UninstallTest, FullRemovalDeletesTheFolderAndNoTargetsOfLinks)
     EXPECT_EQ(ReadFile(QFileInfo(product).path() + "/neighbour.txt"), "stays");
 }
 
+TEST_F(UninstallTest, AFullRemovalOfAFolderAroundAHomeFolderIsRefusedBeforeTheRun)
+{
+    InstallCurrent();
+    QDir().mkpath(product + "/home/me");
+    for (const char* variable : {"HOME", "OneDrive"})
+        setup.SetVariable(variable, QDir::toNativeSeparators(product + "/home/me"));
+    const auto refused = Uninstall({"/REMOVEALL"});
+    EXPECT_EQ(refused.exitCode, SetupRun::ShownExitCode(1603));
+    EXPECT_TRUE(refused.errors.contains("is a home folder: nothing was deleted"))
+        << refused.errors.toStdString();
+    EXPECT_EQ(Files(), installedFiles);
+    EXPECT_FALSE(QDir(product + "/uninst.unfinished").exists());
+    EXPECT_EQ(Uninstall({}).exitCode, 0);
+    EXPECT_TRUE(QDir(product + "/home/me").exists());
+}
+
 TEST_F(UninstallTest, IsRefusedBecauseOfDependentPrograms)
 {
     InstallCurrent();

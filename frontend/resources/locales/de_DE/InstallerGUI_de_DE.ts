@@ -163,6 +163,10 @@
         <translation>Die Datei %1 fehlt. Legen Sie sie wieder neben das Installationsprogramm.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>Der Ordner %1 wird gerade noch entfernt. Warten Sie einen Moment und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 ist installiert</translation>
     </message>

@@ -163,6 +163,10 @@
         <translation>The file %1 is missing. Put it back beside the setup program.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>The folder %1 is still being removed. Wait a moment and try again.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 is installed</translation>
     </message>

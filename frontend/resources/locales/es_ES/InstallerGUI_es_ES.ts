@@ -163,6 +163,10 @@
         <translation>Falta el archivo %1. Vuelva a colocarlo junto al instalador.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>La carpeta %1 todavía se está eliminando. Espere un momento e inténtelo de nuevo.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 está instalado</translation>
     </message>

@@ -163,6 +163,10 @@
         <translation>Le fichier %1 est manquant. Remettez-le à côté du programme d&apos;installation.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>Le dossier %1 est encore en cours de suppression. Patientez un instant et réessayez.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 est installé</translation>
     </message>

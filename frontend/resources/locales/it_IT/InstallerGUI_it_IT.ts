@@ -163,6 +163,10 @@
         <translation>Il file %1 non è presente. Rimetterlo accanto al programma di installazione.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>La cartella %1 è ancora in fase di rimozione. Attenda un momento e riprovi.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 è installato</translation>
     </message>

@@ -163,6 +163,10 @@
         <translation>ファイル %1 がありません。セットアップと同じ場所に戻してください。</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>フォルダー %1 はまだ削除中です。しばらく待ってからもう一度お試しください。</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 をインストールしました</translation>
     </message>

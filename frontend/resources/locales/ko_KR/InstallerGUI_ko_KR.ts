@@ -163,6 +163,10 @@
         <translation>%1 파일이 없습니다. 설치 프로그램 옆에 다시 넣어 주세요.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>%1 폴더를 아직 제거하는 중입니다. 잠시 기다린 후 다시 시도하십시오.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1이(가) 설치되었습니다</translation>
     </message>

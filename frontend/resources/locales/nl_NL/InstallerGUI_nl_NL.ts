@@ -163,6 +163,10 @@
         <translation>Het bestand %1 ontbreekt. Zet het terug naast het installatieprogramma.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>De map %1 wordt nog verwijderd. Wacht even en probeer het opnieuw.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 is geïnstalleerd</translation>
     </message>

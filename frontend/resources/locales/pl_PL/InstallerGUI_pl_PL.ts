@@ -163,6 +163,10 @@
         <translation>Brakuje pliku %1. Umieść go z powrotem obok instalatora.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>Folder %1 jest jeszcze usuwany. Poczekaj chwilę i spróbuj ponownie.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>Zainstalowano %1</translation>
     </message>

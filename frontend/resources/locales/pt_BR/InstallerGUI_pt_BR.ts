@@ -163,6 +163,10 @@
         <translation>O arquivo %1 não foi encontrado. Coloque-o de volta ao lado do instalador.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>A pasta %1 ainda está sendo removida. Aguarde um momento e tente novamente.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 está instalado</translation>
     </message>

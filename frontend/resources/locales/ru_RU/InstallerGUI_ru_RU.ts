@@ -163,6 +163,10 @@
         <translation>Файл %1 отсутствует. Верните его в папку программы установки.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>Папка %1 ещё удаляется. Подождите немного и повторите попытку.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>Программа %1 установлена</translation>
     </message>

@@ -163,6 +163,10 @@
         <translation>%1 dosyası yok. Dosyayı kurulum programının yanına geri koyun.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>%1 klasörü hâlâ kaldırılıyor. Biraz bekleyip yeniden deneyin.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 yüklendi</translation>
     </message>

@@ -163,6 +163,10 @@
         <translation>缺少文件 %1。请把它放回安装程序旁边。</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>仍在移除文件夹 %1。请稍候重试。</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 已安装</translation>
     </message>

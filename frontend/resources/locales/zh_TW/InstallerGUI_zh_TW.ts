@@ -163,6 +163,10 @@
         <translation>缺少檔案 %1。請將它放回安裝程式旁邊。</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>仍在移除資料夾 %1。請稍候再試一次。</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 已安裝</translation>
     </message>
