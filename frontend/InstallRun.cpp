@@ -7,11 +7,30 @@
 #include "installer/InstallerMediator.h"
 
 #include <QCoreApplication>
+#include <QDebug>
 #include <QDir>
 #include <QFileInfo>
 
 namespace Vorlan::FrontEnd
 {
+namespace
+{
+
+// The engine runs the uninstaller of the entry that is named like the registered folder. Another
+// name than the product's is the name of another program's entry.
+void LeaveForeignUninstaller(InstallationSettings& settings)
+{
+    QString& name = settings.previousFolderName;
+    if (name.compare(ProductProfile::productFullName, Qt::CaseInsensitive) != 0)
+    {
+        qWarning() << "The previous version is left, because the name of its folder is not the "
+                      "product's:"
+                   << name;
+        name.clear();
+    }
+}
+
+} // namespace
 
 QString ArchivePath()
 {
@@ -40,6 +59,7 @@ Outcome InstallWith(
                 "Wizard", "The folder %1 is still being removed. Wait a moment and try again.")
                 .arg(QDir::toNativeSeparators(QDir::cleanPath(settings.installDir)))};
     }
+    LeaveForeignUninstaller(settings);
     mediator.SetSettings(settings);
     mediator.OnLocaleChanged(settings.locale);
     return RunToTheEnd(mediator, &InstallerMediator::StartInstallation, sink);

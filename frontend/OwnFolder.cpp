@@ -31,6 +31,22 @@ bool LooksLikeTheProduct(const QString& folder)
            RemovalMark::IsIn(folder);
 }
 
+// Files of other programs may be in a folder that was registered under another name than the
+// product's. The name is that of the link where the folder is behind one.
+QString ForeignNameRefusal(const QString& registered)
+{
+    const QString name = ProductProfile::productFullName;
+    const QDir folder(QDir::fromNativeSeparators(registered));
+    if (folder.dirName().compare(name, Qt::CaseInsensitive) == 0)
+    {
+        return {};
+    }
+    return QCoreApplication::translate("Uninstaller",
+        "The name of the folder %1 is not %2, so files of other programs may be in it: nothing was "
+        "deleted.")
+        .arg(QDir::toNativeSeparators(folder.path()), name);
+}
+
 } // namespace
 
 OwnFolder ExamineOwnFolder(const QString& folder, QSettings::Scope defaultScope)
@@ -41,7 +57,7 @@ OwnFolder ExamineOwnFolder(const QString& folder, QSettings::Scope defaultScope)
         const QString registered = RegisteredFolder(scope);
         if (!registered.isEmpty() && IsSameFolder(registered, folder))
         {
-            return {scope, {}};
+            return {scope, ForeignNameRefusal(registered)};
         }
         other = other.isEmpty() ? registered : other;
     }

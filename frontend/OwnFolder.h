@@ -14,8 +14,9 @@ struct OwnFolder
 };
 
 // Looks up the product in the registry, in this user's root first. Deleting is refused if another
-// folder is registered, or if the product is not registered and the folder has neither its main
-// program nor the mark of an interrupted removal.
+// folder is registered, if the folder is registered under another name than the product's, or if
+// the product is not registered and the folder has neither its main program nor the mark of an
+// interrupted removal.
 OwnFolder ExamineOwnFolder(const QString& folder, QSettings::Scope defaultScope);
 
 } // namespace Vorlan::FrontEnd

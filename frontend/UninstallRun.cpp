@@ -50,6 +50,8 @@ std::unique_ptr<InstallerMediator> MakeUninstaller(
     auto mediator = std::make_unique<InstallerMediator>(
         InstallerMediator::Initializer{programName, false, isUnattended, scope, false});
     InstallationSettings settings = mediator->GetSettings();
+    // The name of the records, whatever the folder is called.
+    settings.previousFolderName = settings.productFolderName;
     settings.removeAllOnUninstall = options.removeAll;
     settings.locale = options.language.isEmpty() ? settings.locale : options.language;
     mediator->SetSettings(settings);

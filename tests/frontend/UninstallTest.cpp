@@ -1,6 +1,7 @@
 #include "MachineAccess.h"
 #include "platform/System.h"
 #include "registry/RegistrySettings.h"
+#include "support/ChildProgram.h"
 #include "support/FolderLink.h"
 #include "support/InstalledProduct.h"
 #include "support/MediatorAccess.h"
@@ -199,6 +200,42 @@ TEST_F(UninstallTest, AFullRemovalOfAFolderAroundAHomeFolderIsRefusedBeforeTheRu
     EXPECT_FALSE(QDir(product + "/uninst.unfinished").exists());
     EXPECT_EQ(Uninstall({}).exitCode, 0);
     EXPECT_TRUE(QDir(product + "/home/me").exists());
+}
+
+// Another front end has installed the product into the folder of another program.
+TEST_F(UninstallTest, AnotherProgramInTheRegisteredFolderIsNotChanged)
+{
+    const QString foo = machine.Path("Foo");
+    const ChildProgram itsUninstaller(foo + "/unins.exe", "clean");
+    WriteFile(foo + "/foo.exe", "program");
+    const QString entry =
+        "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Foo";
+    RegistrySettings(entry).setValue("UninstallString", '"' + foo + "/unins.exe\"");
+    RegistrySettings key(QSettings::UserScope, "Vorlan", "Quillax24");
+    key.setValue("Path", foo + QDir::separator());
+    key.sync();
+
+    InstallCurrent();
+    EXPECT_FALSE(itsUninstaller.WasRun());
+    EXPECT_EQ(Files(), installedFiles);
+
+    // The uninstaller in the folder of the other program.
+    for (const char* file : {"uninst.exe", ENGINE_FILE_NAME})
+        ASSERT_TRUE(QFile::copy(product + '/' + file, foo + '/' + file));
+    key.setValue("Path", foo + QDir::separator());
+    key.sync();
+    const auto refused = setup.StartFrom(foo, "uninst.exe", {"/S"});
+    EXPECT_EQ(refused.exitCode, SetupRun::ShownExitCode(1603));
+    EXPECT_TRUE(refused.errors.contains("is not Vorlan Quillax")) << refused.errors.toStdString();
+    EXPECT_TRUE(QFile::exists(foo + "/foo.exe"));
+
+    // After its move to a folder of its own, the records that it removes are its own.
+    key.setValue("Path", product + QDir::separator());
+    key.sync();
+    EXPECT_EQ(Uninstall({}).exitCode, 0);
+    EXPECT_FALSE(RegistrySettings(entry).value("UninstallString").toString().isEmpty());
+    EXPECT_EQ(Entry(), QStringList());
+    RegistrySettings(entry).remove(QString());
 }
 
 TEST_F(UninstallTest, IsRefusedBecauseOfDependentPrograms)

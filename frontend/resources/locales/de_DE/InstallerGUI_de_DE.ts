@@ -322,6 +322,10 @@
         <translation>Das Programm ist in %1 nicht installiert: Es wurde nichts gelöscht. Löschen Sie den Ordner von Hand, wenn er nicht gebraucht wird.</translation>
     </message>
     <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>Der Ordner %1 heißt nicht %2 und kann deshalb Dateien anderer Programme enthalten: Es wurde nichts gelöscht.</translation>
+    </message>
+    <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>Abgebrochen: Es wurde nichts gelöscht.</translation>
     </message>

@@ -322,6 +322,10 @@
         <translation>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</translation>
     </message>
     <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</translation>
+    </message>
+    <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>Cancelled: nothing was deleted.</translation>
     </message>

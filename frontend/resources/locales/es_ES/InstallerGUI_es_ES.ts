@@ -322,6 +322,10 @@
         <translation>El programa no está instalado en %1: no se ha eliminado nada. Elimine la carpeta manualmente si no la necesita.</translation>
     </message>
     <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>El nombre de la carpeta %1 no es %2, por lo que puede contener archivos de otros programas: no se ha eliminado nada.</translation>
+    </message>
+    <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>Cancelado: no se ha eliminado nada.</translation>
     </message>

@@ -322,6 +322,10 @@
         <translation>Le programme n&apos;est pas installé dans %1 : rien n&apos;a été supprimé. Supprimez le dossier à la main s&apos;il n&apos;est plus utile.</translation>
     </message>
     <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>Le dossier %1 ne s&apos;appelle pas %2 et peut donc contenir des fichiers d&apos;autres programmes : rien n&apos;a été supprimé.</translation>
+    </message>
+    <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>Annulé : rien n&apos;a été supprimé.</translation>
     </message>

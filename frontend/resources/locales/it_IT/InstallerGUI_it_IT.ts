@@ -322,6 +322,10 @@
         <translation>Il programma non è installato in %1: nulla è stato eliminato. Eliminare la cartella a mano se non serve.</translation>
     </message>
     <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>Il nome della cartella %1 non è %2, quindi può contenere file di altri programmi: non è stato eliminato nulla.</translation>
+    </message>
+    <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>Annullato: nulla è stato eliminato.</translation>
     </message>

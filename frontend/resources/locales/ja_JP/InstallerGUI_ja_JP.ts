@@ -322,6 +322,10 @@
         <translation>プログラムは %1 にインストールされていません。何も削除されませんでした。不要な場合はフォルダーを手動で削除してください。</translation>
     </message>
     <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>フォルダー %1 の名前が %2 ではないため、他のプログラムのファイルが含まれている可能性があります。何も削除されませんでした。</translation>
+    </message>
+    <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>キャンセルしました。何も削除されていません。</translation>
     </message>

@@ -322,6 +322,10 @@
         <translation>프로그램이 %1에 설치되어 있지 않습니다. 아무것도 삭제되지 않았습니다. 필요 없는 폴더라면 직접 삭제하세요.</translation>
     </message>
     <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>%1 폴더의 이름이 %2이(가) 아니므로 다른 프로그램의 파일이 있을 수 있습니다. 아무것도 삭제되지 않았습니다.</translation>
+    </message>
+    <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>취소되었습니다. 아무것도 삭제되지 않았습니다.</translation>
     </message>

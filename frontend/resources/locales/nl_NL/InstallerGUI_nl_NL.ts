@@ -322,6 +322,10 @@
         <translation>Het programma is niet geïnstalleerd in %1: er is niets verwijderd. Verwijder de map handmatig als deze niet nodig is.</translation>
     </message>
     <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>De map %1 heet niet %2 en kan dus bestanden van andere programma&apos;s bevatten: er is niets verwijderd.</translation>
+    </message>
+    <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>Geannuleerd: er is niets verwijderd.</translation>
     </message>

@@ -322,6 +322,10 @@
         <translation>Program nie jest zainstalowany w %1: niczego nie usunięto. Usuń folder ręcznie, jeśli jest zbędny.</translation>
     </message>
     <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>Folder %1 nie nazywa się %2, więc mogą w nim być pliki innych programów: niczego nie usunięto.</translation>
+    </message>
+    <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>Anulowano: niczego nie usunięto.</translation>
     </message>

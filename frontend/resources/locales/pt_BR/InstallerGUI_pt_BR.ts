@@ -322,6 +322,10 @@
         <translation>O programa não está instalado em %1: nada foi excluído. Exclua a pasta manualmente se ela não for necessária.</translation>
     </message>
     <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>O nome da pasta %1 não é %2, portanto ela pode conter arquivos de outros programas: nada foi excluído.</translation>
+    </message>
+    <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>Cancelado: nada foi excluído.</translation>
     </message>

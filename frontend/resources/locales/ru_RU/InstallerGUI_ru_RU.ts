@@ -322,6 +322,10 @@
         <translation>Программа не установлена в %1: ничего не удалено. Удалите папку вручную, если она не нужна.</translation>
     </message>
     <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>Папка %1 называется не %2, поэтому в ней могут быть файлы других программ: ничего не удалено.</translation>
+    </message>
+    <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>Отменено: ничего не удалено.</translation>
     </message>

@@ -322,6 +322,10 @@
         <translation>Program %1 konumunda yüklü değil: hiçbir şey silinmedi. Gerekmiyorsa klasörü elle silin.</translation>
     </message>
     <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>%1 klasörünün adı %2 değil, bu yüzden içinde başka programların dosyaları olabilir: hiçbir şey silinmedi.</translation>
+    </message>
+    <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>İptal edildi: hiçbir şey silinmedi.</translation>
     </message>

@@ -322,6 +322,10 @@
         <translation>程序未安装在 %1：没有删除任何内容。如果不需要该文件夹，请手动删除。</translation>
     </message>
     <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>文件夹 %1 的名称不是 %2，其中可能有其他程序的文件：未删除任何内容。</translation>
+    </message>
+    <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>已取消：没有删除任何内容。</translation>
     </message>

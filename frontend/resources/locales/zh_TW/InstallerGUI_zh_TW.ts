@@ -322,6 +322,10 @@
         <translation>程式未安裝在 %1：沒有刪除任何內容。如果不需要該資料夾，請手動刪除。</translation>
     </message>
     <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>資料夾 %1 的名稱不是 %2，其中可能有其他程式的檔案：未刪除任何內容。</translation>
+    </message>
+    <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>已取消：沒有刪除任何內容。</translation>
     </message>
