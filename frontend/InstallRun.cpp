@@ -1,16 +1,36 @@
 #include "InstallRun.h"
 
 #include "MediatorRun.h"
+#include "RemovalMark.h"
 
 #include "base/ProductProfile.h"
 #include "installer/InstallerMediator.h"
 
 #include <QCoreApplication>
+#include <QDebug>
 #include <QDir>
 #include <QFileInfo>
 
 namespace Vorlan::FrontEnd
 {
+namespace
+{
+
+// The engine runs the uninstaller of the entry that is named like the registered folder. Another
+// name than the product's is the name of another program's entry.
+void LeaveForeignUninstaller(InstallationSettings& settings)
+{
+    QString& name = settings.previousFolderName;
+    if (name.compare(ProductProfile::productFullName, Qt::CaseInsensitive) != 0)
+    {
+        qWarning() << "The previous version is left, because the name of its folder is not the "
+                      "product's:"
+                   << name;
+        name.clear();
+    }
+}
+
+} // namespace
 
 QString ArchivePath()
 {
@@ -36,8 +56,16 @@ std::unique_ptr<InstallerMediator> MakeInstaller(QSettings::Scope scope, bool is
 }
 
 Outcome InstallWith(
-    InstallerMediator& mediator, const InstallationSettings& settings, const EventSink& sink)
+    InstallerMediator& mediator, InstallationSettings settings, const EventSink& sink)
 {
+    if (!CancelRemovals(settings.installDir))
+    {
+        return {ExitCode::Failed,
+            QCoreApplication::translate(
+                "Wizard", "The folder %1 is still being removed. Wait a moment and try again.")
+                .arg(QDir::toNativeSeparators(QDir::cleanPath(settings.installDir)))};
+    }
+    LeaveForeignUninstaller(settings);
     mediator.SetSettings(settings);
     mediator.OnLocaleChanged(settings.locale);
     return RunToTheEnd(mediator, &InstallerMediator::StartInstallation, sink);

@@ -2,6 +2,7 @@
 
 #include "Outcome.h"
 #include "RunEvent.h"
+#include "base/InstallationSettings.h"
 
 #include <QSettings>
 #include <QString>
@@ -11,7 +12,6 @@
 namespace Vorlan
 {
 class InstallerMediator;
-struct InstallationSettings;
 } // namespace Vorlan
 
 namespace Vorlan::FrontEnd
@@ -26,8 +26,9 @@ QString MissingArchiveText();
 // archive cannot be read.
 std::unique_ptr<InstallerMediator> MakeInstaller(QSettings::Scope scope, bool isUnattended);
 
-// Installs with these settings and returns after the run.
+// Installs with these settings and returns after the run. Cancels a removal of the folder that has
+// not begun yet.
 Outcome InstallWith(
-    InstallerMediator& mediator, const InstallationSettings& settings, const EventSink& sink);
+    InstallerMediator& mediator, InstallationSettings settings, const EventSink& sink);
 
 } // namespace Vorlan::FrontEnd

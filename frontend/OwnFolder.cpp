@@ -1,5 +1,7 @@
 #include "OwnFolder.h"
 
+#include "RemovalMark.h"
+
 #include "base/ProductProfile.h"
 #include "registry/SettingsManager.h"
 
@@ -11,9 +13,6 @@ namespace Vorlan::FrontEnd
 {
 namespace
 {
-
-// A folder, because the uninstallation deletes only the files at the top.
-constexpr char markName[] = "uninst.unfinished";
 
 QString RegisteredFolder(QSettings::Scope scope)
 {
@@ -32,6 +31,22 @@ bool LooksLikeTheProduct(const QString& folder)
            RemovalMark::IsIn(folder);
 }
 
+// Files of other programs may be in a folder that was registered under another name than the
+// product's. The name is that of the link where the folder is behind one.
+QString ForeignNameRefusal(const QString& registered)
+{
+    const QString name = ProductProfile::productFullName;
+    const QDir folder(QDir::fromNativeSeparators(registered));
+    if (folder.dirName().compare(name, Qt::CaseInsensitive) == 0)
+    {
+        return {};
+    }
+    return QCoreApplication::translate("Uninstaller",
+        "The name of the folder %1 is not %2, so files of other programs may be in it: nothing was "
+        "deleted.")
+        .arg(QDir::toNativeSeparators(folder.path()), name);
+}
+
 } // namespace
 
 OwnFolder ExamineOwnFolder(const QString& folder, QSettings::Scope defaultScope)
@@ -42,7 +57,7 @@ OwnFolder ExamineOwnFolder(const QString& folder, QSettings::Scope defaultScope)
         const QString registered = RegisteredFolder(scope);
         if (!registered.isEmpty() && IsSameFolder(registered, folder))
         {
-            return {scope, {}};
+            return {scope, ForeignNameRefusal(registered)};
         }
         other = other.isEmpty() ? registered : other;
     }
@@ -63,21 +78,6 @@ OwnFolder ExamineOwnFolder(const QString& folder, QSettings::Scope defaultScope)
             "The program is not installed in %1: nothing was deleted. Delete the folder by hand "
             "if it is not needed.")
             .arg(QDir::toNativeSeparators(folder))};
-}
-
-RemovalMark::RemovalMark(const QString& folder) : path(QDir(folder).filePath(markName))
-{
-    QDir().mkpath(path);
-}
-
-void RemovalMark::Finish() const
-{
-    QDir().rmdir(path);
-}
-
-bool RemovalMark::IsIn(const QString& folder)
-{
-    return QDir(folder).exists(markName);
 }
 
 } // namespace Vorlan::FrontEnd

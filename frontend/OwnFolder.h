@@ -14,21 +14,9 @@ struct OwnFolder
 };
 
 // Looks up the product in the registry, in this user's root first. Deleting is refused if another
-// folder is registered, or if the product is not registered and the folder has neither its main
-// program nor the mark of an interrupted removal.
+// folder is registered, if the folder is registered under another name than the product's, or if
+// the product is not registered and the folder has neither its main program nor the mark of an
+// interrupted removal.
 OwnFolder ExamineOwnFolder(const QString& folder, QSettings::Scope defaultScope);
-
-// Marks the folder until Finish is called, so that an interrupted removal can be repeated.
-class RemovalMark
-{
-public:
-    explicit RemovalMark(const QString& folder);
-    void Finish() const;
-
-    static bool IsIn(const QString& folder);
-
-private:
-    QString path;
-};
 
 } // namespace Vorlan::FrontEnd

@@ -1,6 +1,7 @@
 #include "MachineAccess.h"
 #include "platform/System.h"
 #include "registry/RegistrySettings.h"
+#include "support/ChildProgram.h"
 #include "support/FolderLink.h"
 #include "support/InstalledProduct.h"
 #include "support/MediatorAccess.h"
@@ -183,6 +184,58 @@ TEST_F(UninstallTest, FullRemovalDeletesTheFolderAndNoTargetsOfLinks)
     EXPECT_EQ(Records(), QStringList());
     EXPECT_EQ(ReadFile(machine.Path("outside/marker.txt")), "stays");
     EXPECT_EQ(ReadFile(QFileInfo(product).path() + "/neighbour.txt"), "stays");
+}
+
+TEST_F(UninstallTest, AFullRemovalOfAFolderAroundAHomeFolderIsRefusedBeforeTheRun)
+{
+    InstallCurrent();
+    QDir().mkpath(product + "/home/me");
+    for (const char* variable : {"HOME", "OneDrive"})
+        setup.SetVariable(variable, QDir::toNativeSeparators(product + "/home/me"));
+    const auto refused = Uninstall({"/REMOVEALL"});
+    EXPECT_EQ(refused.exitCode, SetupRun::ShownExitCode(1603));
+    EXPECT_TRUE(refused.errors.contains("is a home folder: nothing was deleted"))
+        << refused.errors.toStdString();
+    EXPECT_EQ(Files(), installedFiles);
+    EXPECT_FALSE(QDir(product + "/uninst.unfinished").exists());
+    EXPECT_EQ(Uninstall({}).exitCode, 0);
+    EXPECT_TRUE(QDir(product + "/home/me").exists());
+}
+
+// Another front end has installed the product into the folder of another program.
+TEST_F(UninstallTest, AnotherProgramInTheRegisteredFolderIsNotChanged)
+{
+    const QString foo = machine.Path("Foo");
+    const ChildProgram itsUninstaller(foo + "/unins.exe", "clean");
+    WriteFile(foo + "/foo.exe", "program");
+    const QString entry =
+        "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Foo";
+    RegistrySettings(entry).setValue("UninstallString", '"' + foo + "/unins.exe\"");
+    RegistrySettings key(QSettings::UserScope, "Vorlan", "Quillax24");
+    key.setValue("Path", foo + QDir::separator());
+    key.sync();
+
+    InstallCurrent();
+    EXPECT_FALSE(itsUninstaller.WasRun());
+    EXPECT_EQ(Files(), installedFiles);
+
+    // The uninstaller in the folder of the other program.
+    for (const char* file : {"uninst.exe", ENGINE_FILE_NAME})
+        ASSERT_TRUE(QFile::copy(product + '/' + file, foo + '/' + file));
+    key.setValue("Path", foo + QDir::separator());
+    key.sync();
+    const auto refused = setup.StartFrom(foo, "uninst.exe", {"/S"});
+    EXPECT_EQ(refused.exitCode, SetupRun::ShownExitCode(1603));
+    EXPECT_TRUE(refused.errors.contains("is not Vorlan Quillax")) << refused.errors.toStdString();
+    EXPECT_TRUE(QFile::exists(foo + "/foo.exe"));
+
+    // After its move to a folder of its own, the records that it removes are its own.
+    key.setValue("Path", product + QDir::separator());
+    key.sync();
+    EXPECT_EQ(Uninstall({}).exitCode, 0);
+    EXPECT_FALSE(RegistrySettings(entry).value("UninstallString").toString().isEmpty());
+    EXPECT_EQ(Entry(), QStringList());
+    RegistrySettings(entry).remove(QString());
 }
 
 TEST_F(UninstallTest, IsRefusedBecauseOfDependentPrograms)

@@ -59,4 +59,23 @@ TEST_F(UninstallWindowTest, AnotherFolderIsDeletedOnlyAfterConfirmation)
     }
 }
 
+// The registered folder has the name of another program, whose records stay.
+TEST_F(UninstallWindowTest, RecordsOfAnotherProgramAreNotRemoved)
+{
+    InstallCurrent();
+    const QString foo = machine.Path("Foo");
+    QDir().mkpath(foo);
+    ASSERT_TRUE(QFile::copy(product + "/" ENGINE_FILE_NAME, foo + "/" ENGINE_FILE_NAME));
+    const QString list =
+        "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall";
+    RegistrySettings(list + "\\Foo").setValue("DisplayVersion", "1.0");
+    RegistrySettings(QSettings::UserScope, "Vorlan", "Quillax24")
+        .setValue("Path", foo + QDir::separator());
+    const QStringList seen = PressButtons(foo, {"yes"});
+    EXPECT_TRUE(seen.value(0).contains("is not Vorlan Quillax")) << qPrintable(seen.join('|'));
+    EXPECT_EQ(seen.last(), "0");
+    EXPECT_EQ(Entry(), QStringList("Foo: DisplayVersion = REG_SZ 1.0"));
+    RegistrySettings(list + "\\Foo").remove(QString());
+}
+
 } // namespace

@@ -37,6 +37,11 @@ void ChildProgram::Start(const QStringList& arguments)
 {
     process.start(path, arguments);
     ASSERT_TRUE(process.waitForStarted(timeLimitMs)) << process.errorString().toStdString();
+    WaitForRun();
+}
+
+void ChildProgram::WaitForRun() const
+{
     const QDeadlineTimer deadline(timeLimitMs);
     while (!WasRun() && !deadline.hasExpired())
         std::this_thread::yield();

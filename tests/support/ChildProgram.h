@@ -25,6 +25,7 @@ public:
 
     // The arguments of its last run, once it was run.
     bool WasRun() const;
+    void WaitForRun() const; // at most a minute
     QStringList Arguments() const;
 
 private:

@@ -37,6 +37,9 @@ public:
     // Starts a program and does not wait for its end.
     void Launch(QProcess& process, const QString& programPath, const QStringList& arguments) const;
 
+    // Sets a variable of the programs' environment.
+    void SetVariable(const QString& name, const QString& value) { environment.insert(name, value); }
+
     // Copies a file of the build's program folder into the setup folder, under the same path.
     void AddProgram(const QString& fileName);
 

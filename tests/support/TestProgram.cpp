@@ -1,6 +1,7 @@
 // A program that tests start under many names. The first word of its orders says what it does:
 //   exit <n>                  ends with that code
 //   wait                      runs until somebody ends it (or ten minutes have passed)
+//   until <file>              runs until this file beside it exists (or ten minutes have passed)
 //   print <word>              writes the word to standard output and standard error
 //   report <file> <word>...   writes the current folder and the words into the file, a line each
 //   clean                     deletes the files beside it, itself and its notes aside
@@ -59,11 +60,21 @@ int Print(const std::string& word)
     return 0;
 }
 
+int WaitFor(const fs::path& file)
+{
+    const auto end = std::chrono::steady_clock::now() + std::chrono::minutes(10);
+    while (!fs::exists(file) && std::chrono::steady_clock::now() < end)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    return 0;
+}
+
 int Obey(const Words& orders, const fs::path& program)
 {
     const std::string order = orders.empty() ? "" : orders.front();
     if (order == "wait")
         std::this_thread::sleep_for(std::chrono::minutes(10));
+    if (order == "until")
+        return WaitFor(program.parent_path() / orders.at(1));
     if (order == "clean")
         return DeleteFilesBeside(program);
     if (order == "exit")

@@ -163,6 +163,10 @@
         <translation>Die Datei %1 fehlt. Legen Sie sie wieder neben das Installationsprogramm.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>Der Ordner %1 wird gerade noch entfernt. Warten Sie einen Moment und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 ist installiert</translation>
     </message>
@@ -316,6 +320,10 @@
     <message>
         <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
         <translation>Das Programm ist in %1 nicht installiert: Es wurde nichts gelöscht. Löschen Sie den Ordner von Hand, wenn er nicht gebraucht wird.</translation>
+    </message>
+    <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>Der Ordner %1 heißt nicht %2 und kann deshalb Dateien anderer Programme enthalten: Es wurde nichts gelöscht.</translation>
     </message>
     <message>
         <source>Cancelled: nothing was deleted.</source>

@@ -163,6 +163,10 @@
         <translation>The file %1 is missing. Put it back beside the setup program.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>The folder %1 is still being removed. Wait a moment and try again.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 is installed</translation>
     </message>
@@ -316,6 +320,10 @@
     <message>
         <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
         <translation>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</translation>
+    </message>
+    <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</translation>
     </message>
     <message>
         <source>Cancelled: nothing was deleted.</source>

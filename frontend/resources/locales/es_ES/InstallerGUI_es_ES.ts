@@ -163,6 +163,10 @@
         <translation>Falta el archivo %1. Vuelva a colocarlo junto al instalador.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>La carpeta %1 todavía se está eliminando. Espere un momento e inténtelo de nuevo.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 está instalado</translation>
     </message>
@@ -316,6 +320,10 @@
     <message>
         <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
         <translation>El programa no está instalado en %1: no se ha eliminado nada. Elimine la carpeta manualmente si no la necesita.</translation>
+    </message>
+    <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>El nombre de la carpeta %1 no es %2, por lo que puede contener archivos de otros programas: no se ha eliminado nada.</translation>
     </message>
     <message>
         <source>Cancelled: nothing was deleted.</source>

@@ -163,6 +163,10 @@
         <translation>Le fichier %1 est manquant. Remettez-le à côté du programme d&apos;installation.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>Le dossier %1 est encore en cours de suppression. Patientez un instant et réessayez.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 est installé</translation>
     </message>
@@ -316,6 +320,10 @@
     <message>
         <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
         <translation>Le programme n&apos;est pas installé dans %1 : rien n&apos;a été supprimé. Supprimez le dossier à la main s&apos;il n&apos;est plus utile.</translation>
+    </message>
+    <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>Le dossier %1 ne s&apos;appelle pas %2 et peut donc contenir des fichiers d&apos;autres programmes : rien n&apos;a été supprimé.</translation>
     </message>
     <message>
         <source>Cancelled: nothing was deleted.</source>

@@ -163,6 +163,10 @@
         <translation>Il file %1 non è presente. Rimetterlo accanto al programma di installazione.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>La cartella %1 è ancora in fase di rimozione. Attenda un momento e riprovi.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 è installato</translation>
     </message>
@@ -316,6 +320,10 @@
     <message>
         <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
         <translation>Il programma non è installato in %1: nulla è stato eliminato. Eliminare la cartella a mano se non serve.</translation>
+    </message>
+    <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>Il nome della cartella %1 non è %2, quindi può contenere file di altri programmi: non è stato eliminato nulla.</translation>
     </message>
     <message>
         <source>Cancelled: nothing was deleted.</source>

@@ -163,6 +163,10 @@
         <translation>ファイル %1 がありません。セットアップと同じ場所に戻してください。</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>フォルダー %1 はまだ削除中です。しばらく待ってからもう一度お試しください。</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 をインストールしました</translation>
     </message>
@@ -316,6 +320,10 @@
     <message>
         <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
         <translation>プログラムは %1 にインストールされていません。何も削除されませんでした。不要な場合はフォルダーを手動で削除してください。</translation>
+    </message>
+    <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>フォルダー %1 の名前が %2 ではないため、他のプログラムのファイルが含まれている可能性があります。何も削除されませんでした。</translation>
     </message>
     <message>
         <source>Cancelled: nothing was deleted.</source>

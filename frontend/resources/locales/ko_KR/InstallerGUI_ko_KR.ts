@@ -163,6 +163,10 @@
         <translation>%1 파일이 없습니다. 설치 프로그램 옆에 다시 넣어 주세요.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>%1 폴더를 아직 제거하는 중입니다. 잠시 기다린 후 다시 시도하십시오.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1이(가) 설치되었습니다</translation>
     </message>
@@ -316,6 +320,10 @@
     <message>
         <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
         <translation>프로그램이 %1에 설치되어 있지 않습니다. 아무것도 삭제되지 않았습니다. 필요 없는 폴더라면 직접 삭제하세요.</translation>
+    </message>
+    <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>%1 폴더의 이름이 %2이(가) 아니므로 다른 프로그램의 파일이 있을 수 있습니다. 아무것도 삭제되지 않았습니다.</translation>
     </message>
     <message>
         <source>Cancelled: nothing was deleted.</source>

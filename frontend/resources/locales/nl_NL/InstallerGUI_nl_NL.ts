@@ -163,6 +163,10 @@
         <translation>Het bestand %1 ontbreekt. Zet het terug naast het installatieprogramma.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>De map %1 wordt nog verwijderd. Wacht even en probeer het opnieuw.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 is geïnstalleerd</translation>
     </message>
@@ -316,6 +320,10 @@
     <message>
         <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
         <translation>Het programma is niet geïnstalleerd in %1: er is niets verwijderd. Verwijder de map handmatig als deze niet nodig is.</translation>
+    </message>
+    <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>De map %1 heet niet %2 en kan dus bestanden van andere programma&apos;s bevatten: er is niets verwijderd.</translation>
     </message>
     <message>
         <source>Cancelled: nothing was deleted.</source>

@@ -163,6 +163,10 @@
         <translation>Brakuje pliku %1. Umieść go z powrotem obok instalatora.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>Folder %1 jest jeszcze usuwany. Poczekaj chwilę i spróbuj ponownie.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>Zainstalowano %1</translation>
     </message>
@@ -316,6 +320,10 @@
     <message>
         <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
         <translation>Program nie jest zainstalowany w %1: niczego nie usunięto. Usuń folder ręcznie, jeśli jest zbędny.</translation>
+    </message>
+    <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>Folder %1 nie nazywa się %2, więc mogą w nim być pliki innych programów: niczego nie usunięto.</translation>
     </message>
     <message>
         <source>Cancelled: nothing was deleted.</source>

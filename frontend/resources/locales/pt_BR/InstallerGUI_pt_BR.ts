@@ -163,6 +163,10 @@
         <translation>O arquivo %1 não foi encontrado. Coloque-o de volta ao lado do instalador.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>A pasta %1 ainda está sendo removida. Aguarde um momento e tente novamente.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 está instalado</translation>
     </message>
@@ -316,6 +320,10 @@
     <message>
         <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
         <translation>O programa não está instalado em %1: nada foi excluído. Exclua a pasta manualmente se ela não for necessária.</translation>
+    </message>
+    <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>O nome da pasta %1 não é %2, portanto ela pode conter arquivos de outros programas: nada foi excluído.</translation>
     </message>
     <message>
         <source>Cancelled: nothing was deleted.</source>

@@ -163,6 +163,10 @@
         <translation>Файл %1 отсутствует. Верните его в папку программы установки.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>Папка %1 ещё удаляется. Подождите немного и повторите попытку.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>Программа %1 установлена</translation>
     </message>
@@ -316,6 +320,10 @@
     <message>
         <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
         <translation>Программа не установлена в %1: ничего не удалено. Удалите папку вручную, если она не нужна.</translation>
+    </message>
+    <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>Папка %1 называется не %2, поэтому в ней могут быть файлы других программ: ничего не удалено.</translation>
     </message>
     <message>
         <source>Cancelled: nothing was deleted.</source>

@@ -163,6 +163,10 @@
         <translation>%1 dosyası yok. Dosyayı kurulum programının yanına geri koyun.</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>%1 klasörü hâlâ kaldırılıyor. Biraz bekleyip yeniden deneyin.</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 yüklendi</translation>
     </message>
@@ -316,6 +320,10 @@
     <message>
         <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
         <translation>Program %1 konumunda yüklü değil: hiçbir şey silinmedi. Gerekmiyorsa klasörü elle silin.</translation>
+    </message>
+    <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>%1 klasörünün adı %2 değil, bu yüzden içinde başka programların dosyaları olabilir: hiçbir şey silinmedi.</translation>
     </message>
     <message>
         <source>Cancelled: nothing was deleted.</source>

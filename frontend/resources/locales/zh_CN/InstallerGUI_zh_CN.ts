@@ -163,6 +163,10 @@
         <translation>缺少文件 %1。请把它放回安装程序旁边。</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>仍在移除文件夹 %1。请稍候重试。</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 已安装</translation>
     </message>
@@ -316,6 +320,10 @@
     <message>
         <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
         <translation>程序未安装在 %1：没有删除任何内容。如果不需要该文件夹，请手动删除。</translation>
+    </message>
+    <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>文件夹 %1 的名称不是 %2，其中可能有其他程序的文件：未删除任何内容。</translation>
     </message>
     <message>
         <source>Cancelled: nothing was deleted.</source>

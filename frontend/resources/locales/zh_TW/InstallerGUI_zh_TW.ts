@@ -163,6 +163,10 @@
         <translation>缺少檔案 %1。請將它放回安裝程式旁邊。</translation>
     </message>
     <message>
+        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
+        <translation>仍在移除資料夾 %1。請稍候再試一次。</translation>
+    </message>
+    <message>
         <source>%1 is installed</source>
         <translation>%1 已安裝</translation>
     </message>
@@ -316,6 +320,10 @@
     <message>
         <source>The program is not installed in %1: nothing was deleted. Delete the folder by hand if it is not needed.</source>
         <translation>程式未安裝在 %1：沒有刪除任何內容。如果不需要該資料夾，請手動刪除。</translation>
+    </message>
+    <message>
+        <source>The name of the folder %1 is not %2, so files of other programs may be in it: nothing was deleted.</source>
+        <translation>資料夾 %1 的名稱不是 %2，其中可能有其他程式的檔案：未刪除任何內容。</translation>
     </message>
     <message>
         <source>Cancelled: nothing was deleted.</source>
