@@ -87,7 +87,7 @@ TEST_F(AccelerationCheckerTest, OneCheckAtATimeAndNoneOutlivesTheObject)
 
     checker->SetVerifiableCodecs("B");
     checker->SetVerifiableCodecImpls("hang,usable");
-    checker->SetCheckCoreTimeout(1);
+    checker->SetCheckCoreTimeout(8);
     checker->StartCheck();
     checker.reset();
     EXPECT_TRUE(probe.WasStarted("B", "hang"));
