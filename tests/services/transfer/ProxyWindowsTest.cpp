@@ -2,6 +2,7 @@
 #include "platform/System.h"
 #include "support/Machine.h"
 #include "support/RegistryCalls.h"
+#include "support/TestServers.h"
 
 #include <gtest/gtest.h>
 
@@ -24,12 +25,13 @@ void AppendText(std::vector<BYTE>& bytes, const std::string& text)
 
 // The connection settings as Windows stores them: a mark, a counter, what is switched on, the
 // proxies, the hosts without one, the script.
-void StoreConnection(DWORD flags, const std::string& proxies, const std::string& bypass)
+void StoreConnection(DWORD flags, const std::string& proxies, const std::string& bypass,
+    const std::string& script = {})
 {
     std::vector<BYTE> bytes;
     for (const DWORD number : {DWORD{70}, DWORD{1}, flags})
         AppendNumber(bytes, number);
-    for (const std::string& text : {proxies, bypass, std::string()})
+    for (const std::string& text : {proxies, bypass, script})
         AppendText(bytes, text);
     const HKEY key = MakeKey(HKEY_CURRENT_USER,
         L"Software\\Microsoft\\Windows\\CurrentVersion\\Internet Settings\\Connections");
@@ -38,6 +40,7 @@ void StoreConnection(DWORD flags, const std::string& proxies, const std::string&
 }
 
 constexpr DWORD usesProxy = 2;
+constexpr DWORD usesScript = 4;
 
 class ProxyWindowsTest : public testing::Test
 {
@@ -71,6 +74,24 @@ TEST_F(ProxyWindowsTest, HostsOfTheListAreReachedDirectly)
     EXPECT_EQ(AddressFor("https://computer/"), "");
     EXPECT_EQ(AddressFor("https://one.example:80/"), "");
     EXPECT_EQ(AddressFor("https://xone.example/"), "http://any:3");
+}
+
+TEST_F(ProxyWindowsTest, AScriptDecidesBeforeTheListAndAlsoForADirectConnection)
+{
+    const auto script = [](const char* answer)
+    {
+        const QString text = QString("function FindProxyForURL(url, host) { return '%1'; }");
+        return TestServers::Address(
+            "http", "/text?text=" + QUrl::toPercentEncoding(text.arg(answer)))
+            .toStdString();
+    };
+    StoreConnection(usesProxy | usesScript, "static:3", "", script("DIRECT"));
+    EXPECT_EQ(AddressFor("http://links.example/x"), "");
+    StoreConnection(usesProxy | usesScript, "static:3", "", script("PROXY scripted:4"));
+    EXPECT_EQ(AddressFor("http://links.example/x"), "http://scripted:4");
+    StoreConnection(
+        usesProxy | usesScript, "static:3", "", TestServers::Address("closed", "/x").toStdString());
+    EXPECT_EQ(AddressFor("http://links.example/x"), "http://static:3");
 }
 
 TEST(SystemWindowsTest, TheVersionIsThatOfTheSystemAndNotOfTheManifest)
