@@ -29,7 +29,7 @@ OpenFile::OpenFile(int opened, std::string name, DWORD rights, DWORD sharing)
 
 OpenFile::~OpenFile()
 {
-    Close();
+    OpenFile::Close();
 }
 
 DWORD OpenFile::Close()

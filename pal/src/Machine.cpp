@@ -43,8 +43,7 @@ constexpr FolderOfShell shellFolders[] = {
 
 std::string Environment(const char* name)
 {
-    const char* value = std::getenv(name);
-    return value ? value : "";
+    return qgetenv(name).toStdString();
 }
 
 // The user's entry in the system's user table; a user without an entry is named by number.

@@ -192,7 +192,7 @@ int main(int argc, char** argv)
         return 2;
     }
     if (argc == 2)
-        setenv("VORLAN_MACHINE", argv[1], 1);
+        qputenv("VORLAN_MACHINE", argv[1]);
     try
     {
         PrintMachine();

@@ -56,7 +56,7 @@ Request ReadWords(const QStringList& words)
 
 QString Value(const Request& request, const QString& option)
 {
-    const QString value = request.values[option];
+    QString value = request.values[option];
     if (value.isEmpty())
         Refuse("Missing option " + option + ".");
     return value;

@@ -34,9 +34,9 @@ struct TransferPolicy
     long slowestRate = 1024;                      // it was slower than this, in bytes a second
     std::chrono::milliseconds overallLimit{0};    // for everything, redirects included; 0: none
     std::chrono::milliseconds startLimit{300000}; // a body may take so long, and as much longer as
-    long averageRate = 16 * 1024; // its declared length (else what has come) takes at this rate,
-                                  // in bytes a second
-    int redirects = 5;            // as many are followed
+    long averageRate = 16L * 1024; // its declared length (else what has come) takes at this rate,
+                                   // in bytes a second
+    int redirects = 5;             // as many are followed
     long long largestBody = 16LL << 30; // bytes
     std::string authorities;            // file of trusted certificates (PEM); empty: the
                                         // system's

@@ -80,8 +80,7 @@ std::u16string TakeText(const ByteView& file, size_t& position, bool unicode)
 {
     const size_t count = file.Number16(position);
     position += 2;
-    const std::u16string text =
-        unicode ? file.Text16(position, count) : file.Text8(position, count);
+    std::u16string text = unicode ? file.Text16(position, count) : file.Text8(position, count);
     position += count * (unicode ? sizeof(char16_t) : 1);
     return text;
 }

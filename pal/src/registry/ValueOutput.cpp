@@ -38,7 +38,7 @@ LSTATUS GiveValue(const RegistryValue& value, LPDWORD type, LPBYTE data, LPDWORD
         return ERROR_SUCCESS;
     if (room < bytes.size())
         return ERROR_MORE_DATA;
-    std::memcpy(data, bytes.data(), bytes.size());
+    std::copy(bytes.begin(), bytes.end(), data);
     if (IsTextType(value.type))
         CloseText(bytes, data, room);
     return ERROR_SUCCESS;
