@@ -30,7 +30,7 @@ TransferPolicy Impatient()
     policy.connectLimit = 1s;
     policy.slowLimit = 1s;
     policy.largestBody = 3'000'000;
-    policy.startLimit = 2s;
+    policy.startLimit = 6s;
     policy.averageRate = 100'000'000;
     return policy;
 }
