@@ -107,7 +107,7 @@ QString FindCircle(const QHash<QString, QSet<QString>>& graph, const QString& un
     way += unit;
     for (const QString& next : graph[unit])
     {
-        const QString circle = FindCircle(graph, next, way, done);
+        QString circle = FindCircle(graph, next, way, done);
         if (!circle.isEmpty())
             return circle;
     }
