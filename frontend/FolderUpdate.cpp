@@ -42,7 +42,7 @@ std::vector<PlacedFiles::File> KnownFiles(const std::vector<PlacedFiles::File>& 
 
 bool IsSamePlace(const QString& left, const QString& right)
 {
-    return QDir(left) == QDir(right);
+    return !left.isEmpty() && QDir(left) == QDir(right);
 }
 
 } // namespace
