@@ -50,6 +50,7 @@ constexpr std::array allOptions{
     Value("WEBUID", &CommandLine::webUid, "<id>", "web user id to store"),
     Flag("REMOVEALL", &CommandLine::removeAll, "uninstall: remove additional modules and all data"),
     Flag("DELETESETTINGS", &CommandLine::deleteSettings, "uninstall: delete the user's settings"),
+    Flag("CLOSEAPPS", &CommandLine::closeApps, "silent: close programs that use the files"),
     Flag("IGNORE_MUTEX", &CommandLine::ignoreMutex, "run even beside another setup"),
     Flag("PROGRESS", &CommandLine::progress, "silent: show stages and a progress bar"),
     Flag("JSON", &CommandLine::json, "silent: print one line of JSON per event"),
@@ -59,6 +60,7 @@ constexpr std::array allOptions{
 
 constexpr const char* exitCodesHelp = R"(Exit codes:
   0     done
+  32    programs use the files (found before anything is changed)
   87    bad command line
   112   not enough disk space (found before anything is changed)
   1051  not uninstalled: other programs depend on this one

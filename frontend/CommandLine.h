@@ -26,6 +26,7 @@ struct CommandLine
     bool noShortcuts = false;
     bool removeAll = false;
     bool deleteSettings = false;
+    bool closeApps = false;
     bool ignoreMutex = false;
     bool progress = false;
     bool json = false;

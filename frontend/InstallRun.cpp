@@ -5,6 +5,7 @@
 
 #include "base/ProductProfile.h"
 #include "installer/InstallerMediator.h"
+#include "registry/SettingsManager.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -53,6 +54,15 @@ std::unique_ptr<InstallerMediator> MakeInstaller(QSettings::Scope scope, bool is
     const QString programName = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
     return std::make_unique<InstallerMediator>(
         InstallerMediator::Initializer{programName, true, isUnattended, scope, true});
+}
+
+// The uninstaller of the previous version is in the folder that it uninstalls.
+ObstacleRules RulesFor(const InstallationSettings& settings)
+{
+    const QString uninstaller = SettingsManager::GetUninstallerPath(settings.previousFolderName);
+    const bool isThere = QFileInfo(uninstaller).isFile();
+    return InstallationRules(
+        settings.installDir, isThere ? QFileInfo(uninstaller).absolutePath() : QString());
 }
 
 Outcome InstallWith(

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Obstacles.h"
 #include "Outcome.h"
 #include "RunEvent.h"
 #include "base/InstallationSettings.h"
@@ -25,6 +26,9 @@ QString MissingArchiveText();
 // A mediator for an installation from this program's folder. Throws std::runtime_error when the
 // archive cannot be read.
 std::unique_ptr<InstallerMediator> MakeInstaller(QSettings::Scope scope, bool isUnattended);
+
+// What to do with programs that hold files which an installation with these settings changes.
+ObstacleRules RulesFor(const InstallationSettings& settings);
 
 // Installs with these settings and returns after the run. Cancels a removal of the folder that has
 // not begun yet.

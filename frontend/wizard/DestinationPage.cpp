@@ -5,11 +5,9 @@
 
 #include <QDir>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStorageInfo>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -19,14 +17,7 @@ namespace
 {
 
 constexpr int longestPath = 32767; // limit of Windows
-
-qint64 FreeSpace(const QString& folder)
-{
-    QFileInfo existing(QDir::cleanPath(folder));
-    while (!existing.exists() && !existing.isRoot())
-        existing.setFile(existing.path());
-    return QStorageInfo(existing.absoluteFilePath()).bytesAvailable();
-}
+constexpr int patienceMs = 500;
 
 QString WithoutEnd(const QString& folder)
 {
@@ -38,6 +29,8 @@ QString WithoutEnd(const QString& folder)
 DestinationPage::DestinationPage(const InstallationSettings& proposal)
     : Page("destinationPage", LayerSets::installerWithTaglines, Shape::Form),
       settings(proposal),
+      check([needed = proposal.requiredSpace](const QString& path)
+          { return ExamineFolder(path, needed); }),
       heading(AddHeading()),
       intro(AddText("intro")),
       folderLabel(new QLabel(this)),
@@ -61,8 +54,13 @@ DestinationPage::DestinationPage(const InstallationSettings& proposal)
     Body()->addSpacing(8);
     space = AddText("space");
     Body()->addStretch();
-    connect(folder, &QLineEdit::textChanged, this, [this] { Check(); });
+    connect(folder, &QLineEdit::textChanged, this, [this] { Examine(); });
     connect(browse, &QPushButton::clicked, this, [this] { Browse(); });
+    patience.setSingleShot(true);
+    patience.setInterval(patienceMs);
+    connect(&patience, &QTimer::timeout, this,
+        [this] { space->setText(WizardText("The folder is being checked...")); });
+    check.finished = [this] { ShowState(); };
 }
 
 void DestinationPage::Retranslate(const QString& newLocale)
@@ -74,7 +72,12 @@ void DestinationPage::Retranslate(const QString& newLocale)
     folderLabel->setText(WizardText("&Folder:"));
     folder->setAccessibleName(QString(folderLabel->text()).remove('&').remove(':'));
     browse->setText(WizardText("B&rowse..."));
-    Check();
+    Examine();
+}
+
+bool DestinationPage::IsComplete() const
+{
+    return check.IsRunning() || check.State().objection.isEmpty();
 }
 
 void DestinationPage::Apply(InstallationSettings& chosen) const
@@ -100,29 +103,49 @@ void DestinationPage::Browse()
         folder->setText(WithoutEnd(settings.GetFilteredDirectory(chosen)));
 }
 
-void DestinationPage::Check()
+void DestinationPage::Examine()
 {
-    QString objection;
-    isValid = InstallationSettings::IsValidPath(
-        Folder(), static_cast<long long>(settings.requiredSpace), objection);
-    error->setText(objection);
-    error->setVisible(!objection.isEmpty());
-    folder->setProperty("isWrong", !isValid);
-    folder->style()->unpolish(folder); // applies the rules for the property
-    folder->style()->polish(folder);
-    folder->setAccessibleDescription(objection);
+    check.Begin(Folder());
+    patience.start();
+    setProperty("isExamining", true);
+    ShowTarget();
+    completenessChanged();
+}
+
+void DestinationPage::WhenExamined(const std::function<void(bool)>& function)
+{
+    check.WhenKnown([function](const FolderState& state) { function(state.objection.isEmpty()); });
+}
+
+void DestinationPage::ShowTarget()
+{
     const QString place = WithoutEnd(Folder());
     target->setText(WizardText("Will be installed in: %1").arg(PathText(place)));
     target->setToolTip(place);
+}
+
+void DestinationPage::ShowState()
+{
+    const QString& objection = check.State().objection;
+    patience.stop();
+    setProperty("isExamining", false);
+    error->setText(objection);
+    error->setVisible(!objection.isEmpty());
+    folder->setProperty("isWrong", !objection.isEmpty());
+    folder->style()->unpolish(folder); // applies the rules for the property
+    folder->style()->polish(folder);
+    folder->setAccessibleDescription(objection);
     ShowSpace();
     completenessChanged();
 }
 
 void DestinationPage::ShowSpace()
 {
-    const auto needed = static_cast<qint64>(settings.requiredSpace);
-    space->setText(WizardText("Space needed: %1. Free there: %2.")
-                       .arg(SizeText(needed, locale), SizeText(FreeSpace(Folder()), locale)));
+    const QString needed = SizeText(static_cast<qint64>(settings.requiredSpace), locale);
+    const std::optional<qint64>& free = check.State().freeBytes;
+    space->setText(
+        free ? WizardText("Space needed: %1. Free there: %2.").arg(needed, SizeText(*free, locale))
+             : WizardText("Space needed: %1.").arg(needed));
 }
 
 } // namespace Vorlan::FrontEnd

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "wizard/FolderCheck.h"
 #include "wizard/Page.h"
+
+#include <QTimer>
 
 class QLineEdit;
 class QPushButton;
@@ -8,8 +11,8 @@ class QPushButton;
 namespace Vorlan::FrontEnd
 {
 
-// Page with the installation folder. The engine validates the text while it is edited; its error
-// text is shown below the field.
+// Page with the installation folder. It is examined while it is edited, on another thread; what
+// objects to it is shown below the field.
 class DestinationPage : public Page
 {
 public:
@@ -18,22 +21,28 @@ public:
 
     void Retranslate(const QString& locale) override;
     void Apply(InstallationSettings& settings) const override;
-    bool IsComplete() const override { return isValid; }
+    // As long as the folder is examined, it counts as usable: see WhenExamined.
+    bool IsComplete() const override;
     QWidget* FirstControl() const override;
 
-    // Validates the folder again, because the disk may have changed.
-    void Check();
+    // Examines the folder again, because the disk may have changed.
+    void Examine();
+    // Calls the function with whether the folder is usable, as soon as that is known.
+    void WhenExamined(const std::function<void(bool)>& function);
 
     // The installation folder for the typed text.
     QString Folder() const;
 
 private:
     void Browse();
+    void ShowTarget();
+    void ShowState();
     void ShowSpace();
 
     InstallationSettings settings;
     QString locale;
-    bool isValid = false;
+    FolderCheck check;
+    QTimer patience; // until the page says that it still examines the folder
     QLabel* heading;
     QLabel* intro;
     QLabel* folderLabel;

@@ -1,5 +1,6 @@
 #include "wizard/InstallWizard.h"
 
+#include "Await.h"
 #include "InstallOptions.h"
 #include "InstallRun.h"
 #include "MachineAccess.h"
@@ -8,7 +9,9 @@
 #include "installer/InstallerMediator.h"
 #include "widgets/AlertBox.h"
 #include "widgets/MultiLayerBackgroundFrame.h"
+#include "wizard/CloseWithConsent.h"
 #include "wizard/DestinationPage.h"
+#include "wizard/InUsePage.h"
 #include "wizard/OptionsPage.h"
 #include "wizard/ProgressPage.h"
 #include "wizard/ResultPage.h"
@@ -30,6 +33,12 @@ QString LicenceTemplate()
 {
     return QStringLiteral("https://links.") + ProductProfile::vendorDomain +
            QStringLiteral("/license/?app=<APP>&module=installer&version=<VERSION>&lang=<LANG>");
+}
+
+// The required space is that of the payload and two per cent.
+quint64 PayloadBytes(const InstallationSettings& settings)
+{
+    return settings.requiredSpace * 100 / 102;
 }
 
 } // namespace
@@ -54,9 +63,11 @@ void InstallWizard::MakePages()
     destination = new DestinationPage(settings);
     optionsPage = new OptionsPage(
         settings, {!ProductProfile::autoLaunchExecutable.isEmpty(), !settings.statisticsKeyExists});
+    inUse = new InUsePage(LayerSets::installerWithTaglines);
     progress =
         new ProgressPage(LayerSets::installProgress, QT_TRANSLATE_NOOP("Wizard", "Installing %1"));
-    for (Page* page : std::initializer_list<Page*>{welcome, destination, optionsPage, progress})
+    for (Page* page :
+        std::initializer_list<Page*>{welcome, destination, optionsPage, inUse, progress})
         window.Add(page);
     welcome->languageChosen = [this](const QString& locale) { SetLanguage(locale); };
     welcome->linkFollowed = [this](const QString& target) { FollowLink(target); };
@@ -72,6 +83,8 @@ Page* InstallWizard::PageOf(Step which) const
         return destination;
     case Step::Options:
         return optionsPage;
+    case Step::InUse:
+        return inUse;
     case Step::Running:
         return progress;
     case Step::Done:
@@ -97,6 +110,9 @@ ButtonBar::Labels InstallWizard::Labels() const
         return {WizardText("&Back"), WizardText("Cancel"), WizardText("&Next")};
     case Step::Options:
         return {WizardText("&Back"), WizardText("Cancel"), WizardText("&Install")};
+    case Step::InUse:
+        return {
+            WizardText("&Try again"), WizardText("Cancel"), WizardText("&Close them and go on")};
     case Step::Running:
         return {};
     case Step::Done:
@@ -104,7 +120,7 @@ ButtonBar::Labels InstallWizard::Labels() const
     case Step::Failed:
         break;
     }
-    return {{}, WizardText("Close"), WizardText("&Try again")};
+    return {WizardText("Open &log"), WizardText("Close"), WizardText("&Try again")};
 }
 
 void InstallWizard::GoForward()
@@ -112,12 +128,20 @@ void InstallWizard::GoForward()
     switch (step)
     {
     case Step::Welcome:
-    case Step::Failed:
         return GoTo(Step::Destination);
     case Step::Destination:
-        return GoTo(Step::Options);
+        return destination->WhenExamined(
+            [this](bool isUsable)
+            {
+                if (isUsable && step == Step::Destination)
+                    GoTo(Step::Options);
+            });
     case Step::Options:
+    case Step::Failed:
         return Install();
+    case Step::InUse:
+        CloseWithConsent(window, *inUse, ProcessesOfAnActiveWindow());
+        return CheckFilesInUse();
     case Step::Running:
         return;
     case Step::Done:
@@ -131,6 +155,10 @@ void InstallWizard::GoBack()
         GoTo(Step::Welcome);
     else if (step == Step::Options)
         GoTo(Step::Destination);
+    else if (step == Step::InUse)
+        CheckFilesInUse();
+    else if (step == Step::Failed)
+        OpenLog();
 }
 
 void InstallWizard::RequestClose()
@@ -141,8 +169,10 @@ void InstallWizard::RequestClose()
     }
     else if (step == Step::Running)
     {
-        AlertBox::info(&window, WizardText("The installation cannot be stopped now: files and "
-                                           "settings are being changed. It ends in a moment."));
+        const QString text =
+            WizardText("The installation cannot be stopped now: files and settings "
+                       "are being changed. Close the window when it has ended.");
+        AlertBox::info(&window, (text + "\n\n" + progress->Status()).trimmed());
     }
     else if (AlertBox::question(
                  &window, WizardText("Cancel the installation of %1?").arg(ProductTitle())) ==
@@ -167,10 +197,13 @@ void InstallWizard::Install()
         return;
     if (optionsPage->Scope() == QSettings::SystemScope && !CanChangeMachine())
         return RelaunchWithRights();
-    destination->Check();
-    if (!destination->IsComplete())
-        return GoTo(Step::Destination);
-    RunInstallation();
+    destination->Examine();
+    destination->WhenExamined(
+        [this, before = step](bool isUsable)
+        {
+            if (step == before)
+                isUsable ? CheckFilesInUse() : GoTo(Step::Destination);
+        });
 }
 
 bool InstallWizard::FindArchive()
@@ -236,11 +269,21 @@ QString InstallWizard::AskForWebUid() const
     return answer.result();
 }
 
-void InstallWizard::RunInstallation()
+void InstallWizard::CheckFilesInUse()
 {
-    InstallationSettings settings = ChosenSettings();
-    progress->Clear();
+    const InstallationSettings settings = ChosenSettings();
+    progress->Begin(PayloadBytes(settings));
     GoTo(Step::Running);
+    const std::vector<FileHolder> holders =
+        Await([rules = RulesFor(settings)] { return FindObstacles(rules); });
+    if (holders.empty())
+        return RunInstallation(settings);
+    inUse->ShowPrograms(holders);
+    GoTo(Step::InUse);
+}
+
+void InstallWizard::RunInstallation(InstallationSettings settings)
+{
     settings.userInfo.webUid = AskForWebUid();
     ShowResult(InstallWith(*mediator, settings,
         [this](const RunEvent& event)
@@ -252,6 +295,7 @@ void InstallWizard::RunInstallation()
 
 void InstallWizard::ShowResult(const Outcome& result)
 {
+    progress->End();
     runOutcome = result;
     ResultTexts shown;
     shown.isDone = result.code == ExitCode::Done;
@@ -260,8 +304,7 @@ void InstallWizard::ShowResult(const Outcome& result)
     shown.headingText = shown.isDone ? QT_TRANSLATE_NOOP("Wizard", "%1 is installed")
                                      : QT_TRANSLATE_NOOP("Wizard", "%1 could not be installed");
     if (!shown.isDone)
-        shown.text =
-            result.error + "\n\n" + WizardText("Log file: %1").arg(PathText(options.logFile));
+        shown.text = FailureText(result, options.logFile);
     else if (shown.copyErrors.isEmpty())
         shown.text = WizardText("Everything is in its place. You can begin right away.");
     delete resultPage;
@@ -269,6 +312,11 @@ void InstallWizard::ShowResult(const Outcome& result)
         shown.isDone ? LayerSets::installerWithTaglines : LayerSets::installProgress, shown);
     window.Add(resultPage);
     GoTo(shown.isDone ? Step::Done : Step::Failed);
+}
+
+void InstallWizard::OpenLog()
+{
+    ShowLog(window, options.logFile);
 }
 
 void InstallWizard::Finish()

@@ -14,6 +14,7 @@ namespace Vorlan::FrontEnd
 {
 
 class DestinationPage;
+class InUsePage;
 class OptionsPage;
 class ProgressPage;
 class ResultPage;
@@ -34,6 +35,7 @@ private:
         Welcome,
         Destination,
         Options,
+        InUse,
         Running,
         Done,
         Failed
@@ -53,9 +55,11 @@ private:
     bool FindArchive();
     void RelaunchWithRights();
     InstallationSettings ChosenSettings();
+    void CheckFilesInUse();
     QString AskForWebUid() const;
-    void RunInstallation();
+    void RunInstallation(InstallationSettings settings);
     void ShowResult(const Outcome& result);
+    void OpenLog();
     void Finish();
 
     CommandLine options;
@@ -67,6 +71,7 @@ private:
     WelcomePage* welcome = nullptr;
     DestinationPage* destination = nullptr;
     OptionsPage* optionsPage = nullptr;
+    InUsePage* inUse = nullptr;
     ProgressPage* progress = nullptr;
     ResultPage* resultPage = nullptr;
 };

@@ -1,17 +1,38 @@
 #include "wizard/ResultPage.h"
 
+#include "widgets/AlertBox.h"
 #include "wizard/Texts.h"
 
 #include <QCheckBox>
+#include <QDesktopServices>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace Vorlan::FrontEnd
 {
 
+QString FailureText(const Outcome& outcome, const QString& logFile)
+{
+    const Explanation& explanation = outcome.explanation;
+    QStringList paragraphs{explanation.cause.isEmpty() ? outcome.error : explanation.cause,
+        explanation.state, explanation.advice, WizardText("Log file: %1").arg(PathText(logFile))};
+    paragraphs.removeAll(QString());
+    return paragraphs.join("\n\n");
+}
+
+void ShowLog(QWidget& window, const QString& logFile)
+{
+    const QFileInfo log(logFile);
+    if (!log.isFile() || !QDesktopServices::openUrl(QUrl::fromLocalFile(log.absoluteFilePath())))
+        AlertBox::error(
+            &window, WizardText("The log file %1 cannot be opened.").arg(PathText(logFile)), false);
+}
+
 ResultPage::ResultPage(const QStringList& pictureLayers, ResultTexts texts)
-    : Page("resultPage", pictureLayers, Shape::UnderPicture),
+    : Page("resultPage", pictureLayers, texts.isDone ? Shape::UnderPicture : Shape::Form),
       result(std::move(texts)),
       icon(new QLabel(this)),
       heading(new QLabel(this))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Outcome.h"
 #include "wizard/Page.h"
 
 class QCheckBox;
@@ -18,6 +19,12 @@ struct ResultTexts
     QStringList copyErrors;
     bool canStart = false; // offers to start the installed program
 };
+
+// Cause of a failure, what the machine is now, what to do, and where the log is: a paragraph each.
+QString FailureText(const Outcome& outcome, const QString& logFile);
+
+// Opens the log with the system's viewer, or shows a box that it cannot.
+void ShowLog(QWidget& window, const QString& logFile);
 
 // The last page.
 class ResultPage : public Page

@@ -1,9 +1,13 @@
 #include "wizard/UninstallWizard.h"
 
+#include "Await.h"
+#include "Obstacles.h"
 #include "UninstallRun.h"
 #include "installer/InstallerMediator.h"
 #include "widgets/AlertBox.h"
 #include "widgets/MultiLayerBackgroundFrame.h"
+#include "wizard/CloseWithConsent.h"
+#include "wizard/InUsePage.h"
 #include "wizard/ProgressPage.h"
 #include "wizard/ResultPage.h"
 #include "wizard/Texts.h"
@@ -37,9 +41,11 @@ UninstallWizard::UninstallWizard(const QString& ownFolder, const OwnFolder& own,
     SetLanguage(mediator->GetSettings().locale);
     runOutcome = {ExitCode::Cancelled, UninstallText("Cancelled: nothing was deleted.")};
     start = new UninstallStartPage(folder, options.deleteSettings);
+    inUse = new InUsePage(LayerSets::uninstallStart);
     progress = new ProgressPage(
         LayerSets::uninstallProgress, QT_TRANSLATE_NOOP("Wizard", "Uninstalling %1"));
     window.Add(start);
+    window.Add(inUse);
     window.Add(progress);
     GoTo(Step::Start, start);
 }
@@ -66,36 +72,68 @@ ButtonBar::Labels UninstallWizard::Labels() const
     {
     case Step::Start:
         return {{}, WizardText("Cancel"), UninstallText("&Uninstall")};
+    case Step::InUse:
+        return {
+            WizardText("&Try again"), WizardText("Cancel"), WizardText("&Close them and go on")};
     case Step::Running:
         return {};
     case Step::Over:
         break;
     }
-    return {{}, {}, WizardText("&Finish")};
+    if (runOutcome.code == ExitCode::Done)
+        return {{}, {}, WizardText("&Finish")};
+    return {WizardText("Open &log"), WizardText("Close"), WizardText("&Try again")};
 }
 
 void UninstallWizard::GoForward()
 {
-    if (step == Step::Start)
-        Uninstall();
+    switch (step)
+    {
+    case Step::Start:
+        return CheckFilesInUse();
+    case Step::InUse:
+        CloseWithConsent(window, *inUse, ProcessesOfAnActiveWindow());
+        return CheckFilesInUse();
+    case Step::Running:
+        return;
+    case Step::Over:
+        return runOutcome.code == ExitCode::Done ? Leave(runOutcome) : CheckFilesInUse();
+    }
+}
+
+void UninstallWizard::GoBack()
+{
+    if (step == Step::InUse)
+        CheckFilesInUse();
     else if (step == Step::Over)
-        Leave(runOutcome);
+        ShowLog(window, options.logFile);
 }
 
 void UninstallWizard::RequestClose()
 {
-    if (step == Step::Running)
-        AlertBox::info(&window, UninstallText("The uninstallation cannot be stopped now: files and "
-                                              "settings are being removed. It ends in a moment."));
-    else
-        Leave(runOutcome);
+    if (step != Step::Running)
+        return Leave(runOutcome);
+    const QString text =
+        UninstallText("The uninstallation cannot be stopped now: files and settings "
+                      "are being removed. Close the window when it has ended.");
+    AlertBox::info(&window, (text + "\n\n" + progress->Status()).trimmed());
+}
+
+void UninstallWizard::CheckFilesInUse()
+{
+    progress->Begin(0);
+    GoTo(Step::Running, progress);
+    const std::vector<FileHolder> holders =
+        Await([rules = UninstallationRules(folder)] { return FindObstacles(rules); });
+    if (holders.empty())
+        return Uninstall();
+    inUse->ShowPrograms(holders);
+    GoTo(Step::InUse, inUse);
 }
 
 void UninstallWizard::Uninstall()
 {
     options.deleteSettings = start->IsDeletingSettings();
-    progress->Clear();
-    GoTo(Step::Running, progress);
     runOutcome = UninstallWith(*mediator, folder, options,
         [this](const RunEvent& event)
         {
@@ -113,6 +151,7 @@ void UninstallWizard::Uninstall()
 
 void UninstallWizard::ShowResult()
 {
+    progress->End();
     ResultTexts shown;
     shown.isDone = runOutcome.code == ExitCode::Done;
     if (shown.isDone)
@@ -125,9 +164,9 @@ void UninstallWizard::ShowResult()
     else
     {
         shown.headingText = QT_TRANSLATE_NOOP("Wizard", "%1 could not be uninstalled");
-        shown.text =
-            runOutcome.error + "\n\n" + WizardText("Log file: %1").arg(PathText(options.logFile));
+        shown.text = FailureText(runOutcome, options.logFile);
     }
+    delete resultPage;
     resultPage = new ResultPage(LayerSets::uninstallStart, shown);
     resultPage->linkFollowed = [this] { mediator->OpenUrl(InstallerMediator::URL::UninstallPage); };
     window.Add(resultPage);

@@ -13,6 +13,7 @@ class InstallerMediator;
 namespace Vorlan::FrontEnd
 {
 
+class InUsePage;
 class ProgressPage;
 class ResultPage;
 class UninstallStartPage;
@@ -33,15 +34,18 @@ private:
     enum class Step
     {
         Start,
+        InUse,
         Running,
         Over
     };
 
     void GoForward() override;
+    void GoBack() override;
     void RequestClose() override;
     ButtonBar::Labels Labels() const override;
 
     void GoTo(Step step, Page* page);
+    void CheckFilesInUse();
     void Uninstall();
     void ShowResult();
 
@@ -53,6 +57,7 @@ private:
     Step step = Step::Start;
     Outcome runOutcome; // before the end of a run: cancelled
     UninstallStartPage* start = nullptr;
+    InUsePage* inUse = nullptr;
     ProgressPage* progress = nullptr;
     ResultPage* resultPage = nullptr;
 };

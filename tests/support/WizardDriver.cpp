@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
+
 using namespace Vorlan::FrontEnd;
 
 WizardDriver::WizardDriver(Wizard& driven) : wizard(driven)
@@ -24,6 +26,7 @@ void WizardDriver::Press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QWidget* focus = wizard.Window().focusWidget();
     QTest::keyClick(focus != nullptr ? focus : &wizard.Window(), key, modifiers);
+    WaitForExamination();
 }
 
 void WizardDriver::Type(const QString& text)
@@ -31,6 +34,19 @@ void WizardDriver::Type(const QString& text)
     for (const QChar letter : text) // of any alphabet
         QTest::sendKeyEvent(QTest::Click, wizard.Window().focusWidget(), Qt::Key_unknown,
             QString(letter), Qt::NoModifier);
+    WaitForExamination();
+}
+
+void WizardDriver::WaitForExamination() const
+{
+    const auto isExamining = [this]
+    {
+        const QList<QWidget*> widgets = wizard.Window().findChildren<QWidget*>();
+        return std::any_of(widgets.begin(), widgets.end(),
+            [](const QWidget* widget) { return widget->property("isExamining").toBool(); });
+    };
+    while (isExamining())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 void WizardDriver::Click(const char* name)
@@ -39,6 +55,7 @@ void WizardDriver::Click(const char* name)
     ASSERT_NE(widget, nullptr) << name;
     ASSERT_TRUE(widget->isVisible()) << name;
     QTest::mouseClick(widget, Qt::LeftButton);
+    WaitForExamination();
 }
 
 bool WizardDriver::TabTo(const char* name)
