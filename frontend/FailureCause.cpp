@@ -1,5 +1,6 @@
 #include "FailureCause.h"
 
+#include "FileHolders.h"
 #include "FreeSpace.h"
 #include "base/ProductProfile.h"
 #include "wizard/Texts.h"

@@ -1,5 +1,6 @@
 #include "Obstacles.h"
 
+#include "FileHolders.h"
 #include "base/ProductProfile.h"
 
 #include <QDebug>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CloseHolders.h"
-#include "FileHolders.h"
+#include "FileHolder.h"
 #include "Outcome.h"
 
 #include <QString>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FileHolders.h"
+#include "FileHolder.h"
 #include "wizard/Page.h"
 
 #include <vector>

@@ -170,15 +170,6 @@ TEST_F(SilentRunTest, ProgramsThatUseTheFilesAreNamedOrClosedWhenThatIsAskedFor)
     const auto closed = setup.Start({"/S", "/D=" + folder, "/CLOSEAPPS"});
     EXPECT_EQ(closed.exitCode, 0) << closed.errors.toStdString();
     EXPECT_TRUE(tool.HasEnded());
-
-    ChildProgram player(folder + "/player.exe", "wait");
-    player.Start();
-    const auto kept = setup.StartFrom(folder, "uninst.exe", {"/S"});
-    EXPECT_EQ(kept.exitCode, 32);
-    ExpectOneLineWith(kept, QString("player.exe (%1)").arg(player.Id()));
-    EXPECT_TRUE(QFile::exists(folder + "/uninst.exe"));
-    EXPECT_EQ(setup.StartFrom(folder, "uninst.exe", {"/S", "/CLOSEAPPS"}).exitCode, 0);
-    EXPECT_TRUE(player.HasEnded());
 }
 
 TEST_F(SilentRunTest, ADestinationThatIsAFileIsRefusedByName)

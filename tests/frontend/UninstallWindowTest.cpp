@@ -1,4 +1,5 @@
 #include "registry/RegistrySettings.h"
+#include "support/ChildProgram.h"
 #include "support/InstalledProduct.h"
 
 using namespace Vorlan;
@@ -30,6 +31,17 @@ TEST_F(UninstallWindowTest, TheButtonsLeadToTheLastPage)
         QStringList({"uninstallStartPage", "progressPage", "resultPage", "0"}));
     EXPECT_EQ(Links(), QStringList());
     EXPECT_FALSE(QFile::exists(product + "/quill.exe"));
+}
+
+TEST_F(UninstallWindowTest, ProgramsThatUseTheFilesAreClosedFirst)
+{
+    InstallCurrent();
+    ChildProgram player(product + "/libs/player.exe", "wait");
+    player.Start();
+    const QStringList seen = PressButtons(product, {"yes"});
+    EXPECT_EQ(seen.count("inUsePage"), 1) << qPrintable(seen.join('|'));
+    EXPECT_EQ(seen.mid(seen.size() - 2), QStringList({"resultPage", "0"}));
+    EXPECT_TRUE(player.HasEnded());
 }
 
 TEST_F(UninstallWindowTest, DependentProgramsAreShownInABoxAndTheUserCanCancel)

@@ -1,6 +1,4 @@
-#include "FileHolders.h"
-
-#include <QFileInfo>
+#include "FileHolder.h"
 
 namespace Vorlan::FrontEnd
 {
