@@ -13,9 +13,10 @@ QtMessageHandler nextHandler = nullptr;
 
 } // namespace
 
-LogTail::LogTail() : previousHandler(qInstallMessageHandler(&LogTail::HandleMessage))
+LogTail::LogTail()
 {
     const QMutexLocker lock(&mutex);
+    previousHandler = qInstallMessageHandler(&LogTail::HandleMessage);
     activeTail = this;
     nextHandler = previousHandler;
 }

@@ -26,7 +26,7 @@ private:
         QtMsgType type, const QMessageLogContext& context, const QString& text);
 
     QStringList lines;
-    QtMessageHandler previousHandler;
+    QtMessageHandler previousHandler = nullptr;
 };
 
 } // namespace Vorlan::FrontEnd

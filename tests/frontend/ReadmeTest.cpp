@@ -34,7 +34,7 @@ TEST(ReadmeTest, ThePageOfTheCommandLineNamesEveryOptionAndExitCodeOfTheHelp)
         const QString quoted = name.startsWith('/') ? '`' + name : "| " + name + " |";
         EXPECT_TRUE(page.contains(quoted)) << name.toStdString();
     }
-    EXPECT_EQ(count, 17 + 7);
+    EXPECT_EQ(count, 18 + 8);
 }
 
 TEST(ReadmeTest, EveryLinkToAFileOfTheProjectLeadsToOne)
