@@ -120,7 +120,7 @@ ButtonBar::Labels InstallWizard::Labels() const
     case Step::Failed:
         break;
     }
-    return {WizardText("Open &log"), WizardText("Close"), WizardText("&Try again")};
+    return {WizardText("&Back"), WizardText("Close"), WizardText("&Try again")};
 }
 
 void InstallWizard::GoForward()
@@ -158,7 +158,7 @@ void InstallWizard::GoBack()
     else if (step == Step::InUse)
         CheckFilesInUse();
     else if (step == Step::Failed)
-        OpenLog();
+        GoTo(Step::Options);
 }
 
 void InstallWizard::RequestClose()
@@ -303,20 +303,18 @@ void InstallWizard::ShowResult(const Outcome& result)
     shown.canStart = shown.isDone;
     shown.headingText = shown.isDone ? QT_TRANSLATE_NOOP("Wizard", "%1 is installed")
                                      : QT_TRANSLATE_NOOP("Wizard", "%1 could not be installed");
-    if (!shown.isDone)
-        shown.text = FailureText(result, options.logFile);
-    else if (shown.copyErrors.isEmpty())
+    if (shown.isDone && shown.copyErrors.isEmpty())
         shown.text = WizardText("Everything is in its place. You can begin right away.");
+    if (!shown.isDone)
+    {
+        shown.text = FailureText(result, options.logFile);
+        shown.logFile = options.logFile;
+    }
     delete resultPage;
     resultPage = new ResultPage(
         shown.isDone ? LayerSets::installerWithTaglines : LayerSets::installProgress, shown);
     window.Add(resultPage);
     GoTo(shown.isDone ? Step::Done : Step::Failed);
-}
-
-void InstallWizard::OpenLog()
-{
-    ShowLog(window, options.logFile);
 }
 
 void InstallWizard::Finish()

@@ -59,7 +59,6 @@ private:
     QString AskForWebUid() const;
     void RunInstallation(InstallationSettings settings);
     void ShowResult(const Outcome& result);
-    void OpenLog();
     void Finish();
 
     CommandLine options;

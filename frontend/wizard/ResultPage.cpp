@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QPushButton>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -21,14 +22,6 @@ QString FailureText(const Outcome& outcome, const QString& logFile)
         explanation.state, explanation.advice, WizardText("Log file: %1").arg(PathText(logFile))};
     paragraphs.removeAll(QString());
     return paragraphs.join("\n\n");
-}
-
-void ShowLog(QWidget& window, const QString& logFile)
-{
-    const QFileInfo log(logFile);
-    if (!log.isFile() || !QDesktopServices::openUrl(QUrl::fromLocalFile(log.absoluteFilePath())))
-        AlertBox::error(
-            &window, WizardText("The log file %1 cannot be opened.").arg(PathText(logFile)), false);
 }
 
 ResultPage::ResultPage(const QStringList& pictureLayers, ResultTexts texts)
@@ -51,6 +44,11 @@ ResultPage::ResultPage(const QStringList& pictureLayers, ResultTexts texts)
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     if (!result.copyErrors.isEmpty())
         AddCopyErrors();
+    openLog = new QPushButton(this);
+    openLog->setObjectName("openLog");
+    openLog->setAutoDefault(false);
+    openLog->setHidden(result.logFile.isEmpty());
+    Body()->addWidget(openLog, 0, Qt::AlignLeft);
     start = new QCheckBox(this);
     start->setObjectName("startNow");
     start->setChecked(result.canStart);
@@ -61,6 +59,7 @@ ResultPage::ResultPage(const QStringList& pictureLayers, ResultTexts texts)
     link->setTextInteractionFlags(Qt::TextBrowserInteraction);
     link->setHidden(*result.linkText == '\0');
     Body()->addStretch();
+    connect(openLog, &QPushButton::clicked, this, [this] { OpenLog(); });
     connect(link, &QLabel::linkActivated, this, [this] { linkFollowed(); });
 }
 
@@ -79,11 +78,21 @@ void ResultPage::Retranslate(const QString&)
     heading->setText(WizardText(result.headingText).arg(ProductTitle()));
     start->setText(WizardText("&Start %1 now").arg(ProductTitle()));
     link->setText(WizardText(result.linkText));
+    openLog->setText(WizardText("Open &log"));
     if (list != nullptr)
     {
         listLabel->setText(WizardText("These files could not be copied:"));
         list->setAccessibleName(listLabel->text());
     }
+}
+
+// With the system's viewer.
+void ResultPage::OpenLog()
+{
+    const QFileInfo log(result.logFile);
+    if (!log.isFile() || !QDesktopServices::openUrl(QUrl::fromLocalFile(log.absoluteFilePath())))
+        AlertBox::error(window(),
+            WizardText("The log file %1 cannot be opened.").arg(PathText(result.logFile)), false);
 }
 
 bool ResultPage::IsStartWanted() const

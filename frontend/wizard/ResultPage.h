@@ -5,6 +5,7 @@
 
 class QCheckBox;
 class QListWidget;
+class QPushButton;
 
 namespace Vorlan::FrontEnd
 {
@@ -16,15 +17,13 @@ struct ResultTexts
     const char* headingText = ""; // in English, "%1" for the product
     QString text;                 // may be empty
     const char* linkText = "";    // in English, rich text; may be empty
+    QString logFile;              // that a button opens; may be empty
     QStringList copyErrors;
     bool canStart = false; // offers to start the installed program
 };
 
 // Cause of a failure, what the machine is now, what to do, and where the log is: a paragraph each.
 QString FailureText(const Outcome& outcome, const QString& logFile);
-
-// Opens the log with the system's viewer, or shows a box that it cannot.
-void ShowLog(QWidget& window, const QString& logFile);
 
 // The last page.
 class ResultPage : public Page
@@ -40,6 +39,7 @@ public:
 
 private:
     void AddCopyErrors();
+    void OpenLog();
 
     ResultTexts result;
     QLabel* icon;
@@ -47,6 +47,7 @@ private:
     QLabel* text;
     QLabel* listLabel = nullptr;
     QListWidget* list = nullptr;
+    QPushButton* openLog;
     QCheckBox* start;
     QLabel* link;
 };

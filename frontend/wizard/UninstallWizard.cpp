@@ -82,7 +82,7 @@ ButtonBar::Labels UninstallWizard::Labels() const
     }
     if (runOutcome.code == ExitCode::Done)
         return {{}, {}, WizardText("&Finish")};
-    return {WizardText("Open &log"), WizardText("Close"), WizardText("&Try again")};
+    return {{}, WizardText("Close"), WizardText("&Try again")};
 }
 
 void UninstallWizard::GoForward()
@@ -105,8 +105,6 @@ void UninstallWizard::GoBack()
 {
     if (step == Step::InUse)
         CheckFilesInUse();
-    else if (step == Step::Over)
-        ShowLog(window, options.logFile);
 }
 
 void UninstallWizard::RequestClose()
@@ -165,6 +163,7 @@ void UninstallWizard::ShowResult()
     {
         shown.headingText = QT_TRANSLATE_NOOP("Wizard", "%1 could not be uninstalled");
         shown.text = FailureText(runOutcome, options.logFile);
+        shown.logFile = options.logFile;
     }
     delete resultPage;
     resultPage = new ResultPage(LayerSets::uninstallStart, shown);

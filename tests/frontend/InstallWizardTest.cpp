@@ -265,10 +265,10 @@ TEST_F(InstallWizardTest, AFailureIsShownAndTheRunCanBeRepeated)
             EXPECT_TRUE(text.contains(part)) << part << " in " << text.toStdString();
         EXPECT_FALSE(driver->Find<QCheckBox>("startNow")->isVisible());
     }
-    EXPECT_TRUE(driver->WithBox([this] { driver->Click("back"); }).contains("cannot be opened"));
+    EXPECT_TRUE(driver->WithBox([this] { driver->Click("openLog"); }).contains("cannot be opened"));
     WriteFile(options.logFile, "the log");
     LogViewer viewer;
-    driver->Click("back");
+    driver->Click("openLog");
     EXPECT_EQ(viewer.shown, QStringList(QFileInfo(options.logFile).absoluteFilePath()));
     driver->Press(Qt::Key_Escape);
     EXPECT_TRUE(wizard->IsOver());

@@ -153,6 +153,7 @@ TEST_P(WizardLayoutTest, AFailureAndAListOfFilesFit)
             .arg(folder),
         WizardText("Choose another folder, or start the setup as an administrator.")};
     failed.text = FailureText(outcome, folder).remove(isolates);
+    failed.logFile = folder;
     ResultTexts partly;
     partly.headingText = "%1 is installed";
     partly.copyErrors = QStringList{"a.dll: in use"};
@@ -161,7 +162,7 @@ TEST_P(WizardLayoutTest, AFailureAndAListOfFilesFit)
     {
         auto* page = new ResultPage({}, texts);
         window.Add(page);
-        window.SetLabels({WizardText("Open &log"), WizardText("Close"), WizardText("&Try again")});
+        window.SetLabels({WizardText("&Back"), WizardText("Close"), WizardText("&Try again")});
         window.Show(page);
         window.show();
         CheckWindow(window);
