@@ -196,7 +196,7 @@
     </message>
     <message>
         <source>&amp;Try again</source>
-        <translation>&amp;Réessayer</translation>
+        <translation>Réessay&amp;er</translation>
     </message>
     <message>
         <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>

@@ -312,7 +312,7 @@
     </message>
     <message>
         <source>Open &amp;log</source>
-        <translation>&amp;Günlüğü aç</translation>
+        <translation>Günlüğü &amp;aç</translation>
     </message>
     <message>
         <source>The log file %1 cannot be opened.</source>
