@@ -60,7 +60,7 @@ Explanation ExplainBlockedFile(const Case& failed, const QString& path)
         return Texts(WizardText("%1 is in use by %2.")
                          .arg(PathText(QFileInfo(path).fileName()), holders.join(", ")),
             WizardText("Close the program, and try again."));
-    return Texts(WizardText("The file %1 cannot be replaced: the rights to it are missing.")
+    return Texts(WizardText("The file %1 cannot be replaced: it is write-protected or in use.")
                      .arg(Shown(path)),
         AnotherFolder());
 }

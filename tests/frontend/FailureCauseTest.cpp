@@ -43,7 +43,7 @@ const std::vector<Row> rows{
     {{Ending("Failed to remove existing file from destination /p/quill.exe error Text busy")}, "",
         {quill}, 0, "quill.exe is in use by Quill (4711).", "Close the program, and try again."},
     {{Ending("Cannot open destination file for write")}, "/p/libs/codec.dll", {}, 0,
-        "The file /p/libs/codec.dll cannot be replaced: the rights to it are missing.",
+        "The file /p/libs/codec.dll cannot be replaced: it is write-protected or in use.",
         "Choose another folder, or start the setup as an administrator."},
     {{Ending("Cannot open destination file for write")}, "", {}, 0,
         "Nothing can be created in the folder /p: the rights to it are missing.",

@@ -148,7 +148,7 @@ TEST_P(WizardLayoutTest, AFailureAndAListOfFilesFit)
     const QString folder = QString("/long/folder").repeated(8);
     Outcome outcome;
     outcome.explanation = {
-        WizardText("The file %1 cannot be replaced: the rights to it are missing.").arg(folder),
+        WizardText("The file %1 cannot be replaced: it is write-protected or in use.").arg(folder),
         WizardText("The installation in %1 is incomplete: repeat it to use the program.")
             .arg(folder),
         WizardText("Choose another folder, or start the setup as an administrator.")};

@@ -263,8 +263,8 @@
         <translation>Prüfen Sie das Laufwerk oder wählen Sie einen anderen Ordner.</translation>
     </message>
     <message>
-        <source>The file %1 cannot be replaced: the rights to it are missing.</source>
-        <translation>Die Datei %1 kann nicht ersetzt werden: Die Rechte dafür fehlen.</translation>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>Die Datei %1 kann nicht ersetzt werden: Sie ist schreibgeschützt oder wird verwendet.</translation>
     </message>
     <message>
         <source>Nothing can be created in the folder %1: the rights to it are missing.</source>

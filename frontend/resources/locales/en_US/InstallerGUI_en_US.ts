@@ -263,8 +263,8 @@
         <translation>Check the drive, or choose another folder.</translation>
     </message>
     <message>
-        <source>The file %1 cannot be replaced: the rights to it are missing.</source>
-        <translation>The file %1 cannot be replaced: the rights to it are missing.</translation>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>The file %1 cannot be replaced: it is write-protected or in use.</translation>
     </message>
     <message>
         <source>Nothing can be created in the folder %1: the rights to it are missing.</source>

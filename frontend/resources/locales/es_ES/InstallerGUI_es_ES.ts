@@ -263,8 +263,8 @@
         <translation>Compruebe la unidad o elija otra carpeta.</translation>
     </message>
     <message>
-        <source>The file %1 cannot be replaced: the rights to it are missing.</source>
-        <translation>No se puede reemplazar el archivo %1: faltan los permisos necesarios.</translation>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>No se puede reemplazar el archivo %1: está protegido contra escritura o en uso.</translation>
     </message>
     <message>
         <source>Nothing can be created in the folder %1: the rights to it are missing.</source>

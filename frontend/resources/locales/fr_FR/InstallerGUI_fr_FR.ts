@@ -263,8 +263,8 @@
         <translation>Vérifiez le lecteur ou choisissez un autre dossier.</translation>
     </message>
     <message>
-        <source>The file %1 cannot be replaced: the rights to it are missing.</source>
-        <translation>Le fichier %1 ne peut pas être remplacé : les droits nécessaires manquent.</translation>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>Le fichier %1 ne peut pas être remplacé : il est protégé en écriture ou en cours d'utilisation.</translation>
     </message>
     <message>
         <source>Nothing can be created in the folder %1: the rights to it are missing.</source>

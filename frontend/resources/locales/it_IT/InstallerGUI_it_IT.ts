@@ -263,8 +263,8 @@
         <translation>Controllare l'unità o scegliere un'altra cartella.</translation>
     </message>
     <message>
-        <source>The file %1 cannot be replaced: the rights to it are missing.</source>
-        <translation>Impossibile sostituire il file %1: mancano i diritti necessari.</translation>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>Impossibile sostituire il file %1: è protetto da scrittura o in uso.</translation>
     </message>
     <message>
         <source>Nothing can be created in the folder %1: the rights to it are missing.</source>

@@ -263,8 +263,8 @@
         <translation>ドライブを確認するか、別のフォルダーを選んでください。</translation>
     </message>
     <message>
-        <source>The file %1 cannot be replaced: the rights to it are missing.</source>
-        <translation>ファイル %1 を置き換えられません。必要な権限がありません。</translation>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>ファイル %1 を置き換えられません。書き込み禁止になっているか、使用中です。</translation>
     </message>
     <message>
         <source>Nothing can be created in the folder %1: the rights to it are missing.</source>

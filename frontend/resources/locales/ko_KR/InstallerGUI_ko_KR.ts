@@ -263,8 +263,8 @@
         <translation>드라이브를 확인하거나 다른 폴더를 선택하세요.</translation>
     </message>
     <message>
-        <source>The file %1 cannot be replaced: the rights to it are missing.</source>
-        <translation>%1 파일을 바꿀 수 없습니다. 필요한 권한이 없습니다.</translation>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>%1 파일을 바꿀 수 없습니다. 쓰기 금지되어 있거나 사용 중입니다.</translation>
     </message>
     <message>
         <source>Nothing can be created in the folder %1: the rights to it are missing.</source>

@@ -263,8 +263,8 @@
         <translation>Controleer het station of kies een andere map.</translation>
     </message>
     <message>
-        <source>The file %1 cannot be replaced: the rights to it are missing.</source>
-        <translation>Het bestand %1 kan niet worden vervangen: de rechten ervoor ontbreken.</translation>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>Het bestand %1 kan niet worden vervangen: het is tegen schrijven beveiligd of in gebruik.</translation>
     </message>
     <message>
         <source>Nothing can be created in the folder %1: the rights to it are missing.</source>

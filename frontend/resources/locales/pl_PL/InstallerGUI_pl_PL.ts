@@ -263,8 +263,8 @@
         <translation>Sprawdź dysk lub wybierz inny folder.</translation>
     </message>
     <message>
-        <source>The file %1 cannot be replaced: the rights to it are missing.</source>
-        <translation>Nie można zastąpić pliku %1: brak uprawnień.</translation>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>Nie można zastąpić pliku %1: jest chroniony przed zapisem lub używany.</translation>
     </message>
     <message>
         <source>Nothing can be created in the folder %1: the rights to it are missing.</source>

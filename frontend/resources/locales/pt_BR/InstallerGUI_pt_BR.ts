@@ -263,8 +263,8 @@
         <translation>Verifique a unidade ou escolha outra pasta.</translation>
     </message>
     <message>
-        <source>The file %1 cannot be replaced: the rights to it are missing.</source>
-        <translation>Não é possível substituir o arquivo %1: faltam as permissões necessárias.</translation>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>Não é possível substituir o arquivo %1: ele está protegido contra gravação ou em uso.</translation>
     </message>
     <message>
         <source>Nothing can be created in the folder %1: the rights to it are missing.</source>

@@ -263,8 +263,8 @@
         <translation>Проверьте диск или выберите другую папку.</translation>
     </message>
     <message>
-        <source>The file %1 cannot be replaced: the rights to it are missing.</source>
-        <translation>Файл %1 нельзя заменить: нет прав на него.</translation>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>Файл %1 нельзя заменить: он защищён от записи или используется.</translation>
     </message>
     <message>
         <source>Nothing can be created in the folder %1: the rights to it are missing.</source>

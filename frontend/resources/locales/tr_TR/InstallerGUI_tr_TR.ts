@@ -263,8 +263,8 @@
         <translation>Sürücüyü denetleyin veya başka bir klasör seçin.</translation>
     </message>
     <message>
-        <source>The file %1 cannot be replaced: the rights to it are missing.</source>
-        <translation>%1 dosyası değiştirilemiyor: gerekli haklar yok.</translation>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>%1 dosyası değiştirilemiyor: yazmaya karşı korumalı veya kullanımda.</translation>
     </message>
     <message>
         <source>Nothing can be created in the folder %1: the rights to it are missing.</source>

@@ -263,8 +263,8 @@
         <translation>请检查驱动器，或选择其他文件夹。</translation>
     </message>
     <message>
-        <source>The file %1 cannot be replaced: the rights to it are missing.</source>
-        <translation>无法替换文件 %1：没有所需的权限。</translation>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>无法替换文件 %1：它被写保护或正在使用。</translation>
     </message>
     <message>
         <source>Nothing can be created in the folder %1: the rights to it are missing.</source>

@@ -263,8 +263,8 @@
         <translation>請檢查磁碟機，或選擇其他資料夾。</translation>
     </message>
     <message>
-        <source>The file %1 cannot be replaced: the rights to it are missing.</source>
-        <translation>無法取代檔案 %1：沒有所需的權限。</translation>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>無法取代檔案 %1：它受到寫入保護或正在使用中。</translation>
     </message>
     <message>
         <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
