@@ -5,57 +5,83 @@
 #include <QFileInfo>
 
 #include <array>
+#include <variant>
 
 namespace Vorlan::FrontEnd
 {
 namespace
 {
 
-// One option; exactly one of `flag` and `value` is set.
+using Switch = bool CommandLine::*;
+using Text = QString CommandLine::*;
+using Choice = std::optional<bool> CommandLine::*;
+
+// A word that answers a choice.
+struct Answer
+{
+    Choice choice;
+    bool isYes;
+};
+
 struct Option
 {
     const char* name;
-    bool CommandLine::*flag;
-    QString CommandLine::*value;
-    const char* valueName;
-    const char* help; // null for another name of the option before it
+    std::variant<Switch, Text, Choice, Answer> target;
+    const char* valueName; // empty for an option without a value
+    const char* help;      // null for another name of the option before it
 };
 
-constexpr Option Flag(const char* name, bool CommandLine::*flag, const char* help = nullptr)
+constexpr Option Flag(const char* name, Switch target, const char* help = nullptr)
 {
-    return {name, flag, nullptr, "", help};
+    return {name, target, "", help};
 }
 
-constexpr Option Value(const char* name, QString CommandLine::*value, const char* valueName,
-    const char* help = nullptr)
+constexpr Option Value(
+    const char* name, Text target, const char* valueName, const char* help = nullptr)
 {
-    return {name, nullptr, value, valueName, help};
+    return {name, target, valueName, help};
+}
+
+constexpr Option YesNo(const char* name, Choice target, const char* help)
+{
+    return {name, target, "yes|no", help};
+}
+
+constexpr Option Answers(const char* name, Choice target, bool isYes)
+{
+    return {name, Answer{target, isYes}, "", nullptr};
 }
 
 constexpr std::array allOptions{
-    Flag("S", &CommandLine::silent, "run without any window (also /VERYSILENT, /quiet)"),
+    Flag("S", &CommandLine::silent, "run without any window"),
     Flag("VERYSILENT", &CommandLine::silent),
     Flag("quiet", &CommandLine::silent),
     Flag("UNINSTALL", &CommandLine::uninstall, "uninstall instead of install"),
-    Value("D", &CommandLine::folder, "<folder>", "install into this folder (also /DIR=)"),
+    Value("D", &CommandLine::folder, "<folder>", "install into this folder"),
     Value("DIR", &CommandLine::folder, "<folder>"),
     Value("LANG", &CommandLine::language, "<code>", "language of the program, for example de_DE"),
     Flag("ALLUSERS", &CommandLine::allUsers, "install for all users"),
     Flag("CURRENTUSER", &CommandLine::currentUser, "install for this user only (default)"),
     Value(
         "LOG", &CommandLine::logFile, "<file>", "write the log here, not to the temporary folder"),
-    Flag("AUTOLAUNCH", &CommandLine::autoLaunch, "start the program at logon"),
-    Flag("CONTEXTMENU", &CommandLine::contextMenu, "add entries to the Explorer context menu"),
-    Flag("NOSHORTCUTS", &CommandLine::noShortcuts, "create no shortcuts"),
+    YesNo("SHORTCUTS", &CommandLine::shortcuts, "create shortcuts"),
+    Answers("NOSHORTCUTS", &CommandLine::shortcuts, false),
+    YesNo("CONTEXTMENU", &CommandLine::contextMenu, "add entries to the Explorer context menu"),
+    Answers("CONTEXTMENU", &CommandLine::contextMenu, true),
+    YesNo("AUTOLAUNCH", &CommandLine::autoLaunch, "start the program at logon"),
+    Answers("AUTOLAUNCH", &CommandLine::autoLaunch, true),
+    YesNo("STATISTICS", &CommandLine::statistics, "send anonymous usage statistics"),
     Value("WEBUID", &CommandLine::webUid, "<id>", "web user id to store"),
+    Flag("DOWNGRADE", &CommandLine::downgrade, "replace a newer version without a question"),
     Flag("REMOVEALL", &CommandLine::removeAll, "uninstall: remove additional modules and all data"),
     Flag("DELETESETTINGS", &CommandLine::deleteSettings, "uninstall: delete the user's settings"),
     Flag("CLOSEAPPS", &CommandLine::closeApps, "silent: close programs that use the files"),
     Flag("IGNORE_MUTEX", &CommandLine::ignoreMutex, "run even beside another setup"),
     Flag("PROGRESS", &CommandLine::progress, "silent: show stages and a progress bar"),
     Flag("JSON", &CommandLine::json, "silent: print one line of JSON per event"),
-    Flag("?", &CommandLine::help, "show this text (also --help)"),
+    Flag("?", &CommandLine::help, "show this text"),
     Flag("help", &CommandLine::help),
+    Flag("VERSION", &CommandLine::version, "show product and version"),
 };
 
 constexpr const char* exitCodesHelp = R"(Exit codes:
@@ -67,18 +93,35 @@ constexpr const char* exitCodesHelp = R"(Exit codes:
   1602  cancelled
   1603  failed; the log file says why
   1618  another setup is running
+  1638  a newer version is installed; see /DOWNGRADE
 )";
 
-const Option* FindOption(const QString& name)
+bool TakesValue(const Option& option)
 {
+    return *option.valueName != '\0';
+}
+
+// Some names have a form with a value and one without; the other form is found where the asked one
+// does not exist.
+const Option* FindOption(const QString& name, bool hasValue)
+{
+    const Option* found = nullptr;
     for (const Option& option : allOptions)
     {
-        if (name.compare(QLatin1String(option.name), Qt::CaseInsensitive) == 0)
+        const bool isNamed = name.compare(QLatin1String(option.name), Qt::CaseInsensitive) == 0;
+        if (isNamed && (found == nullptr || TakesValue(option) == hasValue))
         {
-            return &option;
+            found = &option;
         }
     }
-    return nullptr;
+    return found;
+}
+
+// The option as it is written: "/D=<folder>".
+QString Usage(const Option& option)
+{
+    const QString name = '/' + QString(option.name);
+    return TakesValue(option) ? name + '=' + option.valueName : name;
 }
 
 // Length of the prefix of an option; 0 if the word is no option.
@@ -91,27 +134,45 @@ int PrefixLength(const QString& word)
     return word.startsWith('/') || word.startsWith('-') ? 1 : 0;
 }
 
-QString ApplyValue(const Option& option, const QString& word, int equals, CommandLine& options)
+bool IsWord(const QString& value, const char* word)
 {
-    const QString value = equals < 0 ? QString() : word.mid(equals + 1);
-    if (value.isEmpty())
-    {
-        return QString("The option %1 needs a value: write /%2=%3.")
-            .arg(word, option.name, option.valueName);
-    }
-    options.*option.value = value;
-    return {};
+    return value.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
 }
 
-QString ApplyFlag(const Option& option, const QString& word, int equals, CommandLine& options)
+// Stores what an option means; false if it does not take this value.
+class OptionStore
 {
-    if (equals >= 0)
+public:
+    OptionStore(CommandLine& target, QString givenValue)
+        : options(target), value(std::move(givenValue))
     {
-        return QString("The option %1 takes no value: write /%2.").arg(word, option.name);
     }
-    options.*option.flag = true;
-    return {};
-}
+
+    bool operator()(Switch flag) const
+    {
+        options.*flag = true;
+        return true;
+    }
+    bool operator()(const Answer& answer) const
+    {
+        options.*answer.choice = answer.isYes;
+        return true;
+    }
+    bool operator()(Text text) const
+    {
+        options.*text = value;
+        return !value.isEmpty();
+    }
+    bool operator()(Choice choice) const
+    {
+        options.*choice = IsWord(value, "yes");
+        return IsWord(value, "yes") || IsWord(value, "no");
+    }
+
+private:
+    CommandLine& options;
+    QString value;
+};
 
 // Applies one word to the options; returns an error text, or an empty text.
 QString ApplyWord(const QString& word, CommandLine& options)
@@ -122,14 +183,26 @@ QString ApplyWord(const QString& word, CommandLine& options)
         return QString("Unexpected word \"%1\": options begin with / (see /?).").arg(word);
     }
     const int equals = word.indexOf('=');
-    const Option* option = FindOption(word.mid(prefix, equals < 0 ? -1 : equals - prefix));
+    const bool hasValue = equals >= 0;
+    const Option* option = FindOption(word.mid(prefix, hasValue ? equals - prefix : -1), hasValue);
     const bool singleDash = prefix == 1 && word.startsWith('-');
     if (option == nullptr || singleDash)
     {
         return QString("Unknown option %1: /? lists all options.").arg(word);
     }
-    return option->flag != nullptr ? ApplyFlag(*option, word, equals, options)
-                                   : ApplyValue(*option, word, equals, options);
+    if (hasValue && !TakesValue(*option))
+    {
+        return QString("The option %1 takes no value: write %2.").arg(word, Usage(*option));
+    }
+    const OptionStore store(options, hasValue ? word.mid(equals + 1) : QString());
+    if (std::visit(store, option->target))
+    {
+        return {};
+    }
+    const QString text = hasValue && !word.endsWith('=')
+                             ? QString("The option %1 has a wrong value: write %2.")
+                             : QString("The option %1 needs a value: write %2.");
+    return text.arg(word, Usage(*option));
 }
 
 // The error text for contradicting or invalid options, or an empty text.
@@ -138,6 +211,10 @@ QString FindConflict(const CommandLine& options)
     if (options.allUsers && options.currentUser)
     {
         return "The options /ALLUSERS and /CURRENTUSER exclude each other: give one of them.";
+    }
+    if (options.silent && options.passive)
+    {
+        return "The options /S and /PASSIVE exclude each other: give one of them.";
     }
     const QStringList languages = ProductProfile::SupportedLocales();
     if (!options.language.isEmpty() && !languages.contains(options.language))
@@ -190,7 +267,7 @@ ParsedCommandLine ParseCommandLine(const QStringList& arguments)
 
 CommandLine WithAbsolutePaths(CommandLine options, const QDir& startFolder)
 {
-    for (QString* path : {&options.folder, &options.logFile})
+    for (QString* path : {&options.folder, &options.logFile, &options.loadFile, &options.saveFile})
     {
         if (!path->isEmpty())
         {
@@ -209,18 +286,24 @@ Role RoleOf(const QString& programPath, const CommandLine& options)
     return hasUninstallerName || options.uninstall ? Role::Uninstaller : Role::Installer;
 }
 
+QString VersionText()
+{
+    return QString("%1 %2\n").arg(ProductProfile::productFullName, ProductProfile::versionText);
+}
+
 QString HelpText()
 {
     QString text = QString("%1 %2, setup\n\nOptions (names ignore case; --name works too):\n")
                        .arg(ProductProfile::productFullName, ProductProfile::versionText);
-    for (const Option& option : allOptions)
+    for (auto option = allOptions.begin(); option != allOptions.end();)
     {
-        if (option.help != nullptr)
+        const QString usage = "  " + Usage(*option).leftJustified(22) + ' ' + option->help;
+        QStringList others;
+        for (++option; option != allOptions.end() && option->help == nullptr; ++option)
         {
-            const QString equals = option.value != nullptr ? "=" : "";
-            const QString usage = '/' + QString(option.name) + equals + option.valueName;
-            text += "  " + usage.leftJustified(18) + option.help + '\n';
+            others << Usage(*option);
         }
+        text += usage + (others.isEmpty() ? "" : " (also " + others.join(", ") + ')') + '\n';
     }
     text += "Languages: " + ProductProfile::SupportedLocales().join(", ") + "\n\n";
     return text + exitCodesHelp;

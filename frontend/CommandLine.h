@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace Vorlan::FrontEnd
 {
 
@@ -14,16 +16,16 @@ enum class Role
     Uninstaller
 };
 
-// The options of the command line.
+// The options of the command line. A choice without a value, an empty text, and a scope that is not
+// given leave what is proposed: what the installed version has, else the default.
 struct CommandLine
 {
     bool silent = false;
+    bool passive = false;
     bool uninstall = false;
     bool allUsers = false;
     bool currentUser = false;
-    bool autoLaunch = false;
-    bool contextMenu = false;
-    bool noShortcuts = false;
+    bool downgrade = false;
     bool removeAll = false;
     bool deleteSettings = false;
     bool closeApps = false;
@@ -31,11 +33,19 @@ struct CommandLine
     bool progress = false;
     bool json = false;
     bool help = false;
+    bool version = false;
+    std::optional<bool> shortcuts;
+    std::optional<bool> contextMenu;
+    std::optional<bool> autoLaunch;
+    std::optional<bool> statistics;
     QString folder;
     QString language;
     QString logFile;
     QString webUid;
+    QString loadFile; // response file to read
+    QString saveFile; // response file to write
 
+    bool HasScope() const { return allUsers || currentUser; }
     QSettings::Scope Scope() const
     {
         return allUsers ? QSettings::SystemScope : QSettings::UserScope;
@@ -65,5 +75,8 @@ Role RoleOf(const QString& programPath, const CommandLine& options);
 
 // The text of /?: all options and exit codes.
 QString HelpText();
+
+// The text of /VERSION: a line with product and version.
+QString VersionText();
 
 } // namespace Vorlan::FrontEnd

@@ -7,6 +7,7 @@
 
 #include <QSettings>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -28,11 +29,19 @@ QString MissingArchiveText();
 std::unique_ptr<InstallerMediator> MakeInstaller(QSettings::Scope scope, bool isUnattended);
 
 // What to do with programs that hold files which an installation with these settings changes.
-ObstacleRules RulesFor(const InstallationSettings& settings);
+ObstacleRules RulesFor(InstallationSettings settings);
 
-// Installs with these settings and returns after the run. Cancels a removal of the folder that has
-// not begun yet.
-Outcome InstallWith(
+// Result of an installation, and the paths of files that are not the product's and could not get
+// their places back, because the product has a file of that name.
+struct InstallResult
+{
+    Outcome outcome;
+    QStringList movedFiles;
+};
+
+// Installs with these settings and returns after the run. Files in the folder that are not the
+// product's stay as they are.
+InstallResult InstallWith(
     InstallerMediator& mediator, InstallationSettings settings, const EventSink& sink);
 
 } // namespace Vorlan::FrontEnd

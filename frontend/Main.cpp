@@ -123,6 +123,17 @@ int Finish(const Outcome& outcome, const CommandLine& options)
     return static_cast<int>(outcome.code);
 }
 
+// Prints a text that was asked for; without a console it is shown in a box.
+int ShowText(const QString& text, const CommandLine& options, bool isConnected)
+{
+    std::cout << text.toStdString() << std::flush;
+    if (!isConnected && !options.silent)
+    {
+        ShowBox(text);
+    }
+    return static_cast<int>(ExitCode::Done);
+}
+
 // Ends the program without a run; without a console the text is shown in a box.
 int Refuse(const Outcome& outcome, const CommandLine& options, bool isConnected)
 {
@@ -145,10 +156,10 @@ int main(int argc, char** argv)
     {
         return Refuse({ExitCode::BadCommandLine, parsed.error}, parsed.options, isConnected);
     }
-    if (parsed.options.help)
+    if (parsed.options.help || parsed.options.version)
     {
-        std::cout << HelpText().toStdString() << std::flush;
-        return Refuse({ExitCode::Done, HelpText()}, {}, isConnected);
+        return ShowText(
+            parsed.options.help ? HelpText() : VersionText(), parsed.options, isConnected);
     }
     const CommandLine options = WithAbsolutePaths(parsed.options, QDir::current());
     const Role role = RoleOf(invocation.programPath, options);

@@ -54,10 +54,22 @@ Outcome CheckFolder(const InstallationSettings& settings)
     return {};
 }
 
-Outcome InstallWithOptions(
-    InstallerMediator& mediator, const CommandLine& options, const EventSink& sink)
+// Replacing a newer version is a question that an unattended run cannot ask.
+Outcome CheckVersion(const Installation* installed, const CommandLine& options)
 {
-    InstallationSettings settings = ApplyOptions(mediator.GetSettings(), options);
+    if (ChangeOf(installed) != Change::Downgrade || options.downgrade)
+        return {};
+    return {ExitCode::NewerVersionInstalled,
+        QString("The newer version %1 is installed in %2: nothing was changed. Give /DOWNGRADE to "
+                "replace it.")
+            .arg(installed->version, QDir::toNativeSeparators(installed->folder))};
+}
+
+Outcome InstallWithOptions(InstallerMediator& mediator, const FoundInstallations& found,
+    const CommandLine& options, const EventSink& sink)
+{
+    InstallationSettings settings =
+        ApplyOptions(ProposeSettings(mediator.GetSettings(), found), options);
     const auto translator = InstallTranslation(settings.locale);
     Outcome refusal = CheckFolder(settings);
     if (refusal.code != ExitCode::Done)
@@ -70,7 +82,7 @@ Outcome InstallWithOptions(
         return refusal;
     }
     settings.userInfo.webUid = FindWebUid(mediator, options);
-    return InstallWith(mediator, settings, sink);
+    return InstallWith(mediator, settings, sink).outcome;
 }
 
 } // namespace
@@ -82,13 +94,20 @@ Outcome InstallSilently(const CommandLine& options, const EventSink& sink)
     {
         return refusal;
     }
-    if (options.allUsers && !CanChangeMachine())
+    const FoundInstallations found = FindInstallations();
+    const QSettings::Scope scope = ChooseScope(found, options);
+    if (scope == QSettings::SystemScope && !CanChangeMachine())
     {
         return Failure(MachineRightsMissing());
     }
+    refusal = CheckVersion(found.Of(scope), options);
+    if (refusal.code != ExitCode::Done)
+    {
+        return refusal;
+    }
     try
     {
-        return InstallWithOptions(*MakeInstaller(options.Scope(), true), options, sink);
+        return InstallWithOptions(*MakeInstaller(scope, true), found, options, sink);
     }
     catch (const std::exception& error)
     {
@@ -116,7 +135,7 @@ Outcome UninstallSilently(const CommandLine& options, const EventSink& sink)
     {
         return refusal;
     }
-    return UninstallWith(*mediator, folder, options, sink);
+    return UninstallWith(*mediator, folder, options, sink).outcome;
 }
 
 } // namespace Vorlan::FrontEnd

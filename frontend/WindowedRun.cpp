@@ -69,12 +69,7 @@ Outcome UninstallWithWindow(const CommandLine& options, const EventSink& sink)
                    ? Outcome{}
                    : ShowFailure(MachineRightsMissing());
     }
-    UninstallWizard wizard(folder, own, options, sink);
-    if (!wizard.AskAboutFolder())
-    {
-        return {ExitCode::Cancelled, UninstallText("Cancelled: nothing was deleted.")};
-    }
-    return wizard.Run();
+    return UninstallWizard(folder, own, options, sink).Run();
 }
 
 void ShowAnotherSetupRuns(const CommandLine& options)

@@ -2,7 +2,6 @@
 
 #include "Await.h"
 #include "InstallOptions.h"
-#include "InstallRun.h"
 #include "MachineAccess.h"
 #include "WebUserId.h"
 #include "base/ProductProfile.h"
@@ -10,13 +9,13 @@
 #include "widgets/AlertBox.h"
 #include "widgets/MultiLayerBackgroundFrame.h"
 #include "wizard/CloseWithConsent.h"
-#include "wizard/DestinationPage.h"
+#include "wizard/FolderChooser.h"
 #include "wizard/InUsePage.h"
 #include "wizard/OptionsPage.h"
 #include "wizard/ProgressPage.h"
 #include "wizard/ResultPage.h"
+#include "wizard/StartPage.h"
 #include "wizard/Texts.h"
-#include "wizard/WelcomePage.h"
 
 #include <QDebug>
 #include <QDir>
@@ -46,41 +45,45 @@ quint64 PayloadBytes(const InstallationSettings& settings)
 InstallWizard::InstallWizard(const CommandLine& givenOptions, EventSink eventSink)
     : options(givenOptions),
       sink(std::move(eventSink)),
-      scope(options.Scope()),
+      found(FindInstallations()),
+      scope(ChooseScope(found, options)),
       mediator(MakeInstaller(scope, false))
 {
-    SetLanguage(ApplyOptions(mediator->GetSettings(), options).locale);
+    SetLanguage(Proposal().locale);
     MakePages();
-    GoTo(Step::Welcome);
+    GoTo(Step::Start);
 }
 
 InstallWizard::~InstallWizard() = default;
 
+// What is proposed for the scope of the mediator.
+InstallationSettings InstallWizard::Proposal() const
+{
+    return ApplyOptions(ProposeSettings(mediator->GetSettings(), found), options);
+}
+
 void InstallWizard::MakePages()
 {
-    const InstallationSettings settings = ApplyOptions(mediator->GetSettings(), options);
-    welcome = new WelcomePage(settings.locale, settings.isNewerVersion);
-    destination = new DestinationPage(settings);
+    const InstallationSettings settings = Proposal();
+    start = new StartPage(settings.locale, found);
     optionsPage = new OptionsPage(
         settings, {!ProductProfile::autoLaunchExecutable.isEmpty(), !settings.statisticsKeyExists});
     inUse = new InUsePage(LayerSets::installerWithTaglines);
     progress =
         new ProgressPage(LayerSets::installProgress, QT_TRANSLATE_NOOP("Wizard", "Installing %1"));
-    for (Page* page :
-        std::initializer_list<Page*>{welcome, destination, optionsPage, inUse, progress})
+    for (Page* page : std::initializer_list<Page*>{start, optionsPage, inUse, progress})
         window.Add(page);
-    welcome->languageChosen = [this](const QString& locale) { SetLanguage(locale); };
-    welcome->linkFollowed = [this](const QString& target) { FollowLink(target); };
+    start->languageChosen = [this](const QString& locale) { SetLanguage(locale); };
+    start->linkFollowed = [this](const QString& target) { FollowLink(target); };
+    optionsPage->scopeChosen = [this](QSettings::Scope chosen) { ProposeFor(chosen); };
 }
 
 Page* InstallWizard::PageOf(Step which) const
 {
     switch (which)
     {
-    case Step::Welcome:
-        return welcome;
-    case Step::Destination:
-        return destination;
+    case Step::Start:
+        return start;
     case Step::Options:
         return optionsPage;
     case Step::InUse:
@@ -97,19 +100,35 @@ Page* InstallWizard::PageOf(Step which) const
 void InstallWizard::GoTo(Step next)
 {
     step = next;
+    if (step == Step::Start)
+        start->ShowPlan(ChosenSettings());
     ShowPage(PageOf(next));
+}
+
+QString InstallWizard::InstallLabel() const
+{
+    switch (ChangeOf(found.Of(optionsPage->Scope())))
+    {
+    case Change::Install:
+        return WizardText("&Install");
+    case Change::Update:
+        return WizardText("U&pdate");
+    case Change::Repair:
+        return WizardText("R&epair");
+    case Change::Downgrade:
+        break;
+    }
+    return WizardText("Re&place");
 }
 
 ButtonBar::Labels InstallWizard::Labels() const
 {
     switch (step)
     {
-    case Step::Welcome:
-        return {{}, WizardText("Cancel"), WizardText("&Next")};
-    case Step::Destination:
-        return {WizardText("&Back"), WizardText("Cancel"), WizardText("&Next")};
+    case Step::Start:
+        return {WizardText("&Options"), WizardText("Cancel"), InstallLabel()};
     case Step::Options:
-        return {WizardText("&Back"), WizardText("Cancel"), WizardText("&Install")};
+        return {WizardText("&Back"), WizardText("Cancel"), InstallLabel()};
     case Step::InUse:
         return {
             WizardText("&Try again"), WizardText("Cancel"), WizardText("&Close them and go on")};
@@ -120,44 +139,33 @@ ButtonBar::Labels InstallWizard::Labels() const
     case Step::Failed:
         break;
     }
-    return {WizardText("&Back"), WizardText("Close"), WizardText("&Try again")};
+    return {WizardText("&Options"), WizardText("Close"), WizardText("&Try again")};
 }
 
 void InstallWizard::GoForward()
 {
-    switch (step)
+    if (step == Step::Done)
     {
-    case Step::Welcome:
-        return GoTo(Step::Destination);
-    case Step::Destination:
-        return destination->WhenExamined(
-            [this](bool isUsable)
-            {
-                if (isUsable && step == Step::Destination)
-                    GoTo(Step::Options);
-            });
-    case Step::Options:
-    case Step::Failed:
-        return Install();
-    case Step::InUse:
+        Finish();
+    }
+    else if (step == Step::InUse)
+    {
         CloseWithConsent(window, *inUse, ProcessesOfAnActiveWindow());
-        return CheckFilesInUse();
-    case Step::Running:
-        return;
-    case Step::Done:
-        return Finish();
+        CheckFilesInUse();
+    }
+    else if (step != Step::Running)
+    {
+        Install();
     }
 }
 
 void InstallWizard::GoBack()
 {
-    if (step == Step::Destination)
-        GoTo(Step::Welcome);
-    else if (step == Step::Options)
-        GoTo(Step::Destination);
+    if (step == Step::Options)
+        GoTo(Step::Start);
     else if (step == Step::InUse)
         CheckFilesInUse();
-    else if (step == Step::Failed)
+    else
         GoTo(Step::Options);
 }
 
@@ -182,28 +190,58 @@ void InstallWizard::RequestClose()
     }
 }
 
-void InstallWizard::FollowLink(const QString& target) const
+void InstallWizard::FollowLink(const QString& target)
 {
     if (target == "licence")
         mediator->OpenUrl(LicenceTemplate());
-    else
+    else if (target == "privacy")
         mediator->OpenUrl(InstallerMediator::URL::PrivacyPolicy);
+    else
+        StartRemoval();
+}
+
+void InstallWizard::ProposeFor(QSettings::Scope chosen)
+{
+    InstallationSettings settings = mediator->GetSettings();
+    settings.scope = chosen;
+    optionsPage->Propose(ApplyOptions(ProposeSettings(settings, found), options));
+    window.SetLabels(Labels());
 }
 
 // Archive, rights and folder are checked again, because they may have changed since the pages.
 void InstallWizard::Install()
 {
-    if (!FindArchive())
+    if (!IsReplacementWanted() || !FindArchive())
         return;
     if (optionsPage->Scope() == QSettings::SystemScope && !CanChangeMachine())
         return RelaunchWithRights();
-    destination->Examine();
-    destination->WhenExamined(
+    optionsPage->Folder().Examine();
+    optionsPage->Folder().WhenExamined(
         [this, before = step](bool isUsable)
         {
             if (step == before)
-                isUsable ? CheckFilesInUse() : GoTo(Step::Destination);
+                isUsable ? CheckFilesInUse() : GoTo(Step::Options);
         });
+}
+
+bool InstallWizard::IsReplacementWanted()
+{
+    const Installation* installed = found.Of(optionsPage->Scope());
+    if (options.downgrade || ChangeOf(installed) != Change::Downgrade)
+        return true;
+    const QString question = WizardText("Replace the newer version %1 with version %2?")
+                                 .arg(installed->version, QString(ProductProfile::versionText));
+    return AlertBox::question(&window, question) == QDialogButtonBox::Yes;
+}
+
+// The uninstaller starts while this setup still runs, which ends at once.
+void InstallWizard::StartRemoval()
+{
+    const QSettings::Scope chosen = optionsPage->Scope();
+    const Installation* other = found.Of(OtherScope(chosen));
+    const Installation* removed = other != nullptr ? other : found.Of(chosen);
+    StartUninstaller(removed->folder);
+    Leave({ExitCode::Cancelled, WizardText("Cancelled: nothing was installed.")});
 }
 
 bool InstallWizard::FindArchive()
@@ -223,8 +261,7 @@ void InstallWizard::RelaunchWithRights()
 {
     InstallationSettings chosen;
     chosen.userInfo.webUid = options.webUid;
-    welcome->Apply(chosen);
-    destination->Apply(chosen);
+    start->Apply(chosen);
     optionsPage->Apply(chosen);
     if (RelaunchElevated(WordsFor(chosen)))
         Leave({});
@@ -232,16 +269,10 @@ void InstallWizard::RelaunchWithRights()
         AlertBox::error(&window, MachineRightsMissing(), false);
 }
 
-InstallationSettings InstallWizard::ChosenSettings()
+InstallationSettings InstallWizard::ChosenSettings() const
 {
-    if (optionsPage->Scope() != scope)
-    {
-        scope = optionsPage->Scope();
-        mediator = MakeInstaller(scope, false);
-    }
-    InstallationSettings settings = ApplyOptions(mediator->GetSettings(), options);
-    welcome->Apply(settings);
-    destination->Apply(settings);
+    InstallationSettings settings = Proposal();
+    start->Apply(settings);
     optionsPage->Apply(settings);
     return settings;
 }
@@ -271,6 +302,11 @@ QString InstallWizard::AskForWebUid() const
 
 void InstallWizard::CheckFilesInUse()
 {
+    if (optionsPage->Scope() != scope)
+    {
+        scope = optionsPage->Scope();
+        mediator = MakeInstaller(scope, false);
+    }
     const InstallationSettings settings = ChosenSettings();
     progress->Begin(PayloadBytes(settings));
     GoTo(Step::Running);
@@ -293,21 +329,33 @@ void InstallWizard::RunInstallation(InstallationSettings settings)
         }));
 }
 
-void InstallWizard::ShowResult(const Outcome& result)
+// What did not work although the run may have ended well: a line each.
+QStringList InstallWizard::NotesOn(const InstallResult& result) const
+{
+    QStringList notes = progress->CopyErrors();
+    for (const QString& path : result.movedFiles)
+        notes += WizardText("Your file was moved, because the program has one of that name: %1")
+                     .arg(QDir::toNativeSeparators(path));
+    return notes;
+}
+
+void InstallWizard::ShowResult(const InstallResult& result)
 {
     progress->End();
-    runOutcome = result;
+    runOutcome = result.outcome;
+    found = FindInstallations(); // for another attempt
     ResultTexts shown;
-    shown.isDone = result.code == ExitCode::Done;
-    shown.copyErrors = progress->CopyErrors();
+    shown.isDone = runOutcome.code == ExitCode::Done;
+    shown.listText = WizardText("Please note:");
+    shown.list = NotesOn(result);
     shown.canStart = shown.isDone;
     shown.headingText = shown.isDone ? QT_TRANSLATE_NOOP("Wizard", "%1 is installed")
                                      : QT_TRANSLATE_NOOP("Wizard", "%1 could not be installed");
-    if (shown.isDone && shown.copyErrors.isEmpty())
+    if (shown.isDone && shown.list.isEmpty())
         shown.text = WizardText("Everything is in its place. You can begin right away.");
     if (!shown.isDone)
     {
-        shown.text = FailureText(result, options.logFile);
+        shown.text = FailureText(runOutcome, options.logFile);
         shown.logFile = options.logFile;
     }
     delete resultPage;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "CommandLine.h"
+#include "FoundInstallations.h"
+#include "InstallRun.h"
 #include "RunEvent.h"
 #include "base/InstallationSettings.h"
 #include "wizard/Wizard.h"
@@ -13,12 +15,11 @@ class InstallerMediator;
 namespace Vorlan::FrontEnd
 {
 
-class DestinationPage;
 class InUsePage;
 class OptionsPage;
 class ProgressPage;
 class ResultPage;
-class WelcomePage;
+class StartPage;
 
 // An installation with windows. The options of the command line preset the pages.
 class InstallWizard : public Wizard
@@ -32,8 +33,7 @@ public:
 private:
     enum class Step
     {
-        Welcome,
-        Destination,
+        Start,
         Options,
         InUse,
         Running,
@@ -49,26 +49,32 @@ private:
     void MakePages();
     void GoTo(Step step);
     Page* PageOf(Step step) const;
-    void FollowLink(const QString& target) const;
+    QString InstallLabel() const;
+    void FollowLink(const QString& target);
+    void ProposeFor(QSettings::Scope chosen);
 
     void Install();
+    bool IsReplacementWanted();
     bool FindArchive();
+    void StartRemoval();
     void RelaunchWithRights();
-    InstallationSettings ChosenSettings();
+    InstallationSettings Proposal() const;
+    InstallationSettings ChosenSettings() const;
     void CheckFilesInUse();
     QString AskForWebUid() const;
     void RunInstallation(InstallationSettings settings);
-    void ShowResult(const Outcome& result);
+    QStringList NotesOn(const InstallResult& result) const;
+    void ShowResult(const InstallResult& result);
     void Finish();
 
     CommandLine options;
     EventSink sink;
+    FoundInstallations found;
     QSettings::Scope scope; // of the mediator
     std::unique_ptr<InstallerMediator> mediator;
-    Step step = Step::Welcome;
+    Step step = Step::Start;
     Outcome runOutcome;
-    WelcomePage* welcome = nullptr;
-    DestinationPage* destination = nullptr;
+    StartPage* start = nullptr;
     OptionsPage* optionsPage = nullptr;
     InUsePage* inUse = nullptr;
     ProgressPage* progress = nullptr;

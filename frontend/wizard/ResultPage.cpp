@@ -42,8 +42,8 @@ ResultPage::ResultPage(const QStringList& pictureLayers, ResultTexts texts)
     text->setText(result.text);
     text->setHidden(result.text.isEmpty());
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    if (!result.copyErrors.isEmpty())
-        AddCopyErrors();
+    if (!result.list.isEmpty())
+        AddList();
     openLog = new QPushButton(this);
     openLog->setObjectName("openLog");
     openLog->setAutoDefault(false);
@@ -63,12 +63,13 @@ ResultPage::ResultPage(const QStringList& pictureLayers, ResultTexts texts)
     connect(link, &QLabel::linkActivated, this, [this] { linkFollowed(); });
 }
 
-void ResultPage::AddCopyErrors()
+void ResultPage::AddList()
 {
-    listLabel = AddText("group");
-    list = new QListWidget(this);
-    list->setObjectName("copyErrors");
-    list->addItems(result.copyErrors);
+    AddText("group")->setText(result.listText);
+    auto* list = new QListWidget(this);
+    list->setObjectName("list");
+    list->setAccessibleName(result.listText);
+    list->addItems(result.list);
     list->setTextElideMode(Qt::ElideMiddle);
     Body()->addWidget(list);
 }
@@ -79,11 +80,6 @@ void ResultPage::Retranslate(const QString&)
     start->setText(WizardText("&Start %1 now").arg(ProductTitle()));
     link->setText(WizardText(result.linkText));
     openLog->setText(WizardText("Open &log"));
-    if (list != nullptr)
-    {
-        listLabel->setText(WizardText("These files could not be copied:"));
-        list->setAccessibleName(listLabel->text());
-    }
 }
 
 // With the system's viewer.

@@ -10,16 +10,17 @@ class QPushButton;
 namespace Vorlan::FrontEnd
 {
 
-// Content of the last page. `isDone`: the run succeeded, except for the files in `copyErrors`.
+// Content of the last page. `isDone`: the run succeeded, except for what the list says.
 struct ResultTexts
 {
     bool isDone = true;
     const char* headingText = ""; // in English, "%1" for the product
     QString text;                 // may be empty
     const char* linkText = "";    // in English, rich text; may be empty
+    QString listText;             // above the list
+    QStringList list;             // may be empty
     QString logFile;              // that a button opens; may be empty
-    QStringList copyErrors;
-    bool canStart = false; // offers to start the installed program
+    bool canStart = false;        // offers to start the installed program
 };
 
 // Cause of a failure, what the machine is now, what to do, and where the log is: a paragraph each.
@@ -38,15 +39,13 @@ public:
     std::function<void()> linkFollowed = [] {};
 
 private:
-    void AddCopyErrors();
+    void AddList();
     void OpenLog();
 
     ResultTexts result;
     QLabel* icon;
     QLabel* heading;
     QLabel* text;
-    QLabel* listLabel = nullptr;
-    QListWidget* list = nullptr;
     QPushButton* openLog;
     QCheckBox* start;
     QLabel* link;

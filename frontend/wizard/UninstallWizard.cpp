@@ -1,17 +1,19 @@
 #include "wizard/UninstallWizard.h"
 
 #include "Await.h"
+#include "FoundInstallations.h"
 #include "Obstacles.h"
-#include "UninstallRun.h"
 #include "installer/InstallerMediator.h"
 #include "widgets/AlertBox.h"
 #include "widgets/MultiLayerBackgroundFrame.h"
 #include "wizard/CloseWithConsent.h"
 #include "wizard/InUsePage.h"
+#include "wizard/OtherFolderPage.h"
 #include "wizard/ProgressPage.h"
 #include "wizard/ResultPage.h"
 #include "wizard/Texts.h"
-#include "wizard/UninstallStartPage.h"
+
+#include <QDir>
 
 namespace Vorlan::FrontEnd
 {
@@ -30,34 +32,46 @@ QString Shortened(const QString& text)
 
 } // namespace
 
-UninstallWizard::UninstallWizard(const QString& ownFolder, const OwnFolder& own,
+UninstallWizard::UninstallWizard(const QString& ownFolder, const OwnFolder& examined,
     const CommandLine& givenOptions, EventSink eventSink)
     : folder(ownFolder),
-      refusal(own.refusal),
+      own(examined),
       options(givenOptions),
       sink(std::move(eventSink)),
-      mediator(MakeUninstaller(own.scope, options, false))
+      mediator(MakeUninstaller(own.scope, options, false)),
+      placed(FilesToRemove(*mediator, folder))
 {
     SetLanguage(mediator->GetSettings().locale);
     runOutcome = {ExitCode::Cancelled, UninstallText("Cancelled: nothing was deleted.")};
-    start = new UninstallStartPage(folder, options.deleteSettings);
+    start = new UninstallStartPage(Plan());
     inUse = new InUsePage(LayerSets::uninstallStart);
     progress = new ProgressPage(
         LayerSets::uninstallProgress, QT_TRANSLATE_NOOP("Wizard", "Uninstalling %1"));
     window.Add(start);
     window.Add(inUse);
     window.Add(progress);
-    GoTo(Step::Start, start);
+    if (own.refusal.isEmpty())
+    {
+        GoTo(Step::Start, start);
+        return;
+    }
+    otherFolder = new OtherFolderPage(folder, own.refusal, CopiedFiles());
+    window.Add(otherFolder);
+    GoTo(Step::OtherFolder, otherFolder);
 }
 
 UninstallWizard::~UninstallWizard() = default;
 
-bool UninstallWizard::AskAboutFolder() const
+UninstallPlan UninstallWizard::Plan() const
 {
-    if (refusal.isEmpty())
-        return true;
-    const QString question = UninstallText("Delete the files beside this program all the same?");
-    return AlertBox::question(nullptr, refusal + "\n\n" + question) == QDialogButtonBox::Yes;
+    return {folder, own.scope, options.deleteSettings, options.removeAll,
+        SortContent(folder, placed).foreign};
+}
+
+// Files of a copy of the program: only those of a list.
+int UninstallWizard::CopiedFiles() const
+{
+    return PlacedFiles::IsIn(folder) ? SortContent(folder, placed).own.size() : 0;
 }
 
 void UninstallWizard::GoTo(Step next, Page* page)
@@ -70,6 +84,10 @@ ButtonBar::Labels UninstallWizard::Labels() const
 {
     switch (step)
     {
+    case Step::OtherFolder:
+        return {own.installed.isEmpty() ? QString() : UninstallText("&Uninstall the installed one"),
+            WizardText("Close"),
+            CopiedFiles() == 0 ? QString() : UninstallText("&Delete %1 files").arg(CopiedFiles())};
     case Step::Start:
         return {{}, WizardText("Cancel"), UninstallText("&Uninstall")};
     case Step::InUse:
@@ -89,10 +107,12 @@ void UninstallWizard::GoForward()
 {
     switch (step)
     {
-    case Step::Start:
-        return CheckFilesInUse();
+    case Step::OtherFolder:
+        return DeleteCopy();
     case Step::InUse:
         CloseWithConsent(window, *inUse, ProcessesOfAnActiveWindow());
+        return CheckFilesInUse();
+    case Step::Start:
         return CheckFilesInUse();
     case Step::Running:
         return;
@@ -104,7 +124,9 @@ void UninstallWizard::GoForward()
 void UninstallWizard::GoBack()
 {
     if (step == Step::InUse)
-        CheckFilesInUse();
+        return CheckFilesInUse();
+    StartUninstaller(own.installed);
+    Leave(runOutcome);
 }
 
 void UninstallWizard::RequestClose()
@@ -132,27 +154,37 @@ void UninstallWizard::CheckFilesInUse()
 void UninstallWizard::Uninstall()
 {
     options.deleteSettings = start->IsDeletingSettings();
-    runOutcome = UninstallWith(*mediator, folder, options,
+    const UninstallResult result = UninstallWith(*mediator, folder, options,
         [this](const RunEvent& event)
         {
             sink(event);
             progress->Show(event);
         });
+    runOutcome = result.outcome;
     if (runOutcome.code == ExitCode::DependentProgramsExist)
     {
         GoTo(Step::Start, start);
         AlertBox::error(&window, Shortened(runOutcome.error), false);
         return;
     }
-    ShowResult();
+    ShowResult(result);
 }
 
-void UninstallWizard::ShowResult()
+void UninstallWizard::DeleteCopy()
+{
+    const UninstallResult result = RemoveCopy(folder, placed);
+    runOutcome = result.outcome;
+    ShowResult(result);
+}
+
+void UninstallWizard::ShowResult(const UninstallResult& result)
 {
     progress->End();
     ResultTexts shown;
     shown.isDone = runOutcome.code == ExitCode::Done;
-    if (shown.isDone)
+    if (shown.isDone && step == Step::OtherFolder)
+        shown.headingText = QT_TRANSLATE_NOOP("Wizard", "The copy of %1 was deleted");
+    else if (shown.isDone)
     {
         shown.headingText = QT_TRANSLATE_NOOP("Wizard", "%1 was uninstalled");
         shown.text = UninstallText("Thank you for having used it.");
@@ -165,6 +197,8 @@ void UninstallWizard::ShowResult()
         shown.text = FailureText(runOutcome, options.logFile);
         shown.logFile = options.logFile;
     }
+    shown.listText = UninstallText("Left in %1:").arg(PathText(QDir::toNativeSeparators(folder)));
+    shown.list = result.staying;
     delete resultPage;
     resultPage = new ResultPage(LayerSets::uninstallStart, shown);
     resultPage->linkFollowed = [this] { mediator->OpenUrl(InstallerMediator::URL::UninstallPage); };

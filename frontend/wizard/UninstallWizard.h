@@ -3,6 +3,8 @@
 #include "CommandLine.h"
 #include "OwnFolder.h"
 #include "RunEvent.h"
+#include "UninstallRun.h"
+#include "wizard/UninstallStartPage.h"
 #include "wizard/Wizard.h"
 
 namespace Vorlan
@@ -16,7 +18,6 @@ namespace Vorlan::FrontEnd
 class InUsePage;
 class ProgressPage;
 class ResultPage;
-class UninstallStartPage;
 
 // An uninstallation from the program's own folder, with windows.
 class UninstallWizard : public Wizard
@@ -27,12 +28,10 @@ public:
         const QString& folder, const OwnFolder& own, const CommandLine& options, EventSink sink);
     ~UninstallWizard() override;
 
-    // Asks for confirmation if the folder may not be the product's; false to cancel.
-    bool AskAboutFolder() const;
-
 private:
     enum class Step
     {
+        OtherFolder,
         Start,
         InUse,
         Running,
@@ -45,17 +44,22 @@ private:
     ButtonBar::Labels Labels() const override;
 
     void GoTo(Step step, Page* page);
+    UninstallPlan Plan() const;
+    int CopiedFiles() const;
     void CheckFilesInUse();
     void Uninstall();
-    void ShowResult();
+    void DeleteCopy();
+    void ShowResult(const UninstallResult& result);
 
     QString folder;
-    QString refusal;
+    OwnFolder own;
     CommandLine options;
     EventSink sink;
     std::unique_ptr<InstallerMediator> mediator;
+    PlacedFiles placed;
     Step step = Step::Start;
     Outcome runOutcome; // before the end of a run: cancelled
+    Page* otherFolder = nullptr;
     UninstallStartPage* start = nullptr;
     InUsePage* inUse = nullptr;
     ProgressPage* progress = nullptr;

@@ -56,14 +56,12 @@ INSTANTIATE_TEST_SUITE_P(Words, CommandLineFlagTest,
         FlagRow{"--quiet", &CommandLine::silent}, FlagRow{"/UNINSTALL", &CommandLine::uninstall},
         FlagRow{"/ALLUSERS", &CommandLine::allUsers},
         FlagRow{"/CURRENTUSER", &CommandLine::currentUser},
-        FlagRow{"/AUTOLAUNCH", &CommandLine::autoLaunch},
-        FlagRow{"/CONTEXTMENU", &CommandLine::contextMenu},
-        FlagRow{"/NOSHORTCUTS", &CommandLine::noShortcuts},
         FlagRow{"/REMOVEALL", &CommandLine::removeAll},
         FlagRow{"/DELETESETTINGS", &CommandLine::deleteSettings},
         FlagRow{"/IGNORE_MUTEX", &CommandLine::ignoreMutex},
         FlagRow{"/PROGRESS", &CommandLine::progress}, FlagRow{"/JSON", &CommandLine::json},
-        FlagRow{"/?", &CommandLine::help}, FlagRow{"--help", &CommandLine::help}));
+        FlagRow{"/?", &CommandLine::help}, FlagRow{"--help", &CommandLine::help},
+        FlagRow{"/VERSION", &CommandLine::version}));
 
 TEST(CommandLineTest, ValuesFollowTheFirstEqualsSign)
 {
@@ -89,6 +87,35 @@ TEST(CommandLineTest, WrongWordsAreRefusedByName)
     EXPECT_EQ(ErrorOf({"/S=1"}), "The option /S=1 takes no value: write /S.");
     EXPECT_EQ(ErrorOf({"/FOO", "stray"}), ErrorOf({"/FOO"}));
     EXPECT_TRUE(ParseCommandLine({"/FOO", "/S"}).options.silent) << "else a box would wait";
+}
+
+TEST(CommandLineTest, AChoiceIsYesOrNoOrNotGiven)
+{
+    struct Row
+    {
+        const char* word;
+        std::optional<bool> CommandLine::*choice;
+        bool expected;
+    };
+    for (const Row& row : {Row{"/SHORTCUTS=yes", &CommandLine::shortcuts, true},
+             Row{"/shortcuts=NO", &CommandLine::shortcuts, false},
+             Row{"/NOSHORTCUTS", &CommandLine::shortcuts, false},
+             Row{"/CONTEXTMENU", &CommandLine::contextMenu, true},
+             Row{"/CONTEXTMENU=no", &CommandLine::contextMenu, false},
+             Row{"/AUTOLAUNCH", &CommandLine::autoLaunch, true},
+             Row{"--autolaunch=no", &CommandLine::autoLaunch, false},
+             Row{"/STATISTICS=yes", &CommandLine::statistics, true}})
+    {
+        EXPECT_FALSE((Parsed({}).*row.choice).has_value()) << row.word;
+        EXPECT_EQ(Parsed({row.word}).*row.choice, row.expected) << row.word;
+    }
+    EXPECT_EQ(Parsed({"/CONTEXTMENU", "/CONTEXTMENU=no"}).contextMenu, false) << "the last one";
+    EXPECT_EQ(ErrorOf({"/STATISTICS"}),
+        "The option /STATISTICS needs a value: write /STATISTICS=yes|no.");
+    EXPECT_EQ(ErrorOf({"/CONTEXTMENU=2"}),
+        "The option /CONTEXTMENU=2 has a wrong value: write /CONTEXTMENU=yes|no.");
+    EXPECT_EQ(ErrorOf({"/NOSHORTCUTS=no"}),
+        "The option /NOSHORTCUTS=no takes no value: write /NOSHORTCUTS.");
 }
 
 TEST(CommandLineTest, ContradictionsAreRefused)

@@ -1,9 +1,9 @@
 #include "wizard/FolderCheck.h"
 #include "support/Machine.h"
 
-#include <QCoreApplication>
 #include <QMutex>
 #include <QSemaphore>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -13,6 +13,8 @@ using namespace Vorlan::FrontEnd;
 
 namespace
 {
+
+constexpr int timeLimitMs = 60000;
 
 // A disk that answers when the test lets it: each folder has its own semaphore.
 struct SlowDisk
@@ -37,11 +39,9 @@ struct SlowDisk
 class FolderCheckTest : public testing::Test
 {
 protected:
-    // Until the check has no result to wait for.
     void WaitForResult() const
     {
-        while (check.IsRunning())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !check.IsRunning(); }, timeLimitMs));
     }
 
     std::shared_ptr<SlowDisk> disk = std::make_shared<SlowDisk>();

@@ -21,20 +21,60 @@ TEST(ReadmeTest, QuotesTheEmbeddingExampleAsItIs)
                     .contains("```cpp\n" + TextOf("tests/support/EmbeddingExample.cpp") + "```\n"));
 }
 
-TEST(ReadmeTest, ThePageOfTheCommandLineNamesEveryOptionAndExitCodeOfTheHelp)
+// The options in a text, "/D=<folder>" among them, sorted.
+QString OptionsIn(const QString& text)
+{
+    QStringList options;
+    auto found = QRegularExpression("(?<![\\w.])(/[A-Za-z_?]+(=[<>|a-z]+)?|--help)(?!\\w)")
+                     .globalMatch(text);
+    while (found.hasNext())
+        options << found.next().captured(1).replace("--", "/");
+    options.sort();
+    return options.join(' ');
+}
+
+// The options of the page's table: what is in its first column.
+QString OptionsOfThePage(const QString& page)
+{
+    const QString table = page.section("\n## Options\n", 1).section("\n## ", 0, 0);
+    QStringList cells;
+    auto rows =
+        QRegularExpression("^\\| (`([^|\\\\]|\\\\\\|)*`) \\|", QRegularExpression::MultilineOption)
+            .globalMatch(table);
+    while (rows.hasNext())
+        cells << rows.next().captured(1).replace("\\|", "|");
+    return OptionsIn(cells.join(' '));
+}
+
+// The options of the help, with their other names.
+QString OptionsOfTheHelp(const QString& help)
+{
+    QStringList usages;
+    for (const QString& line : help.split('\n').filter(QRegularExpression("^  /")))
+        usages << line.simplified().section(' ', 0, 0) << line.section(" (also ", 1);
+    return OptionsIn(usages.join(' '));
+}
+
+// The numbers at the starts of lines, after `prefix`.
+QStringList NumbersAfter(const QString& prefix, const QString& text)
+{
+    QStringList numbers;
+    auto found = QRegularExpression(
+        '^' + QRegularExpression::escape(prefix) + "(\\d+) ", QRegularExpression::MultilineOption)
+                     .globalMatch(text);
+    while (found.hasNext())
+        numbers << found.next().captured(1);
+    return numbers;
+}
+
+TEST(ReadmeTest, ThePageOfTheCommandLineAndTheHelpHaveTheSameOptionsAndExitCodes)
 {
     const QString page = TextOf("docs/command-line.md");
     const QString help = Vorlan::FrontEnd::HelpText();
-    auto names = QRegularExpression("^  (/[A-Z_?]+=?|\\d+)", QRegularExpression::MultilineOption)
-                     .globalMatch(help);
-    int count = 0;
-    for (; names.hasNext(); ++count)
-    {
-        const QString name = names.next().captured(1);
-        const QString quoted = name.startsWith('/') ? '`' + name : "| " + name + " |";
-        EXPECT_TRUE(page.contains(quoted)) << name.toStdString();
-    }
-    EXPECT_EQ(count, 18 + 8);
+    EXPECT_EQ(OptionsOfThePage(page), OptionsOfTheHelp(help));
+    EXPECT_EQ(NumbersAfter("| ", page), NumbersAfter("  ", help));
+    EXPECT_TRUE(OptionsOfTheHelp(help).contains("/D=<folder> /DELETESETTINGS /DIR=<folder>"));
+    EXPECT_TRUE(NumbersAfter("  ", help).contains("1603"));
 }
 
 TEST(ReadmeTest, EveryLinkToAFileOfTheProjectLeadsToOne)

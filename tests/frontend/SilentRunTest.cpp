@@ -127,18 +127,6 @@ TEST_F(SilentRunTest, ARunThatFailsIsOneLineInTheChosenLanguage)
     EXPECT_TRUE(ReadFile(LogNamedIn(result.errors)).contains("warning  Error "));
 }
 
-TEST_F(SilentRunTest, AFailedRunNamesTheFileAndTheProgramOrThePlace)
-{
-    setup.AddArchive("small.7z");
-    const QString folder = setup.WorkFolder() + "/Vorlan Quillax";
-    const QString obstacle = folder + "/libs/deep";
-    WriteFile(obstacle, "a file where the payload has a folder");
-    const auto result = setup.Start({"/S", "/D=" + folder});
-    EXPECT_EQ(result.exitCode, failed);
-    ExpectOneLineWith(result, "is a file where a folder is needed");
-    EXPECT_TRUE(result.errors.contains(QDir::toNativeSeparators(obstacle)));
-}
-
 TEST_F(SilentRunTest, ASetupInItsOwnDestinationEndsTheProductThereAndNotItself)
 {
     setup.AddArchive("small.7z");

@@ -11,6 +11,13 @@
 
 using namespace Vorlan::FrontEnd;
 
+namespace
+{
+
+constexpr int timeLimitMs = 60000;
+
+} // namespace
+
 WizardDriver::WizardDriver(Wizard& driven) : wizard(driven)
 {
     wizard.Window().show();
@@ -45,8 +52,7 @@ void WizardDriver::WaitForExamination() const
         return std::any_of(widgets.begin(), widgets.end(),
             [](const QWidget* widget) { return widget->property("isExamining").toBool(); });
     };
-    while (isExamining())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !isExamining(); }, timeLimitMs));
 }
 
 void WizardDriver::Click(const char* name)

@@ -1,30 +1,34 @@
 #pragma once
 
+#include "base/InstallationSettings.h"
 #include "wizard/FolderCheck.h"
-#include "wizard/Page.h"
 
 #include <QTimer>
+#include <QWidget>
 
+#include <functional>
+
+class QLabel;
 class QLineEdit;
 class QPushButton;
 
 namespace Vorlan::FrontEnd
 {
 
-// Page with the installation folder. It is examined while it is edited, on another thread; what
+// The choice of the installation folder. It is examined while it is edited, on another thread; what
 // objects to it is shown below the field.
-class DestinationPage : public Page
+class FolderChooser : public QWidget
 {
 public:
     // Proposes the folder of the settings, and shows their required space.
-    explicit DestinationPage(const InstallationSettings& settings);
+    FolderChooser(const InstallationSettings& settings, QWidget* parent);
 
-    void Retranslate(const QString& locale) override;
-    void Apply(InstallationSettings& settings) const override;
+    void Retranslate(const QString& locale);
     // As long as the folder is examined, it counts as usable: see WhenExamined.
-    bool IsComplete() const override;
-    QWidget* FirstControl() const override;
+    bool IsValid() const;
 
+    // Proposes another folder, unless the user has changed the one before.
+    void Propose(const QString& folder);
     // Examines the folder again, because the disk may have changed.
     void Examine();
     // Calls the function with whether the folder is usable, as soon as that is known.
@@ -32,6 +36,9 @@ public:
 
     // The installation folder for the typed text.
     QString Folder() const;
+
+    // Called when an examination begins and when it has ended.
+    std::function<void()> checked = [] {};
 
 private:
     void Browse();
@@ -42,9 +49,7 @@ private:
     InstallationSettings settings;
     QString locale;
     FolderCheck check;
-    QTimer patience; // until the page says that it still examines the folder
-    QLabel* heading;
-    QLabel* intro;
+    QTimer patience; // until it is said that the folder is still examined
     QLabel* folderLabel;
     QLineEdit* folder;
     QPushButton* browse;
