@@ -360,7 +360,7 @@
     </message>
     <message>
         <source>Open &amp;log</source>
-        <translation>&amp;Otwórz dziennik</translation>
+        <translation>Otwórz d&amp;ziennik</translation>
     </message>
     <message>
         <source>The log file %1 cannot be opened.</source>
