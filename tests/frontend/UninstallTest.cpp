@@ -119,6 +119,7 @@ TEST_F(UninstallTest, AnUpdateGoesWhereTheProductIsWithWhatWasChosen)
     // Another folder moves it; only the person's file stays in the former one.
     WriteFile(chosen + "/my video.avi", "of the person");
     Install(FRONTEND_FOLDER, "newer", {"/D=" + QFileInfo(product).path(), "/SHORTCUTS=yes"});
+    EXPECT_EQ(LeftBeside(chosen), QStringList("Vorlan Quillax"));
     EXPECT_EQ(ListTree(machine.Path("My Media")),
         QStringList({"Vorlan Quillax/", "Vorlan Quillax/my video.avi"}));
     EXPECT_EQ(ReadFile(product + "/libs/codec.dll"), "codec of newer");
