@@ -38,6 +38,8 @@ ResultPage::ResultPage(const QStringList& pictureLayers, ResultTexts texts)
     row->addWidget(icon);
     row->addWidget(heading, 1);
     Body()->addLayout(row);
+    if (!result.isDone) // long paths may need more lines than there are
+        MakeScrollable();
     text = AddText("resultText");
     text->setText(result.text);
     text->setHidden(result.text.isEmpty());
