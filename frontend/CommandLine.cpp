@@ -75,6 +75,7 @@ constexpr std::array allOptions{
     Flag("DOWNGRADE", &CommandLine::downgrade, "replace a newer version without a question"),
     Flag("REMOVEALL", &CommandLine::removeAll, "uninstall: remove additional modules and all data"),
     Flag("DELETESETTINGS", &CommandLine::deleteSettings, "uninstall: delete the user's settings"),
+    Flag("CLOSEAPPS", &CommandLine::closeApps, "silent: close programs that use the files"),
     Flag("IGNORE_MUTEX", &CommandLine::ignoreMutex, "run even beside another setup"),
     Flag("PROGRESS", &CommandLine::progress, "silent: show stages and a progress bar"),
     Flag("JSON", &CommandLine::json, "silent: print one line of JSON per event"),
@@ -85,6 +86,7 @@ constexpr std::array allOptions{
 
 constexpr const char* exitCodesHelp = R"(Exit codes:
   0     done
+  32    programs use the files (found before anything is changed)
   87    bad command line
   112   not enough disk space (found before anything is changed)
   1051  not uninstalled: other programs depend on this one

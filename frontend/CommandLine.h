@@ -28,6 +28,7 @@ struct CommandLine
     bool downgrade = false;
     bool removeAll = false;
     bool deleteSettings = false;
+    bool closeApps = false;
     bool ignoreMutex = false;
     bool progress = false;
     bool json = false;

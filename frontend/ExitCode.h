@@ -9,6 +9,7 @@ enum class ExitCode : int
 {
     Done = 0,
     BadCommandLine = 87,
+    FilesInUse = 32,               // by programs that were not closed; detected before the run
     DiskFull = 112,                // detected before the run
     DependentProgramsExist = 1051, // an uninstallation is refused because of other programs
     Cancelled = 1602,

@@ -90,6 +90,12 @@ std::unique_ptr<InstallerMediator> MakeInstaller(QSettings::Scope scope, bool is
         InstallerMediator::Initializer{programName, true, isUnattended, scope, true});
 }
 
+ObstacleRules RulesFor(InstallationSettings settings)
+{
+    ChooseFormerVersion(settings);
+    return InstallationRules(settings.installDir, FormerFolder(settings));
+}
+
 InstallResult InstallWith(
     InstallerMediator& mediator, InstallationSettings settings, const EventSink& sink)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Obstacles.h"
 #include "Outcome.h"
 #include "RunEvent.h"
 #include "base/InstallationSettings.h"
@@ -26,6 +27,9 @@ QString MissingArchiveText();
 // A mediator for an installation from this program's folder. Throws std::runtime_error when the
 // archive cannot be read.
 std::unique_ptr<InstallerMediator> MakeInstaller(QSettings::Scope scope, bool isUnattended);
+
+// What to do with programs that hold files which an installation with these settings changes.
+ObstacleRules RulesFor(InstallationSettings settings);
 
 // Result of an installation, and the paths of files that are not the product's and could not get
 // their places back, because the product has a file of that name.

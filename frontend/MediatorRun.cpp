@@ -1,11 +1,15 @@
 #include "MediatorRun.h"
 
+#include "Await.h"
+#include "FailureCause.h"
+#include "LogTail.h"
 #include "MediatorEvents.h"
 
 #include "installer/InstallerMediator.h"
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QDir>
 #include <QEventLoop>
 #include <QTranslator>
 
@@ -21,6 +25,27 @@ ExitCode CodeOf(const QString& errorText)
     const QString failure = QCoreApplication::translate("Vorlan::InstallerMediator",
         "Installation failed. Try to select another location and run install again.");
     return errorText == failure ? ExitCode::Failed : ExitCode::DependentProgramsExist;
+}
+
+FailedRun DescribeRun(const InstallerMediator& mediator, void (InstallerMediator::*start)())
+{
+    const InstallationSettings settings = mediator.GetSettings();
+    FailedRun run;
+    run.isUninstallation = start == &InstallerMediator::StartUninstall;
+    run.folder = QDir::fromNativeSeparators(
+        run.isUninstallation ? QCoreApplication::applicationDirPath() : settings.installDir);
+    run.locale = settings.locale;
+    run.neededBytes = settings.requiredSpace;
+    return run;
+}
+
+Outcome Explained(FailedRun run, const QString& engineText)
+{
+    run.engineText = engineText;
+    const Explanation explanation =
+        Await([run] { return ExplainFailure(run, SystemFailureProbe()); });
+    return {ExitCode::Failed, QString(explanation.cause + ' ' + explanation.advice).trimmed(),
+        explanation};
 }
 
 } // namespace
@@ -43,13 +68,19 @@ std::unique_ptr<QTranslator> InstallTranslation(const QString& locale)
 Outcome RunToTheEnd(
     InstallerMediator& mediator, void (InstallerMediator::*start)(), const EventSink& sink)
 {
+    const LogTail log;
     QEventLoop loop;
     Outcome outcome;
+    FailedRun run = DescribeRun(mediator, start);
     ConnectEvents(mediator, loop,
         [&](const RunEvent& event)
         {
             sink(event);
-            if (const auto* error = std::get_if<Events::InstallationError>(&event))
+            if (const auto* started = std::get_if<Events::ProcessStarted>(&event))
+                run.stage = QString::fromStdString(started->stage);
+            else if (const auto* problem = std::get_if<Events::CopyFileError>(&event))
+                run.copyErrors << problem->reason;
+            else if (const auto* error = std::get_if<Events::InstallationError>(&event))
             {
                 outcome = {CodeOf(error->text), error->text};
                 loop.quit();
@@ -61,7 +92,8 @@ Outcome RunToTheEnd(
         });
     (mediator.*start)();
     loop.exec();
-    return outcome;
+    run.logLines = log.Lines();
+    return outcome.code == ExitCode::Failed ? Explained(run, outcome.error) : outcome;
 }
 
 } // namespace Vorlan::FrontEnd

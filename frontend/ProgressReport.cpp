@@ -33,11 +33,11 @@ ProgressReport::ProgressReport(std::ostream& stream, bool isTerminal)
 
 void ProgressReport::Show(const RunEvent& event)
 {
-    if (const auto* started = std::get_if<Events::ProcessStarted>(&event))
+    if (steps.Show(event))
     {
-        ShowStage(QString::fromStdString(started->stage));
+        ShowStage(steps.Stage());
     }
-    else if (const auto* progress = std::get_if<Events::InstallationProgress>(&event))
+    if (const auto* progress = std::get_if<Events::InstallationProgress>(&event))
     {
         ShowProgress(progress->fraction);
     }
@@ -63,8 +63,8 @@ void ProgressReport::ShowStage(const QString& stageId)
 
 void ProgressReport::ShowProgress(double fraction)
 {
-    const int steps = terminal ? 100 : 10;
-    const int step = static_cast<int>(Bounded(fraction) * steps);
+    const int parts = terminal ? 100 : 10;
+    const int step = static_cast<int>(Bounded(fraction) * parts);
     if (step == shownStep)
     {
         return;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "RunEvent.h"
+#include "RunSteps.h"
 
 #include <iosfwd>
 
@@ -27,6 +28,7 @@ private:
 
     std::ostream& out;
     bool terminal;
+    RunSteps steps;
     bool barIsOpen = false;
     int shownStep = -1;
 };

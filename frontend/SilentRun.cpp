@@ -4,6 +4,7 @@
 #include "InstallRun.h"
 #include "MachineAccess.h"
 #include "MediatorRun.h"
+#include "Obstacles.h"
 #include "OwnFolder.h"
 #include "UninstallRun.h"
 #include "WebUserId.h"
@@ -75,6 +76,11 @@ Outcome InstallWithOptions(InstallerMediator& mediator, const FoundInstallations
     {
         return refusal;
     }
+    refusal = RemoveObstacles(RulesFor(settings), options.closeApps, SystemProcesses());
+    if (refusal.code != ExitCode::Done)
+    {
+        return refusal;
+    }
     settings.userInfo.webUid = FindWebUid(mediator, options);
     return InstallWith(mediator, settings, sink).outcome;
 }
@@ -123,6 +129,12 @@ Outcome UninstallSilently(const CommandLine& options, const EventSink& sink)
     }
     const auto mediator = MakeUninstaller(own.scope, options, true);
     const auto translator = InstallTranslation(mediator->GetSettings().locale);
+    const Outcome refusal =
+        RemoveObstacles(UninstallationRules(folder), options.closeApps, SystemProcesses());
+    if (refusal.code != ExitCode::Done)
+    {
+        return refusal;
+    }
     return UninstallWith(*mediator, folder, options, sink).outcome;
 }
 

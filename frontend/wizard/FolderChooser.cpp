@@ -5,11 +5,9 @@
 
 #include <QDir>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStorageInfo>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -19,14 +17,7 @@ namespace
 {
 
 constexpr int longestPath = 32767; // limit of Windows
-
-qint64 FreeSpace(const QString& folder)
-{
-    QFileInfo existing(QDir::cleanPath(folder));
-    while (!existing.exists() && !existing.isRoot())
-        existing.setFile(existing.path());
-    return QStorageInfo(existing.absoluteFilePath()).bytesAvailable();
-}
+constexpr int patienceMs = 500;
 
 QString WithoutEnd(const QString& folder)
 {
@@ -38,6 +29,8 @@ QString WithoutEnd(const QString& folder)
 FolderChooser::FolderChooser(const InstallationSettings& proposal, QWidget* parent)
     : QWidget(parent),
       settings(proposal),
+      check([needed = proposal.requiredSpace](const QString& path)
+          { return ExamineFolder(path, needed); }),
       folderLabel(new QLabel(this)),
       folder(new QLineEdit(WithoutEnd(proposal.installDir), this)),
       browse(new QPushButton(this)),
@@ -66,8 +59,13 @@ FolderChooser::FolderChooser(const InstallationSettings& proposal, QWidget* pare
     column->addLayout(row);
     for (QWidget* line : {error, static_cast<QLabel*>(target), space})
         column->addWidget(line);
-    connect(folder, &QLineEdit::textChanged, this, [this] { Check(); });
+    connect(folder, &QLineEdit::textChanged, this, [this] { Examine(); });
     connect(browse, &QPushButton::clicked, this, [this] { Browse(); });
+    patience.setSingleShot(true);
+    patience.setInterval(patienceMs);
+    connect(&patience, &QTimer::timeout, this,
+        [this] { space->setText(WizardText("The folder is being checked...")); });
+    check.finished = [this] { ShowState(); };
 }
 
 void FolderChooser::Retranslate(const QString& newLocale)
@@ -76,7 +74,12 @@ void FolderChooser::Retranslate(const QString& newLocale)
     folderLabel->setText(WizardText("&Folder:"));
     folder->setAccessibleName(QString(folderLabel->text()).remove('&').remove(':'));
     browse->setText(WizardText("B&rowse..."));
-    Check();
+    Examine();
+}
+
+bool FolderChooser::IsValid() const
+{
+    return check.IsRunning() || check.State().objection.isEmpty();
 }
 
 void FolderChooser::Propose(const QString& proposed)
@@ -100,29 +103,49 @@ void FolderChooser::Browse()
         folder->setText(WithoutEnd(settings.GetFilteredDirectory(chosen)));
 }
 
-void FolderChooser::Check()
+void FolderChooser::Examine()
 {
-    QString objection;
-    isValid = InstallationSettings::IsValidPath(
-        Folder(), static_cast<long long>(settings.requiredSpace), objection);
-    error->setText(objection);
-    error->setVisible(!objection.isEmpty());
-    folder->setProperty("isWrong", !isValid);
-    folder->style()->unpolish(folder); // applies the rules for the property
-    folder->style()->polish(folder);
-    folder->setAccessibleDescription(objection);
+    check.Begin(Folder());
+    patience.start();
+    setProperty("isExamining", true);
+    ShowTarget();
+    checked();
+}
+
+void FolderChooser::WhenExamined(const std::function<void(bool)>& function)
+{
+    check.WhenKnown([function](const FolderState& state) { function(state.objection.isEmpty()); });
+}
+
+void FolderChooser::ShowTarget()
+{
     const QString place = WithoutEnd(Folder());
     target->setText(WizardText("Will be installed in: %1").arg(PathText(place)));
     target->setToolTip(place);
+}
+
+void FolderChooser::ShowState()
+{
+    const QString& objection = check.State().objection;
+    patience.stop();
+    setProperty("isExamining", false);
+    error->setText(objection);
+    error->setVisible(!objection.isEmpty());
+    folder->setProperty("isWrong", !objection.isEmpty());
+    folder->style()->unpolish(folder); // applies the rules for the property
+    folder->style()->polish(folder);
+    folder->setAccessibleDescription(objection);
     ShowSpace();
     checked();
 }
 
 void FolderChooser::ShowSpace()
 {
-    const auto needed = static_cast<qint64>(settings.requiredSpace);
-    space->setText(WizardText("Space needed: %1. Free there: %2.")
-                       .arg(SizeText(needed, locale), SizeText(FreeSpace(Folder()), locale)));
+    const QString needed = SizeText(static_cast<qint64>(settings.requiredSpace), locale);
+    const std::optional<qint64>& free = check.State().freeBytes;
+    space->setText(
+        free ? WizardText("Space needed: %1. Free there: %2.").arg(needed, SizeText(*free, locale))
+             : WizardText("Space needed: %1.").arg(needed));
 }
 
 } // namespace Vorlan::FrontEnd

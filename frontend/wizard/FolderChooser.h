@@ -1,7 +1,9 @@
 #pragma once
 
 #include "base/InstallationSettings.h"
+#include "wizard/FolderCheck.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -13,8 +15,8 @@ class QPushButton;
 namespace Vorlan::FrontEnd
 {
 
-// The choice of the installation folder. The engine validates the text while it is edited; its
-// error text is shown below the field.
+// The choice of the installation folder. It is examined while it is edited, on another thread; what
+// objects to it is shown below the field.
 class FolderChooser : public QWidget
 {
 public:
@@ -22,26 +24,32 @@ public:
     FolderChooser(const InstallationSettings& settings, QWidget* parent);
 
     void Retranslate(const QString& locale);
-    bool IsValid() const { return isValid; }
+    // As long as the folder is examined, it counts as usable: see WhenExamined.
+    bool IsValid() const;
 
     // Proposes another folder, unless the user has changed the one before.
     void Propose(const QString& folder);
-    // Validates the folder again, because the disk may have changed.
-    void Check();
+    // Examines the folder again, because the disk may have changed.
+    void Examine();
+    // Calls the function with whether the folder is usable, as soon as that is known.
+    void WhenExamined(const std::function<void(bool)>& function);
 
     // The installation folder for the typed text.
     QString Folder() const;
 
-    // Called after each validation.
+    // Called when an examination begins and when it has ended.
     std::function<void()> checked = [] {};
 
 private:
     void Browse();
+    void ShowTarget();
+    void ShowState();
     void ShowSpace();
 
     InstallationSettings settings;
     QString locale;
-    bool isValid = false;
+    FolderCheck check;
+    QTimer patience; // until it is said that the folder is still examined
     QLabel* folderLabel;
     QLineEdit* folder;
     QPushButton* browse;

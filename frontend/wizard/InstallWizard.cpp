@@ -1,5 +1,6 @@
 #include "wizard/InstallWizard.h"
 
+#include "Await.h"
 #include "InstallOptions.h"
 #include "MachineAccess.h"
 #include "WebUserId.h"
@@ -7,7 +8,9 @@
 #include "installer/InstallerMediator.h"
 #include "widgets/AlertBox.h"
 #include "widgets/MultiLayerBackgroundFrame.h"
+#include "wizard/CloseWithConsent.h"
 #include "wizard/FolderChooser.h"
+#include "wizard/InUsePage.h"
 #include "wizard/OptionsPage.h"
 #include "wizard/ProgressPage.h"
 #include "wizard/ResultPage.h"
@@ -29,6 +32,12 @@ QString LicenceTemplate()
 {
     return QStringLiteral("https://links.") + ProductProfile::vendorDomain +
            QStringLiteral("/license/?app=<APP>&module=installer&version=<VERSION>&lang=<LANG>");
+}
+
+// The required space is that of the payload and two per cent.
+quint64 PayloadBytes(const InstallationSettings& settings)
+{
+    return settings.requiredSpace * 100 / 102;
 }
 
 } // namespace
@@ -59,9 +68,10 @@ void InstallWizard::MakePages()
     start = new StartPage(settings.locale, found);
     optionsPage = new OptionsPage(
         settings, {!ProductProfile::autoLaunchExecutable.isEmpty(), !settings.statisticsKeyExists});
+    inUse = new InUsePage(LayerSets::installerWithTaglines);
     progress =
         new ProgressPage(LayerSets::installProgress, QT_TRANSLATE_NOOP("Wizard", "Installing %1"));
-    for (Page* page : std::initializer_list<Page*>{start, optionsPage, progress})
+    for (Page* page : std::initializer_list<Page*>{start, optionsPage, inUse, progress})
         window.Add(page);
     start->languageChosen = [this](const QString& locale) { SetLanguage(locale); };
     start->linkFollowed = [this](const QString& target) { FollowLink(target); };
@@ -76,6 +86,8 @@ Page* InstallWizard::PageOf(Step which) const
         return start;
     case Step::Options:
         return optionsPage;
+    case Step::InUse:
+        return inUse;
     case Step::Running:
         return progress;
     case Step::Done:
@@ -117,6 +129,9 @@ ButtonBar::Labels InstallWizard::Labels() const
         return {WizardText("&Options"), WizardText("Cancel"), InstallLabel()};
     case Step::Options:
         return {WizardText("&Back"), WizardText("Cancel"), InstallLabel()};
+    case Step::InUse:
+        return {
+            WizardText("&Try again"), WizardText("Cancel"), WizardText("&Close them and go on")};
     case Step::Running:
         return {};
     case Step::Done:
@@ -130,15 +145,26 @@ ButtonBar::Labels InstallWizard::Labels() const
 void InstallWizard::GoForward()
 {
     if (step == Step::Done)
+    {
         Finish();
+    }
+    else if (step == Step::InUse)
+    {
+        CloseWithConsent(window, *inUse, ProcessesOfAnActiveWindow());
+        CheckFilesInUse();
+    }
     else if (step != Step::Running)
+    {
         Install();
+    }
 }
 
 void InstallWizard::GoBack()
 {
     if (step == Step::Options)
         GoTo(Step::Start);
+    else if (step == Step::InUse)
+        CheckFilesInUse();
     else
         GoTo(Step::Options);
 }
@@ -151,8 +177,10 @@ void InstallWizard::RequestClose()
     }
     else if (step == Step::Running)
     {
-        AlertBox::info(&window, WizardText("The installation cannot be stopped now: files and "
-                                           "settings are being changed. It ends in a moment."));
+        const QString text =
+            WizardText("The installation cannot be stopped now: files and settings "
+                       "are being changed. Close the window when it has ended.");
+        AlertBox::info(&window, (text + "\n\n" + progress->Status()).trimmed());
     }
     else if (AlertBox::question(
                  &window, WizardText("Cancel the installation of %1?").arg(ProductTitle())) ==
@@ -187,10 +215,13 @@ void InstallWizard::Install()
         return;
     if (optionsPage->Scope() == QSettings::SystemScope && !CanChangeMachine())
         return RelaunchWithRights();
-    optionsPage->Folder().Check();
-    if (!optionsPage->IsComplete())
-        return GoTo(Step::Options);
-    RunInstallation();
+    optionsPage->Folder().Examine();
+    optionsPage->Folder().WhenExamined(
+        [this, before = step](bool isUsable)
+        {
+            if (step == before)
+                isUsable ? CheckFilesInUse() : GoTo(Step::Options);
+        });
 }
 
 bool InstallWizard::IsReplacementWanted()
@@ -269,16 +300,26 @@ QString InstallWizard::AskForWebUid() const
     return answer.result();
 }
 
-void InstallWizard::RunInstallation()
+void InstallWizard::CheckFilesInUse()
 {
     if (optionsPage->Scope() != scope)
     {
         scope = optionsPage->Scope();
         mediator = MakeInstaller(scope, false);
     }
-    InstallationSettings settings = ChosenSettings();
-    progress->Clear();
+    const InstallationSettings settings = ChosenSettings();
+    progress->Begin(PayloadBytes(settings));
     GoTo(Step::Running);
+    const std::vector<FileHolder> holders =
+        Await([rules = RulesFor(settings)] { return FindObstacles(rules); });
+    if (holders.empty())
+        return RunInstallation(settings);
+    inUse->ShowPrograms(holders);
+    GoTo(Step::InUse);
+}
+
+void InstallWizard::RunInstallation(InstallationSettings settings)
+{
     settings.userInfo.webUid = AskForWebUid();
     ShowResult(InstallWith(*mediator, settings,
         [this](const RunEvent& event)
@@ -300,6 +341,7 @@ QStringList InstallWizard::NotesOn(const InstallResult& result) const
 
 void InstallWizard::ShowResult(const InstallResult& result)
 {
+    progress->End();
     runOutcome = result.outcome;
     found = FindInstallations(); // for another attempt
     ResultTexts shown;
@@ -309,11 +351,13 @@ void InstallWizard::ShowResult(const InstallResult& result)
     shown.canStart = shown.isDone;
     shown.headingText = shown.isDone ? QT_TRANSLATE_NOOP("Wizard", "%1 is installed")
                                      : QT_TRANSLATE_NOOP("Wizard", "%1 could not be installed");
-    if (!shown.isDone)
-        shown.text =
-            runOutcome.error + "\n\n" + WizardText("Log file: %1").arg(PathText(options.logFile));
-    else if (shown.list.isEmpty())
+    if (shown.isDone && shown.list.isEmpty())
         shown.text = WizardText("Everything is in its place. You can begin right away.");
+    if (!shown.isDone)
+    {
+        shown.text = FailureText(runOutcome, options.logFile);
+        shown.logFile = options.logFile;
+    }
     delete resultPage;
     resultPage = new ResultPage(
         shown.isDone ? LayerSets::installerWithTaglines : LayerSets::installProgress, shown);

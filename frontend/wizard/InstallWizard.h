@@ -15,6 +15,7 @@ class InstallerMediator;
 namespace Vorlan::FrontEnd
 {
 
+class InUsePage;
 class OptionsPage;
 class ProgressPage;
 class ResultPage;
@@ -34,6 +35,7 @@ private:
     {
         Start,
         Options,
+        InUse,
         Running,
         Done,
         Failed
@@ -58,8 +60,9 @@ private:
     void RelaunchWithRights();
     InstallationSettings Proposal() const;
     InstallationSettings ChosenSettings() const;
+    void CheckFilesInUse();
     QString AskForWebUid() const;
-    void RunInstallation();
+    void RunInstallation(InstallationSettings settings);
     QStringList NotesOn(const InstallResult& result) const;
     void ShowResult(const InstallResult& result);
     void Finish();
@@ -73,6 +76,7 @@ private:
     Outcome runOutcome;
     StartPage* start = nullptr;
     OptionsPage* optionsPage = nullptr;
+    InUsePage* inUse = nullptr;
     ProgressPage* progress = nullptr;
     ResultPage* resultPage = nullptr;
 };

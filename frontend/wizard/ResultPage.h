@@ -1,9 +1,11 @@
 #pragma once
 
+#include "Outcome.h"
 #include "wizard/Page.h"
 
 class QCheckBox;
 class QListWidget;
+class QPushButton;
 
 namespace Vorlan::FrontEnd
 {
@@ -17,8 +19,12 @@ struct ResultTexts
     const char* linkText = "";    // in English, rich text; may be empty
     QString listText;             // above the list
     QStringList list;             // may be empty
+    QString logFile;              // that a button opens; may be empty
     bool canStart = false;        // offers to start the installed program
 };
+
+// Cause of a failure, what the machine is now, what to do, and where the log is: a paragraph each.
+QString FailureText(const Outcome& outcome, const QString& logFile);
 
 // The last page.
 class ResultPage : public Page
@@ -34,11 +40,13 @@ public:
 
 private:
     void AddList();
+    void OpenLog();
 
     ResultTexts result;
     QLabel* icon;
     QLabel* heading;
     QLabel* text;
+    QPushButton* openLog;
     QCheckBox* start;
     QLabel* link;
 };

@@ -1,9 +1,13 @@
 #include "wizard/UninstallWizard.h"
 
+#include "Await.h"
 #include "FoundInstallations.h"
+#include "Obstacles.h"
 #include "installer/InstallerMediator.h"
 #include "widgets/AlertBox.h"
 #include "widgets/MultiLayerBackgroundFrame.h"
+#include "wizard/CloseWithConsent.h"
+#include "wizard/InUsePage.h"
 #include "wizard/OtherFolderPage.h"
 #include "wizard/ProgressPage.h"
 #include "wizard/ResultPage.h"
@@ -40,9 +44,11 @@ UninstallWizard::UninstallWizard(const QString& ownFolder, const OwnFolder& exam
     SetLanguage(mediator->GetSettings().locale);
     runOutcome = {ExitCode::Cancelled, UninstallText("Cancelled: nothing was deleted.")};
     start = new UninstallStartPage(Plan());
+    inUse = new InUsePage(LayerSets::uninstallStart);
     progress = new ProgressPage(
         LayerSets::uninstallProgress, QT_TRANSLATE_NOOP("Wizard", "Uninstalling %1"));
     window.Add(start);
+    window.Add(inUse);
     window.Add(progress);
     if (own.refusal.isEmpty())
     {
@@ -84,44 +90,70 @@ ButtonBar::Labels UninstallWizard::Labels() const
             CopiedFiles() == 0 ? QString() : UninstallText("&Delete %1 files").arg(CopiedFiles())};
     case Step::Start:
         return {{}, WizardText("Cancel"), UninstallText("&Uninstall")};
+    case Step::InUse:
+        return {
+            WizardText("&Try again"), WizardText("Cancel"), WizardText("&Close them and go on")};
     case Step::Running:
         return {};
     case Step::Over:
         break;
     }
-    return {{}, {}, WizardText("&Finish")};
+    if (runOutcome.code == ExitCode::Done)
+        return {{}, {}, WizardText("&Finish")};
+    return {{}, WizardText("Close"), WizardText("&Try again")};
 }
 
 void UninstallWizard::GoForward()
 {
-    if (step == Step::OtherFolder)
-        DeleteCopy();
-    else if (step == Step::Start)
-        Uninstall();
-    else if (step == Step::Over)
-        Leave(runOutcome);
+    switch (step)
+    {
+    case Step::OtherFolder:
+        return DeleteCopy();
+    case Step::InUse:
+        CloseWithConsent(window, *inUse, ProcessesOfAnActiveWindow());
+        return CheckFilesInUse();
+    case Step::Start:
+        return CheckFilesInUse();
+    case Step::Running:
+        return;
+    case Step::Over:
+        return runOutcome.code == ExitCode::Done ? Leave(runOutcome) : CheckFilesInUse();
+    }
 }
 
 void UninstallWizard::GoBack()
 {
+    if (step == Step::InUse)
+        return CheckFilesInUse();
     StartUninstaller(own.installed);
     Leave(runOutcome);
 }
 
 void UninstallWizard::RequestClose()
 {
-    if (step == Step::Running)
-        AlertBox::info(&window, UninstallText("The uninstallation cannot be stopped now: files and "
-                                              "settings are being removed. It ends in a moment."));
-    else
-        Leave(runOutcome);
+    if (step != Step::Running)
+        return Leave(runOutcome);
+    const QString text =
+        UninstallText("The uninstallation cannot be stopped now: files and settings "
+                      "are being removed. Close the window when it has ended.");
+    AlertBox::info(&window, (text + "\n\n" + progress->Status()).trimmed());
+}
+
+void UninstallWizard::CheckFilesInUse()
+{
+    progress->Begin(0);
+    GoTo(Step::Running, progress);
+    const std::vector<FileHolder> holders =
+        Await([rules = UninstallationRules(folder)] { return FindObstacles(rules); });
+    if (holders.empty())
+        return Uninstall();
+    inUse->ShowPrograms(holders);
+    GoTo(Step::InUse, inUse);
 }
 
 void UninstallWizard::Uninstall()
 {
     options.deleteSettings = start->IsDeletingSettings();
-    progress->Clear();
-    GoTo(Step::Running, progress);
     const UninstallResult result = UninstallWith(*mediator, folder, options,
         [this](const RunEvent& event)
         {
@@ -147,6 +179,7 @@ void UninstallWizard::DeleteCopy()
 
 void UninstallWizard::ShowResult(const UninstallResult& result)
 {
+    progress->End();
     ResultTexts shown;
     shown.isDone = runOutcome.code == ExitCode::Done;
     if (shown.isDone && step == Step::OtherFolder)
@@ -161,11 +194,12 @@ void UninstallWizard::ShowResult(const UninstallResult& result)
     else
     {
         shown.headingText = QT_TRANSLATE_NOOP("Wizard", "%1 could not be uninstalled");
-        shown.text =
-            runOutcome.error + "\n\n" + WizardText("Log file: %1").arg(PathText(options.logFile));
+        shown.text = FailureText(runOutcome, options.logFile);
+        shown.logFile = options.logFile;
     }
     shown.listText = UninstallText("Left in %1:").arg(PathText(QDir::toNativeSeparators(folder)));
     shown.list = result.staying;
+    delete resultPage;
     resultPage = new ResultPage(LayerSets::uninstallStart, shown);
     resultPage->linkFollowed = [this] { mediator->OpenUrl(InstallerMediator::URL::UninstallPage); };
     window.Add(resultPage);

@@ -15,6 +15,7 @@ class InstallerMediator;
 namespace Vorlan::FrontEnd
 {
 
+class InUsePage;
 class ProgressPage;
 class ResultPage;
 
@@ -32,6 +33,7 @@ private:
     {
         OtherFolder,
         Start,
+        InUse,
         Running,
         Over
     };
@@ -44,6 +46,7 @@ private:
     void GoTo(Step step, Page* page);
     UninstallPlan Plan() const;
     int CopiedFiles() const;
+    void CheckFilesInUse();
     void Uninstall();
     void DeleteCopy();
     void ShowResult(const UninstallResult& result);
@@ -58,6 +61,7 @@ private:
     Outcome runOutcome; // before the end of a run: cancelled
     Page* otherFolder = nullptr;
     UninstallStartPage* start = nullptr;
+    InUsePage* inUse = nullptr;
     ProgressPage* progress = nullptr;
     ResultPage* resultPage = nullptr;
 };

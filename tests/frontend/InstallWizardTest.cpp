@@ -1,6 +1,7 @@
 #include "wizard/InstallWizard.h"
 #include "registry/RegistrySettings.h"
 #include "support/ArchiveBesideProgram.h"
+#include "support/ChildProgram.h"
 #include "support/Machine.h"
 #include "support/WizardDriver.h"
 #include "widgets/ButtonWithIcon.h"
@@ -10,6 +11,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDesktopServices>
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,6 +20,7 @@
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -28,6 +31,21 @@ using namespace Vorlan::FrontEnd;
 
 namespace
 {
+
+// The system's viewer for files.
+class LogViewer : public QObject
+{
+    Q_OBJECT
+
+public:
+    LogViewer() { QDesktopServices::setUrlHandler("file", this, "Show"); }
+    ~LogViewer() override { QDesktopServices::unsetUrlHandler("file"); }
+
+    QStringList shown;
+
+public slots:
+    void Show(const QUrl& url) { shown << url.toLocalFile(); }
+};
 
 // A wizard with a payload in the test program's folder, and its own machine root.
 class InstallWizardTest : public testing::Test
@@ -187,13 +205,17 @@ TEST_F(InstallWizardTest, ClosingAsksBeforeTheRunAndIsDeclinedDuringIt)
             GoToOptions();
     }
     QStringList declined;
-    QTimer::singleShot(0, &wizard->Window(),
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout,
         [&]
         {
-            ASSERT_EQ(driver->PageName(), "progressPage");
+            if (driver->PageName() != "progressPage" || !declined.isEmpty())
+                return;
+            look.stop();
             declined << driver->WithBox([this] { driver->Press(Qt::Key_Escape); });
             declined << driver->WithBox([this] { wizard->Window().close(); });
         });
+    look.start(0);
     driver->Press(Qt::Key_Return);
     ASSERT_EQ(declined.size(), 2);
     EXPECT_TRUE(declined[0].startsWith("The installation cannot be stopped now"));
@@ -223,6 +245,7 @@ TEST_F(InstallWizardTest, TheFolderIsValidatedWhileItIsEdited)
     EXPECT_EQ(ErrorFor(machine.Path("a file")), refused);
     EXPECT_EQ(ErrorFor("relative"), refused);
     driver->Find<QLineEdit>("folder")->setText(machine.Path(QString("long/").repeated(3000)));
+    driver->WaitForExamination();
     EXPECT_FALSE(driver->Find<QLabel>("error")->isVisible());
     const QString rightToLeft = machine.Path(QString::fromUtf8("תיקייה ותוכנה"));
     EXPECT_EQ(ErrorFor(rightToLeft), QString());
@@ -278,17 +301,65 @@ TEST_F(InstallWizardTest, AFailureIsShownAndTheRunCanBeRepeated)
     WriteFile(machine.Path("damaged.7z"), damaged);
     options.logFile = "the.log";
     Start("damaged.7z");
+    GoToOptions();
     for (int attempt = 1; attempt <= 2; ++attempt)
     {
-        driver->Press(Qt::Key_Return);
+        driver->Press(Qt::Key_Return); // then the same without any page
         ASSERT_EQ(driver->PageName(), "resultPage");
         EXPECT_EQ(Count<Events::InstallationError>(), attempt);
-        EXPECT_TRUE(driver->Find<QLabel>("resultText")->text().contains("the.log"));
+        const QString text = driver->Find<QLabel>("resultText")->text();
+        for (const char* part : {"InstallerData.7z", "damaged", "is incomplete",
+                 "Download the "
+                 "setup again.",
+                 "the.log"})
+            EXPECT_TRUE(text.contains(part)) << part << " in " << text.toStdString();
         EXPECT_FALSE(driver->Find<QCheckBox>("startNow")->isVisible());
     }
+    EXPECT_TRUE(driver->WithBox([this] { driver->Click("openLog"); }).contains("cannot be opened"));
+    WriteFile(options.logFile, "the log");
+    LogViewer viewer;
+    driver->Click("openLog");
+    EXPECT_EQ(viewer.shown, QStringList(QFileInfo(options.logFile).absoluteFilePath()));
     driver->Press(Qt::Key_Escape);
     EXPECT_TRUE(wizard->IsOver());
     EXPECT_EQ(wizard->Result().code, ExitCode::Failed);
+}
+
+TEST_F(InstallWizardTest, ProgramsThatUseTheFilesAreListedAndClosedBeforeTheRun)
+{
+    ChildProgram quill(Folder() + "/quill.exe", "wait");
+    ChildProgram tool(Folder() + "/tools/tool.exe", "wait");
+    quill.Start();
+    tool.Start();
+    Start();
+    GoToOptions();
+    driver->Press(Qt::Key_Return);
+    ASSERT_EQ(driver->PageName(), "inUsePage");
+    QStringList lines;
+    const auto* list = driver->Find<QListWidget>("programs");
+    for (int row = 0; row < list->count(); ++row)
+        lines << list->item(row)->text();
+    QStringList expected{QString("quill.exe, process %1 (without a window)").arg(quill.Id()),
+        QString("tool.exe, process %1 (without a window)").arg(tool.Id())};
+    lines.sort();
+    expected.sort();
+    EXPECT_EQ(lines, expected);
+    driver->Click("back"); // tries again
+    EXPECT_EQ(driver->PageName(), "inUsePage");
+    EXPECT_TRUE(events.empty() && quill.IsRunning() && tool.IsRunning());
+    const auto closeThem = [this] { driver->Click("forward"); };
+    if (QSysInfo::kernelType() == "winnt") // where a program without a window cannot be asked
+    {
+        EXPECT_TRUE(driver->WithBox(closeThem).contains("What is not saved in them is lost."));
+        EXPECT_TRUE(quill.IsRunning());
+        driver->WithBox(closeThem, [](QWidget& box)
+            { QTest::mouseClick(box.findChild<QWidget*>("confirmationButton"), Qt::LeftButton); });
+    }
+    else
+        closeThem();
+    EXPECT_EQ(driver->PageName(), "resultPage");
+    EXPECT_TRUE(quill.HasEnded() && tool.HasEnded());
+    EXPECT_EQ(Count<Events::InstallationFinished>(), 1);
 }
 
 TEST(ProgressPageTest, ShowsThePositionAndListsFilesThatCouldNotBeCopied)
@@ -297,7 +368,7 @@ TEST(ProgressPageTest, ShowsThePositionAndListsFilesThatCouldNotBeCopied)
     page.Retranslate("en_US");
     page.Show(Events::ProcessStarted{"EXTRACT_FILES"});
     page.Show(Events::InstallationProgress{0.456, {}, {}});
-    EXPECT_EQ(page.findChild<QLabel*>("step")->text(), "Placing the files...");
+    EXPECT_EQ(page.findChild<QLabel*>("step")->text(), "Step 1 of 3: Placing the files...");
     EXPECT_EQ(page.findChild<QLabel*>("percent")->text(), "46 %");
     EXPECT_EQ(page.findChild<QProgressBar*>("bar")->value(), 456);
     page.Show(Events::InstallationProgress{7.0, "Data", {}});
@@ -311,6 +382,32 @@ TEST(ProgressPageTest, ShowsThePositionAndListsFilesThatCouldNotBeCopied)
     texts.list = page.CopyErrors();
     const ResultPage result(QStringList(), texts);
     EXPECT_EQ(result.findChild<QListWidget*>("list")->item(0)->text(), "a.dll: in use");
+}
+
+TEST(ProgressPageTest, ShowsBytesSpeedAndTimeLeftAndNumbersTheStepsThatHappen)
+{
+    double seconds = 0;
+    ProgressPage page(QStringList(), "Installing %1", [&] { return seconds; });
+    page.Retranslate("en_US");
+    page.Begin(1024 * 1024);
+    const auto text = [&](const char* name) { return page.findChild<QLabel*>(name)->text(); };
+    EXPECT_EQ(text("step"), "Preparing...");
+    EXPECT_EQ(text("percent"), "") << "nothing is known yet";
+    page.Show(Events::ProcessStarted{"REMOVE_PREVIOUS_VERSION"});
+    EXPECT_EQ(text("step"), "Preparing...") << "there may be no previous version";
+    page.Show(Events::InstallationProgress{0.0, {}, "Uninstalling a previous version"});
+    EXPECT_EQ(text("step"), "Step 1 of 4: Removing the previous version...");
+    page.Show(Events::ProcessStarted{"EXTRACT_FILES"});
+    EXPECT_EQ(text("step"), "Step 2 of 4: Placing the files...");
+    for (; seconds <= 4; seconds += 0.5)
+        page.Show(Events::InstallationProgress{(seconds + 1) / 10, {}, {}});
+    EXPECT_EQ(text("measures").remove(QChar(0xb7)).simplified(),
+        "512.0 kB of 1.0 MB 102.4 kB per second About 5 s left");
+    EXPECT_EQ(page.Status(), "Step 2 of 4: Placing the files... About 5 s left");
+    page.Show(Events::ProcessStarted{"UPDATE_REGISTRY"});
+    EXPECT_EQ(text("step"), "Step 3 of 4: Registering the program...");
+    EXPECT_EQ(text("measures"), "") << "nobody knows how long that takes";
+    EXPECT_EQ(page.Status(), "Step 3 of 4: Registering the program...");
 }
 
 TEST_F(InstallWizardTest, TheLanguageChangesAllTextsImmediately)
@@ -330,3 +427,5 @@ TEST_F(InstallWizardTest, TheLanguageChangesAllTextsImmediately)
 }
 
 } // namespace
+
+#include "InstallWizardTest.moc"

@@ -61,6 +61,15 @@ TEST(ProgressReportTest, AStageMayBeginAtALowerPosition)
         bar + "\nPlacing the files...\n" + RenderBar(1.0).toStdString() + "\n" + bar + "\n");
 }
 
+TEST(ProgressReportTest, TheRemovalOfAPreviousVersionIsAStageOnlyWhereThereIsOne)
+{
+    const Events::ProcessStarted removing{"REMOVE_PREVIOUS_VERSION"};
+    EXPECT_EQ(Shown(false, {removing, extracting}), "Placing the files...\n");
+    EXPECT_EQ(Shown(false, {removing, Progress(0.0), extracting}),
+        "Removing the previous version...\n" + RenderBar(0.0).toStdString() +
+            "\nPlacing the files...\n");
+}
+
 TEST(ProgressReportTest, ProblemsAndUnknownStagesArePrinted)
 {
     EXPECT_EQ(

@@ -123,7 +123,7 @@ TEST_F(SilentRunTest, ARunThatFailsIsOneLineInTheChosenLanguage)
     setup.AddProgram("resources/locales/fr_FR/InstallerGUI_fr_FR.qm");
     const auto result = setup.Start({"/S", "/LANG=fr_FR"});
     EXPECT_EQ(result.exitCode, failed);
-    ExpectOneLineWith(result, QString::fromUtf8("L'installation a échoué."));
+    ExpectOneLineWith(result, QString::fromUtf8("est endommagé ou incomplet."));
     EXPECT_TRUE(ReadFile(LogNamedIn(result.errors)).contains("warning  Error "));
 }
 
@@ -140,6 +140,24 @@ TEST_F(SilentRunTest, ASetupInItsOwnDestinationEndsTheProductThereAndNotItself)
     EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
     EXPECT_TRUE(product.HasEnded());
     EXPECT_TRUE(QFile::exists(folder + "/uninst.exe"));
+}
+
+// The engine ends programs in the folder itself, see the test before; it leaves those of
+// sub-folders.
+TEST_F(SilentRunTest, ProgramsThatUseTheFilesAreNamedOrClosedWhenThatIsAskedFor)
+{
+    setup.AddArchive("small.7z");
+    const QString folder = setup.WorkFolder() + "/Vorlan Quillax";
+    ChildProgram tool(folder + "/tools/tool.exe", "wait");
+    tool.Start();
+    const auto refused = setup.Start({"/S", "/D=" + folder});
+    EXPECT_EQ(refused.exitCode, 32);
+    ExpectOneLineWith(refused, QString("tool.exe (%1)").arg(tool.Id()));
+    EXPECT_FALSE(QFile::exists(folder + "/uninst.exe"));
+    EXPECT_TRUE(tool.IsRunning());
+    const auto closed = setup.Start({"/S", "/D=" + folder, "/CLOSEAPPS"});
+    EXPECT_EQ(closed.exitCode, 0) << closed.errors.toStdString();
+    EXPECT_TRUE(tool.HasEnded());
 }
 
 TEST_F(SilentRunTest, ADestinationThatIsAFileIsRefusedByName)
@@ -222,8 +240,7 @@ TEST_F(SilentRunTest, ProgressShowsTheStagesInOrder)
     EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
     const QStringList lines = result.output.split('\n');
     EXPECT_EQ(lines.filter(QRegularExpression("\\.\\.\\.$")).join(' '),
-        "Removing the previous version... Placing the files... Registering the program... "
-        "Checking hardware acceleration...");
+        "Placing the files... Registering the program... Checking hardware acceleration...");
     EXPECT_TRUE(result.output.contains("] 100 %\n"));
     EXPECT_TRUE(result.output.endsWith("Done\n"));
 }

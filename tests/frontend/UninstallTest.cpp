@@ -36,6 +36,22 @@ const QStringList keptRecords = {
 
 } // namespace
 
+TEST_F(UninstallTest, AProgramThatUsesTheFilesIsNamedOrClosedWhenThatIsAskedFor)
+{
+    InstallCurrent();
+    ChildProgram player(product + "/libs/player.exe", "wait");
+    player.Start();
+    const auto refused = Uninstall({});
+    EXPECT_EQ(refused.exitCode, 32);
+    EXPECT_TRUE(refused.errors.contains(QString("player.exe (%1)").arg(player.Id())))
+        << refused.errors.toStdString();
+    EXPECT_EQ(Links(), allLinks);
+    EXPECT_TRUE(QFile::exists(product + "/quill.exe") && player.IsRunning());
+    EXPECT_EQ(Uninstall({"/CLOSEAPPS"}).exitCode, 0);
+    EXPECT_TRUE(player.HasEnded());
+    EXPECT_EQ(Links(), QStringList());
+}
+
 TEST_F(UninstallTest, ANewVersionReplacesTheOldOneAndLeavesWhatIsNotOfTheProgram)
 {
     Install(QString(FRONTEND_FOLDER) + "/24.4.0", "old");

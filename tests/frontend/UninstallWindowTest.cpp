@@ -1,4 +1,5 @@
 #include "registry/RegistrySettings.h"
+#include "support/ChildProgram.h"
 #include "support/InstalledProduct.h"
 
 using namespace Vorlan;
@@ -31,6 +32,18 @@ TEST_F(UninstallWindowTest, TheButtonsLeadToTheLastPage)
                                    "progressPage", "resultPage uninstall-by-buttons.exe", "0"}));
     EXPECT_EQ(Links(), QStringList());
     EXPECT_FALSE(QFile::exists(product + "/quill.exe"));
+}
+
+TEST_F(UninstallWindowTest, ProgramsThatUseTheFilesAreClosedFirst)
+{
+    InstallCurrent();
+    ChildProgram player(product + "/libs/player.exe", "wait");
+    player.Start();
+    const QStringList seen = PressButtons(product, {"yes"});
+    EXPECT_EQ(seen.count("inUsePage"), 1) << qPrintable(seen.join('|'));
+    EXPECT_EQ(seen.filter(QRegularExpression("^resultPage")).size(), 1);
+    EXPECT_EQ(seen.last(), "0");
+    EXPECT_TRUE(player.HasEnded());
 }
 
 TEST_F(UninstallWindowTest, DependentProgramsAreShownInABoxAndTheUserCanCancel)

@@ -7,6 +7,7 @@
 #include "widgets/ButtonWithIcon.h"
 #include "wizard/Appearance.h"
 #include "wizard/ElidedLabel.h"
+#include "wizard/InUsePage.h"
 #include "wizard/InstallWizard.h"
 #include "wizard/ProgressPage.h"
 #include "wizard/ResultPage.h"
@@ -149,10 +150,16 @@ TEST_P(WizardLayoutTest, AFailureAndAListOfFilesFit)
     ResultTexts failed;
     failed.isDone = false;
     failed.headingText = "%1 could not be uninstalled";
-    failed.text =
-        QCoreApplication::translate("Vorlan::InstallerMediator",
-            "Installation failed. Try to select another location and run install again.") +
-        "\n\n" + WizardText("Log file: %1").arg(QString("/long/folder").repeated(8));
+    const QRegularExpression isolates("[\u2066\u2069]"); // which fonts do not have
+    const QString folder = QString("/long/folder").repeated(8);
+    Outcome outcome;
+    outcome.explanation = {
+        WizardText("The file %1 cannot be replaced: it is write-protected or in use.").arg(folder),
+        WizardText("The installation in %1 is incomplete: repeat it to use the program.")
+            .arg(folder),
+        WizardText("Choose another folder, or start the setup as an administrator.")};
+    failed.text = FailureText(outcome, folder).remove(isolates);
+    failed.logFile = folder;
     ResultTexts partly;
     partly.headingText = "%1 is installed";
     partly.listText = WizardText("Please note:");
@@ -162,11 +169,21 @@ TEST_P(WizardLayoutTest, AFailureAndAListOfFilesFit)
     {
         auto* page = new ResultPage({}, texts);
         window.Add(page);
-        window.SetLabels({{}, WizardText("Close"), WizardText("&Try again")});
+        window.SetLabels({WizardText("&Options"), WizardText("Close"), WizardText("&Try again")});
         window.Show(page);
         window.show();
         CheckWindow(window);
     }
+    auto* inUse = new InUsePage({});
+    window.Add(inUse);
+    inUse->ShowPrograms(
+        {{4711, 1, "/opt/quill.exe", "Quill", true, false}, {1, 1, "/init", "init", false, true}});
+    window.SetLabels(
+        {WizardText("&Try again"), WizardText("Cancel"), WizardText("&Close them and go on")});
+    window.Show(inUse);
+    CheckWindow(window);
+    inUse->ShowPrograms({{1, 1, "/init", "init", false, true}});
+    CheckWindow(window);
     WizardDriver driver(*translator);
     CheckWindow(translator->Window());
 }
@@ -178,9 +195,9 @@ TEST_P(WizardLayoutTest, EveryTextFitsItsBox)
     const QString path = "C:\\Users\\Anna\\Downloads\\InstallerData.7z";
     for (const QString& text : {WizardText("Cancel the installation of %1?").arg(ProductTitle()),
              WizardText("The installation cannot be stopped now: files and settings are being "
-                        "changed. It ends in a moment."),
+                        "changed. Close the window when it has ended."),
              UninstallText("The uninstallation cannot be stopped now: files and settings are being "
-                           "removed. It ends in a moment."),
+                           "removed. Close the window when it has ended."),
              WizardText("The file %1 is missing. Put it back beside the setup program.").arg(path),
              WizardText("The installation for all users needs the rights of an administrator: "
                         "start the program as one."),

@@ -19,6 +19,7 @@ public:
     // Starts it and waits until it runs as far as its orders.
     void Start(const QStringList& arguments = {});
 
+    qint64 Id() const { return process.processId(); }
     bool IsRunning() const { return process.state() == QProcess::Running; }
     // Waits for the end of a started one; false when it still runs after a minute.
     bool HasEnded();

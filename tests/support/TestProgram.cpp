@@ -1,6 +1,7 @@
 // A program that tests start under many names. The first word of its orders says what it does:
 //   exit <n>                  ends with that code
 //   wait                      runs until somebody ends it (or ten minutes have passed)
+//   stay                      the same, also when it is asked to end
 //   until <file>              runs until this file beside it exists (or ten minutes have passed)
 //   print <word>              writes the word to standard output and standard error
 //   report <file> <word>...   writes the current folder and the words into the file, a line each
@@ -10,6 +11,7 @@
 #include "OwnPath.h"
 
 #include <chrono>
+#include <csignal>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -71,7 +73,7 @@ int WaitFor(const fs::path& file)
 int Obey(const Words& orders, const fs::path& program)
 {
     const std::string order = orders.empty() ? "" : orders.front();
-    if (order == "wait")
+    if (order == "wait" || order == "stay")
         std::this_thread::sleep_for(std::chrono::minutes(10));
     if (order == "until")
         return WaitFor(program.parent_path() / orders.at(1));
@@ -96,8 +98,11 @@ int main(int argc, char** argv)
     Words orders(argv + 1, argv + argc);
     if (std::ifstream file(WithSuffix(program, ".does")); file)
     {
-        WriteNotes(WithSuffix(program, ".args"), orders);
+        const Words arguments = orders;
         orders.assign(std::istream_iterator<std::string>(file), {});
+        if (!orders.empty() && orders.front() == "stay")
+            std::signal(SIGTERM, SIG_IGN);
+        WriteNotes(WithSuffix(program, ".args"), arguments);
     }
     return Obey(orders, program);
 }

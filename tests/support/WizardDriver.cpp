@@ -7,7 +7,16 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
+
 using namespace Vorlan::FrontEnd;
+
+namespace
+{
+
+constexpr int timeLimitMs = 60000;
+
+} // namespace
 
 WizardDriver::WizardDriver(Wizard& driven) : wizard(driven)
 {
@@ -24,6 +33,7 @@ void WizardDriver::Press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QWidget* focus = wizard.Window().focusWidget();
     QTest::keyClick(focus != nullptr ? focus : &wizard.Window(), key, modifiers);
+    WaitForExamination();
 }
 
 void WizardDriver::Type(const QString& text)
@@ -31,6 +41,18 @@ void WizardDriver::Type(const QString& text)
     for (const QChar letter : text) // of any alphabet
         QTest::sendKeyEvent(QTest::Click, wizard.Window().focusWidget(), Qt::Key_unknown,
             QString(letter), Qt::NoModifier);
+    WaitForExamination();
+}
+
+void WizardDriver::WaitForExamination() const
+{
+    const auto isExamining = [this]
+    {
+        const QList<QWidget*> widgets = wizard.Window().findChildren<QWidget*>();
+        return std::any_of(widgets.begin(), widgets.end(),
+            [](const QWidget* widget) { return widget->property("isExamining").toBool(); });
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !isExamining(); }, timeLimitMs));
 }
 
 void WizardDriver::Click(const char* name)
@@ -39,6 +61,7 @@ void WizardDriver::Click(const char* name)
     ASSERT_NE(widget, nullptr) << name;
     ASSERT_TRUE(widget->isVisible()) << name;
     QTest::mouseClick(widget, Qt::LeftButton);
+    WaitForExamination();
 }
 
 bool WizardDriver::TabTo(const char* name)

@@ -36,6 +36,9 @@ public:
     static QString WithBox(
         const std::function<void()>& open, const std::function<void(QWidget&)>& work = {});
 
+    // Waits until the pages have examined on another thread what was typed.
+    void WaitForExamination() const;
+
 private:
     Vorlan::FrontEnd::Wizard& wizard;
 };

@@ -107,6 +107,18 @@
         <translation>Benötigter Speicherplatz: %1. Dort frei: %2.</translation>
     </message>
     <message>
+        <source>Space needed: %1.</source>
+        <translation>Benötigter Speicherplatz: %1.</translation>
+    </message>
+    <message>
+        <source>The folder is being checked...</source>
+        <translation>Der Ordner wird geprüft...</translation>
+    </message>
+    <message>
+        <source>There is no drive %1 on this computer.</source>
+        <translation>Auf diesem Computer gibt es kein Laufwerk %1.</translation>
+    </message>
+    <message>
         <source>Installing %1</source>
         <translation>%1 wird installiert</translation>
     </message>
@@ -163,6 +175,46 @@
         <translation>&amp;Installieren</translation>
     </message>
     <message>
+        <source>&amp;Close them and go on</source>
+        <translation>&amp;Schließen und fortfahren</translation>
+    </message>
+    <message>
+        <source>Close these programs first</source>
+        <translation>Schließen Sie zuerst diese Programme</translation>
+    </message>
+    <message>
+        <source>They use files that are to be changed. Save your work in them.</source>
+        <translation>Sie verwenden Dateien, die geändert werden sollen. Speichern Sie Ihre Arbeit darin.</translation>
+    </message>
+    <message>
+        <source>Each is asked to close. What does not close is ended only if you agree.</source>
+        <translation>Jedes wird gebeten, sich zu schließen. Was sich nicht schließt, wird nur mit Ihrer Zustimmung beendet.</translation>
+    </message>
+    <message>
+        <source>Waiting until the programs have closed...</source>
+        <translation>Warten, bis die Programme geschlossen sind...</translation>
+    </message>
+    <message>
+        <source>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</source>
+        <translation>Es sind Teile von Windows, die von hier nicht geschlossen werden können: Melden Sie sich ab oder starten Sie den Computer neu und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1, Prozess %2</translation>
+    </message>
+    <message>
+        <source>%1 (without a window)</source>
+        <translation>%1 (ohne Fenster)</translation>
+    </message>
+    <message>
+        <source>%1 (a part of the system)</source>
+        <translation>%1 (Teil des Systems)</translation>
+    </message>
+    <message>
+        <source>Not closed: %1. End them now? What is not saved in them is lost.</source>
+        <translation>Nicht geschlossen: %1. Jetzt beenden? Was darin nicht gespeichert ist, geht verloren.</translation>
+    </message>
+    <message>
         <source>U&amp;pdate</source>
         <translation>Ak&amp;tualisieren</translation>
     </message>
@@ -191,8 +243,8 @@
         <translation>&amp;Erneut versuchen</translation>
     </message>
     <message>
-        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
-        <translation>Die Installation kann jetzt nicht angehalten werden: Dateien und Einstellungen werden gerade geändert. Sie ist gleich beendet.</translation>
+        <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>
+        <translation>Die Installation kann jetzt nicht angehalten werden: Dateien und Einstellungen werden gerade geändert. Schließen Sie das Fenster, wenn sie beendet ist.</translation>
     </message>
     <message>
         <source>Cancel the installation of %1?</source>
@@ -223,8 +275,96 @@
         <translation>%1 konnte nicht installiert werden</translation>
     </message>
     <message>
+        <source>%1 is in use by %2.</source>
+        <translation>%1 wird verwendet von %2.</translation>
+    </message>
+    <message>
+        <source>Close the program, and try again.</source>
+        <translation>Schließen Sie das Programm und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1 is running and cannot be ended.</source>
+        <translation>%1 läuft und kann nicht beendet werden.</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or cut off.</source>
+        <translation>Die Datei %1 ist beschädigt oder unvollständig.</translation>
+    </message>
+    <message>
+        <source>Download the setup again.</source>
+        <translation>Laden Sie das Installationsprogramm erneut herunter.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 is full: %2 are free.</source>
+        <translation>Das Laufwerk mit %1 ist voll: %2 sind frei.</translation>
+    </message>
+    <message>
+        <source>Make sure that %1 are free there, or choose another folder.</source>
+        <translation>Sorgen Sie dort für %1 freien Speicherplatz oder wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 reports an error while files are written.</source>
+        <translation>Das Laufwerk mit %1 meldet beim Schreiben von Dateien einen Fehler.</translation>
+    </message>
+    <message>
+        <source>Check the drive, or choose another folder.</source>
+        <translation>Prüfen Sie das Laufwerk oder wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>Die Datei %1 kann nicht ersetzt werden: Sie ist schreibgeschützt oder wird verwendet.</translation>
+    </message>
+    <message>
+        <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
+        <translation>Im Ordner %1 kann nichts angelegt werden: Die Rechte dafür fehlen.</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or start the setup as an administrator.</source>
+        <translation>Wählen Sie einen anderen Ordner oder starten Sie das Installationsprogramm als Administrator.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder is needed.</source>
+        <translation>%1 ist eine Datei, wo ein Ordner gebraucht wird.</translation>
+    </message>
+    <message>
+        <source>Move the file to another place, and try again.</source>
+        <translation>Verschieben Sie die Datei an einen anderen Ort und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The uninstaller of the previous version has failed.</source>
+        <translation>Das Deinstallationsprogramm der vorherigen Version ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Uninstall the previous version yourself, and try again.</source>
+        <translation>Deinstallieren Sie die vorherige Version selbst und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Es wurde nichts geändert.</translation>
+    </message>
+    <message>
+        <source>A part of the previous version may already be removed.</source>
+        <translation>Ein Teil der vorherigen Version ist möglicherweise schon entfernt.</translation>
+    </message>
+    <message>
+        <source>The installation in %1 is incomplete: repeat it to use the program.</source>
+        <translation>Die Installation in %1 ist unvollständig: Wiederholen Sie sie, um das Programm zu benutzen.</translation>
+    </message>
+    <message>
+        <source>The files are in %1, but the program is not completely registered.</source>
+        <translation>Die Dateien liegen in %1, aber das Programm ist nicht vollständig registriert.</translation>
+    </message>
+    <message>
         <source>Log file: %1</source>
         <translation>Protokolldatei: %1</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>&amp;Protokoll öffnen</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be opened.</source>
+        <translation>Die Protokolldatei %1 kann nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>Everything is in its place. You can begin right away.</source>
@@ -297,6 +437,26 @@
     <message>
         <source>Preparing...</source>
         <translation>Wird vorbereitet...</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>Schritt %1 von %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 pro Sekunde</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>Noch etwa %1 s</translation>
+    </message>
+    <message>
+        <source>About %1 min left</source>
+        <translation>Noch etwa %1 min</translation>
     </message>
     <message>
         <source>&amp;Start %1 now</source>
@@ -374,6 +534,10 @@
         <translation>Abgebrochen: Es wurde nichts gelöscht.</translation>
     </message>
     <message>
+        <source>A part of the program may already be removed.</source>
+        <translation>Ein Teil des Programms ist möglicherweise schon entfernt.</translation>
+    </message>
+    <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
         <translation>%1 gehört nicht zum Programm und kann nicht beiseite verschoben werden: Es wurde nichts gelöscht. Schließen Sie das Programm, das die Datei verwendet, und versuchen Sie es erneut.</translation>
     </message>
@@ -426,8 +590,8 @@
         <translation>&amp;Installiertes deinstallieren</translation>
     </message>
     <message>
-        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
-        <translation>Die Deinstallation kann jetzt nicht angehalten werden: Dateien und Einstellungen werden gerade entfernt. Sie ist gleich beendet.</translation>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</source>
+        <translation>Die Deinstallation kann jetzt nicht angehalten werden: Dateien und Einstellungen werden gerade entfernt. Schließen Sie das Fenster, wenn sie beendet ist.</translation>
     </message>
     <message>
         <source>Thank you for having used it.</source>

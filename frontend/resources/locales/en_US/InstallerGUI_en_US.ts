@@ -107,6 +107,18 @@
         <translation>Space needed: %1. Free there: %2.</translation>
     </message>
     <message>
+        <source>Space needed: %1.</source>
+        <translation>Space needed: %1.</translation>
+    </message>
+    <message>
+        <source>The folder is being checked...</source>
+        <translation>The folder is being checked...</translation>
+    </message>
+    <message>
+        <source>There is no drive %1 on this computer.</source>
+        <translation>There is no drive %1 on this computer.</translation>
+    </message>
+    <message>
         <source>Installing %1</source>
         <translation>Installing %1</translation>
     </message>
@@ -163,6 +175,46 @@
         <translation>&amp;Install</translation>
     </message>
     <message>
+        <source>&amp;Close them and go on</source>
+        <translation>&amp;Close them and go on</translation>
+    </message>
+    <message>
+        <source>Close these programs first</source>
+        <translation>Close these programs first</translation>
+    </message>
+    <message>
+        <source>They use files that are to be changed. Save your work in them.</source>
+        <translation>They use files that are to be changed. Save your work in them.</translation>
+    </message>
+    <message>
+        <source>Each is asked to close. What does not close is ended only if you agree.</source>
+        <translation>Each is asked to close. What does not close is ended only if you agree.</translation>
+    </message>
+    <message>
+        <source>Waiting until the programs have closed...</source>
+        <translation>Waiting until the programs have closed...</translation>
+    </message>
+    <message>
+        <source>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</source>
+        <translation>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1, process %2</translation>
+    </message>
+    <message>
+        <source>%1 (without a window)</source>
+        <translation>%1 (without a window)</translation>
+    </message>
+    <message>
+        <source>%1 (a part of the system)</source>
+        <translation>%1 (a part of the system)</translation>
+    </message>
+    <message>
+        <source>Not closed: %1. End them now? What is not saved in them is lost.</source>
+        <translation>Not closed: %1. End them now? What is not saved in them is lost.</translation>
+    </message>
+    <message>
         <source>U&amp;pdate</source>
         <translation>U&amp;pdate</translation>
     </message>
@@ -191,8 +243,8 @@
         <translation>&amp;Try again</translation>
     </message>
     <message>
-        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
-        <translation>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</translation>
+        <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>
+        <translation>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</translation>
     </message>
     <message>
         <source>Cancel the installation of %1?</source>
@@ -223,8 +275,96 @@
         <translation>%1 could not be installed</translation>
     </message>
     <message>
+        <source>%1 is in use by %2.</source>
+        <translation>%1 is in use by %2.</translation>
+    </message>
+    <message>
+        <source>Close the program, and try again.</source>
+        <translation>Close the program, and try again.</translation>
+    </message>
+    <message>
+        <source>%1 is running and cannot be ended.</source>
+        <translation>%1 is running and cannot be ended.</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or cut off.</source>
+        <translation>The file %1 is damaged or cut off.</translation>
+    </message>
+    <message>
+        <source>Download the setup again.</source>
+        <translation>Download the setup again.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 is full: %2 are free.</source>
+        <translation>The drive with %1 is full: %2 are free.</translation>
+    </message>
+    <message>
+        <source>Make sure that %1 are free there, or choose another folder.</source>
+        <translation>Make sure that %1 are free there, or choose another folder.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 reports an error while files are written.</source>
+        <translation>The drive with %1 reports an error while files are written.</translation>
+    </message>
+    <message>
+        <source>Check the drive, or choose another folder.</source>
+        <translation>Check the drive, or choose another folder.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>The file %1 cannot be replaced: it is write-protected or in use.</translation>
+    </message>
+    <message>
+        <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
+        <translation>Nothing can be created in the folder %1: the rights to it are missing.</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or start the setup as an administrator.</source>
+        <translation>Choose another folder, or start the setup as an administrator.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder is needed.</source>
+        <translation>%1 is a file where a folder is needed.</translation>
+    </message>
+    <message>
+        <source>Move the file to another place, and try again.</source>
+        <translation>Move the file to another place, and try again.</translation>
+    </message>
+    <message>
+        <source>The uninstaller of the previous version has failed.</source>
+        <translation>The uninstaller of the previous version has failed.</translation>
+    </message>
+    <message>
+        <source>Uninstall the previous version yourself, and try again.</source>
+        <translation>Uninstall the previous version yourself, and try again.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Nothing was changed.</translation>
+    </message>
+    <message>
+        <source>A part of the previous version may already be removed.</source>
+        <translation>A part of the previous version may already be removed.</translation>
+    </message>
+    <message>
+        <source>The installation in %1 is incomplete: repeat it to use the program.</source>
+        <translation>The installation in %1 is incomplete: repeat it to use the program.</translation>
+    </message>
+    <message>
+        <source>The files are in %1, but the program is not completely registered.</source>
+        <translation>The files are in %1, but the program is not completely registered.</translation>
+    </message>
+    <message>
         <source>Log file: %1</source>
         <translation>Log file: %1</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>Open &amp;log</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be opened.</source>
+        <translation>The log file %1 cannot be opened.</translation>
     </message>
     <message>
         <source>Everything is in its place. You can begin right away.</source>
@@ -297,6 +437,26 @@
     <message>
         <source>Preparing...</source>
         <translation>Preparing...</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>Step %1 of %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 per second</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>About %1 s left</translation>
+    </message>
+    <message>
+        <source>About %1 min left</source>
+        <translation>About %1 min left</translation>
     </message>
     <message>
         <source>&amp;Start %1 now</source>
@@ -374,6 +534,10 @@
         <translation>Cancelled: nothing was deleted.</translation>
     </message>
     <message>
+        <source>A part of the program may already be removed.</source>
+        <translation>A part of the program may already be removed.</translation>
+    </message>
+    <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
         <translation>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</translation>
     </message>
@@ -426,8 +590,8 @@
         <translation>&amp;Uninstall the installed one</translation>
     </message>
     <message>
-        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
-        <translation>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</translation>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</source>
+        <translation>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</translation>
     </message>
     <message>
         <source>Thank you for having used it.</source>

@@ -107,6 +107,18 @@
         <translation>Espacio necesario: %1. Libre en esa unidad: %2.</translation>
     </message>
     <message>
+        <source>Space needed: %1.</source>
+        <translation>Espacio necesario: %1.</translation>
+    </message>
+    <message>
+        <source>The folder is being checked...</source>
+        <translation>Comprobando la carpeta...</translation>
+    </message>
+    <message>
+        <source>There is no drive %1 on this computer.</source>
+        <translation>En este equipo no hay ninguna unidad %1.</translation>
+    </message>
+    <message>
         <source>Installing %1</source>
         <translation>Instalando %1</translation>
     </message>
@@ -163,6 +175,46 @@
         <translation>I&amp;nstalar</translation>
     </message>
     <message>
+        <source>&amp;Close them and go on</source>
+        <translation>&amp;Cerrarlos y continuar</translation>
+    </message>
+    <message>
+        <source>Close these programs first</source>
+        <translation>Cierre primero estos programas</translation>
+    </message>
+    <message>
+        <source>They use files that are to be changed. Save your work in them.</source>
+        <translation>Usan archivos que se van a modificar. Guarde su trabajo en ellos.</translation>
+    </message>
+    <message>
+        <source>Each is asked to close. What does not close is ended only if you agree.</source>
+        <translation>Se pide a cada uno que se cierre. Lo que no se cierre solo se termina si usted lo acepta.</translation>
+    </message>
+    <message>
+        <source>Waiting until the programs have closed...</source>
+        <translation>Esperando a que se cierren los programas...</translation>
+    </message>
+    <message>
+        <source>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</source>
+        <translation>Son partes de Windows que no se pueden cerrar desde aquí: cierre la sesión o reinicie el equipo e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1, proceso %2</translation>
+    </message>
+    <message>
+        <source>%1 (without a window)</source>
+        <translation>%1 (sin ventana)</translation>
+    </message>
+    <message>
+        <source>%1 (a part of the system)</source>
+        <translation>%1 (parte del sistema)</translation>
+    </message>
+    <message>
+        <source>Not closed: %1. End them now? What is not saved in them is lost.</source>
+        <translation>No se han cerrado: %1. ¿Terminarlos ahora? Lo que no esté guardado en ellos se perderá.</translation>
+    </message>
+    <message>
         <source>U&amp;pdate</source>
         <translation>Actua&amp;lizar</translation>
     </message>
@@ -191,8 +243,8 @@
         <translation>&amp;Reintentar</translation>
     </message>
     <message>
-        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
-        <translation>La instalación no se puede detener ahora: se están modificando archivos y ajustes. Terminará en un momento.</translation>
+        <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>
+        <translation>La instalación no se puede detener ahora: se están modificando archivos y ajustes. Cierre la ventana cuando haya terminado.</translation>
     </message>
     <message>
         <source>Cancel the installation of %1?</source>
@@ -223,8 +275,96 @@
         <translation>No se pudo instalar %1</translation>
     </message>
     <message>
+        <source>%1 is in use by %2.</source>
+        <translation>%1 está en uso por %2.</translation>
+    </message>
+    <message>
+        <source>Close the program, and try again.</source>
+        <translation>Cierre el programa e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>%1 is running and cannot be ended.</source>
+        <translation>%1 se está ejecutando y no se puede cerrar.</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or cut off.</source>
+        <translation>El archivo %1 está dañado o incompleto.</translation>
+    </message>
+    <message>
+        <source>Download the setup again.</source>
+        <translation>Descargue de nuevo el instalador.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 is full: %2 are free.</source>
+        <translation>La unidad de %1 está llena: quedan %2 libres.</translation>
+    </message>
+    <message>
+        <source>Make sure that %1 are free there, or choose another folder.</source>
+        <translation>Deje %1 libres en ella o elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 reports an error while files are written.</source>
+        <translation>La unidad de %1 notifica un error al escribir archivos.</translation>
+    </message>
+    <message>
+        <source>Check the drive, or choose another folder.</source>
+        <translation>Compruebe la unidad o elija otra carpeta.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>No se puede reemplazar el archivo %1: está protegido contra escritura o en uso.</translation>
+    </message>
+    <message>
+        <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
+        <translation>No se puede crear nada en la carpeta %1: faltan los permisos necesarios.</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or start the setup as an administrator.</source>
+        <translation>Elija otra carpeta o inicie el instalador como administrador.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder is needed.</source>
+        <translation>%1 es un archivo donde hace falta una carpeta.</translation>
+    </message>
+    <message>
+        <source>Move the file to another place, and try again.</source>
+        <translation>Mueva el archivo a otro lugar e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The uninstaller of the previous version has failed.</source>
+        <translation>El desinstalador de la versión anterior ha fallado.</translation>
+    </message>
+    <message>
+        <source>Uninstall the previous version yourself, and try again.</source>
+        <translation>Desinstale usted la versión anterior e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>No se ha cambiado nada.</translation>
+    </message>
+    <message>
+        <source>A part of the previous version may already be removed.</source>
+        <translation>Puede que ya se haya quitado una parte de la versión anterior.</translation>
+    </message>
+    <message>
+        <source>The installation in %1 is incomplete: repeat it to use the program.</source>
+        <translation>La instalación en %1 está incompleta: repítala para usar el programa.</translation>
+    </message>
+    <message>
+        <source>The files are in %1, but the program is not completely registered.</source>
+        <translation>Los archivos están en %1, pero el programa no está registrado por completo.</translation>
+    </message>
+    <message>
         <source>Log file: %1</source>
         <translation>Archivo de registro: %1</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>Abrir re&amp;gistro</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be opened.</source>
+        <translation>No se puede abrir el archivo de registro %1.</translation>
     </message>
     <message>
         <source>Everything is in its place. You can begin right away.</source>
@@ -297,6 +437,26 @@
     <message>
         <source>Preparing...</source>
         <translation>Preparando...</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>Paso %1 de %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 por segundo</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>Quedan unos %1 s</translation>
+    </message>
+    <message>
+        <source>About %1 min left</source>
+        <translation>Quedan unos %1 min</translation>
     </message>
     <message>
         <source>&amp;Start %1 now</source>
@@ -374,6 +534,10 @@
         <translation>Cancelado: no se ha eliminado nada.</translation>
     </message>
     <message>
+        <source>A part of the program may already be removed.</source>
+        <translation>Puede que ya se haya quitado una parte del programa.</translation>
+    </message>
+    <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
         <translation>%1 no forma parte del programa y no se puede apartar: no se ha eliminado nada. Cierre el programa que lo usa e inténtelo de nuevo.</translation>
     </message>
@@ -426,8 +590,8 @@
         <translation>&amp;Desinstalar el instalado</translation>
     </message>
     <message>
-        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
-        <translation>La desinstalación no se puede detener ahora: se están eliminando archivos y ajustes. Terminará en un momento.</translation>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</source>
+        <translation>La desinstalación no se puede detener ahora: se están eliminando archivos y ajustes. Cierre la ventana cuando haya terminado.</translation>
     </message>
     <message>
         <source>Thank you for having used it.</source>

@@ -107,6 +107,18 @@
         <translation>Espace nécessaire : %1. Libre à cet endroit : %2.</translation>
     </message>
     <message>
+        <source>Space needed: %1.</source>
+        <translation>Espace nécessaire : %1.</translation>
+    </message>
+    <message>
+        <source>The folder is being checked...</source>
+        <translation>Vérification du dossier...</translation>
+    </message>
+    <message>
+        <source>There is no drive %1 on this computer.</source>
+        <translation>Il n'y a pas de lecteur %1 sur cet ordinateur.</translation>
+    </message>
+    <message>
         <source>Installing %1</source>
         <translation>Installation de %1</translation>
     </message>
@@ -163,6 +175,46 @@
         <translation>&amp;Installer</translation>
     </message>
     <message>
+        <source>&amp;Close them and go on</source>
+        <translation>&amp;Fermer et continuer</translation>
+    </message>
+    <message>
+        <source>Close these programs first</source>
+        <translation>Fermez d'abord ces programmes</translation>
+    </message>
+    <message>
+        <source>They use files that are to be changed. Save your work in them.</source>
+        <translation>Ils utilisent des fichiers qui vont être modifiés. Enregistrez-y votre travail.</translation>
+    </message>
+    <message>
+        <source>Each is asked to close. What does not close is ended only if you agree.</source>
+        <translation>Chacun est invité à se fermer. Ce qui ne se ferme pas n'est arrêté qu'avec votre accord.</translation>
+    </message>
+    <message>
+        <source>Waiting until the programs have closed...</source>
+        <translation>En attente de la fermeture des programmes...</translation>
+    </message>
+    <message>
+        <source>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</source>
+        <translation>Ce sont des parties de Windows qui ne peuvent pas être fermées d'ici : déconnectez-vous ou redémarrez l'ordinateur et réessayez.</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1, processus %2</translation>
+    </message>
+    <message>
+        <source>%1 (without a window)</source>
+        <translation>%1 (sans fenêtre)</translation>
+    </message>
+    <message>
+        <source>%1 (a part of the system)</source>
+        <translation>%1 (partie du système)</translation>
+    </message>
+    <message>
+        <source>Not closed: %1. End them now? What is not saved in them is lost.</source>
+        <translation>Non fermés : %1. Les arrêter maintenant ? Ce qui n'y est pas enregistré sera perdu.</translation>
+    </message>
+    <message>
         <source>U&amp;pdate</source>
         <translation>Mettre à &amp;jour</translation>
     </message>
@@ -191,8 +243,8 @@
         <translation>&amp;Réessayer</translation>
     </message>
     <message>
-        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
-        <translation>L&apos;installation ne peut pas être arrêtée maintenant : des fichiers et des paramètres sont en cours de modification. Elle se termine dans un instant.</translation>
+        <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>
+        <translation>L&apos;installation ne peut pas être arrêtée maintenant : des fichiers et des paramètres sont en cours de modification. Fermez la fenêtre lorsqu'elle est terminée.</translation>
     </message>
     <message>
         <source>Cancel the installation of %1?</source>
@@ -223,8 +275,96 @@
         <translation>%1 n&apos;a pas pu être installé</translation>
     </message>
     <message>
+        <source>%1 is in use by %2.</source>
+        <translation>%1 est utilisé par %2.</translation>
+    </message>
+    <message>
+        <source>Close the program, and try again.</source>
+        <translation>Fermez le programme et réessayez.</translation>
+    </message>
+    <message>
+        <source>%1 is running and cannot be ended.</source>
+        <translation>%1 est en cours d'exécution et ne peut pas être arrêté.</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or cut off.</source>
+        <translation>Le fichier %1 est endommagé ou incomplet.</translation>
+    </message>
+    <message>
+        <source>Download the setup again.</source>
+        <translation>Téléchargez à nouveau le programme d'installation.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 is full: %2 are free.</source>
+        <translation>Le lecteur de %1 est plein : %2 sont libres.</translation>
+    </message>
+    <message>
+        <source>Make sure that %1 are free there, or choose another folder.</source>
+        <translation>Libérez-y %1 ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 reports an error while files are written.</source>
+        <translation>Le lecteur de %1 signale une erreur lors de l'écriture de fichiers.</translation>
+    </message>
+    <message>
+        <source>Check the drive, or choose another folder.</source>
+        <translation>Vérifiez le lecteur ou choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>Le fichier %1 ne peut pas être remplacé : il est protégé en écriture ou en cours d'utilisation.</translation>
+    </message>
+    <message>
+        <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
+        <translation>Rien ne peut être créé dans le dossier %1 : les droits nécessaires manquent.</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or start the setup as an administrator.</source>
+        <translation>Choisissez un autre dossier ou lancez le programme d'installation en tant qu'administrateur.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder is needed.</source>
+        <translation>%1 est un fichier là où un dossier est nécessaire.</translation>
+    </message>
+    <message>
+        <source>Move the file to another place, and try again.</source>
+        <translation>Déplacez le fichier vers un autre endroit et réessayez.</translation>
+    </message>
+    <message>
+        <source>The uninstaller of the previous version has failed.</source>
+        <translation>Le programme de désinstallation de la version précédente a échoué.</translation>
+    </message>
+    <message>
+        <source>Uninstall the previous version yourself, and try again.</source>
+        <translation>Désinstallez vous-même la version précédente et réessayez.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Rien n'a été modifié.</translation>
+    </message>
+    <message>
+        <source>A part of the previous version may already be removed.</source>
+        <translation>Une partie de la version précédente est peut-être déjà supprimée.</translation>
+    </message>
+    <message>
+        <source>The installation in %1 is incomplete: repeat it to use the program.</source>
+        <translation>L'installation dans %1 est incomplète : recommencez-la pour utiliser le programme.</translation>
+    </message>
+    <message>
+        <source>The files are in %1, but the program is not completely registered.</source>
+        <translation>Les fichiers sont dans %1, mais le programme n'est pas entièrement enregistré.</translation>
+    </message>
+    <message>
         <source>Log file: %1</source>
         <translation>Fichier journal : %1</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>Ouvrir le &amp;journal</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be opened.</source>
+        <translation>Le fichier journal %1 ne peut pas être ouvert.</translation>
     </message>
     <message>
         <source>Everything is in its place. You can begin right away.</source>
@@ -297,6 +437,26 @@
     <message>
         <source>Preparing...</source>
         <translation>Préparation...</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>Étape %1 sur %2 : %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 par seconde</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>Encore %1 s environ</translation>
+    </message>
+    <message>
+        <source>About %1 min left</source>
+        <translation>Encore %1 min environ</translation>
     </message>
     <message>
         <source>&amp;Start %1 now</source>
@@ -374,6 +534,10 @@
         <translation>Annulé : rien n&apos;a été supprimé.</translation>
     </message>
     <message>
+        <source>A part of the program may already be removed.</source>
+        <translation>Une partie du programme est peut-être déjà supprimée.</translation>
+    </message>
+    <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
         <translation>%1 ne fait pas partie du programme et ne peut pas être écarté : rien n&apos;a été supprimé. Fermez le programme qui l&apos;utilise et réessayez.</translation>
     </message>
@@ -426,8 +590,8 @@
         <translation>&amp;Désinstaller le programme installé</translation>
     </message>
     <message>
-        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
-        <translation>La désinstallation ne peut pas être arrêtée maintenant : des fichiers et des paramètres sont en cours de suppression. Elle se termine dans un instant.</translation>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</source>
+        <translation>La désinstallation ne peut pas être arrêtée maintenant : des fichiers et des paramètres sont en cours de suppression. Fermez la fenêtre lorsqu'elle est terminée.</translation>
     </message>
     <message>
         <source>Thank you for having used it.</source>

@@ -107,6 +107,18 @@
         <translation>Spazio necessario: %1. Libero in quella posizione: %2.</translation>
     </message>
     <message>
+        <source>Space needed: %1.</source>
+        <translation>Spazio necessario: %1.</translation>
+    </message>
+    <message>
+        <source>The folder is being checked...</source>
+        <translation>Controllo della cartella...</translation>
+    </message>
+    <message>
+        <source>There is no drive %1 on this computer.</source>
+        <translation>Su questo computer non esiste un'unità %1.</translation>
+    </message>
+    <message>
         <source>Installing %1</source>
         <translation>Installazione di %1</translation>
     </message>
@@ -163,6 +175,46 @@
         <translation>I&amp;nstalla</translation>
     </message>
     <message>
+        <source>&amp;Close them and go on</source>
+        <translation>&amp;Chiudi e continua</translation>
+    </message>
+    <message>
+        <source>Close these programs first</source>
+        <translation>Chiudere prima questi programmi</translation>
+    </message>
+    <message>
+        <source>They use files that are to be changed. Save your work in them.</source>
+        <translation>Usano file che stanno per essere modificati. Salvare il proprio lavoro in essi.</translation>
+    </message>
+    <message>
+        <source>Each is asked to close. What does not close is ended only if you agree.</source>
+        <translation>A ciascuno viene chiesto di chiudersi. Ciò che non si chiude viene terminato solo con il consenso dell'utente.</translation>
+    </message>
+    <message>
+        <source>Waiting until the programs have closed...</source>
+        <translation>In attesa della chiusura dei programmi...</translation>
+    </message>
+    <message>
+        <source>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</source>
+        <translation>Sono parti di Windows che non possono essere chiuse da qui: disconnettersi o riavviare il computer e riprovare.</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1, processo %2</translation>
+    </message>
+    <message>
+        <source>%1 (without a window)</source>
+        <translation>%1 (senza finestra)</translation>
+    </message>
+    <message>
+        <source>%1 (a part of the system)</source>
+        <translation>%1 (parte del sistema)</translation>
+    </message>
+    <message>
+        <source>Not closed: %1. End them now? What is not saved in them is lost.</source>
+        <translation>Non chiusi: %1. Terminarli ora? Ciò che non è stato salvato andrà perso.</translation>
+    </message>
+    <message>
         <source>U&amp;pdate</source>
         <translation>&amp;Aggiorna</translation>
     </message>
@@ -191,8 +243,8 @@
         <translation>&amp;Riprova</translation>
     </message>
     <message>
-        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
-        <translation>L&apos;installazione non può essere interrotta ora: file e impostazioni sono in corso di modifica. Terminerà tra un momento.</translation>
+        <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>
+        <translation>L&apos;installazione non può essere interrotta ora: file e impostazioni sono in corso di modifica. Chiudere la finestra al termine.</translation>
     </message>
     <message>
         <source>Cancel the installation of %1?</source>
@@ -223,8 +275,96 @@
         <translation>Non è stato possibile installare %1</translation>
     </message>
     <message>
+        <source>%1 is in use by %2.</source>
+        <translation>%1 è in uso da parte di %2.</translation>
+    </message>
+    <message>
+        <source>Close the program, and try again.</source>
+        <translation>Chiudere il programma e riprovare.</translation>
+    </message>
+    <message>
+        <source>%1 is running and cannot be ended.</source>
+        <translation>%1 è in esecuzione e non può essere terminato.</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or cut off.</source>
+        <translation>Il file %1 è danneggiato o incompleto.</translation>
+    </message>
+    <message>
+        <source>Download the setup again.</source>
+        <translation>Scaricare di nuovo il programma di installazione.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 is full: %2 are free.</source>
+        <translation>L'unità di %1 è piena: sono liberi %2.</translation>
+    </message>
+    <message>
+        <source>Make sure that %1 are free there, or choose another folder.</source>
+        <translation>Liberare %1 su quell'unità o scegliere un'altra cartella.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 reports an error while files are written.</source>
+        <translation>L'unità di %1 segnala un errore durante la scrittura dei file.</translation>
+    </message>
+    <message>
+        <source>Check the drive, or choose another folder.</source>
+        <translation>Controllare l'unità o scegliere un'altra cartella.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>Impossibile sostituire il file %1: è protetto da scrittura o in uso.</translation>
+    </message>
+    <message>
+        <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
+        <translation>Impossibile creare elementi nella cartella %1: mancano i diritti necessari.</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or start the setup as an administrator.</source>
+        <translation>Scegliere un'altra cartella o avviare il programma di installazione come amministratore.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder is needed.</source>
+        <translation>%1 è un file dove serve una cartella.</translation>
+    </message>
+    <message>
+        <source>Move the file to another place, and try again.</source>
+        <translation>Spostare il file altrove e riprovare.</translation>
+    </message>
+    <message>
+        <source>The uninstaller of the previous version has failed.</source>
+        <translation>Il programma di disinstallazione della versione precedente non è riuscito.</translation>
+    </message>
+    <message>
+        <source>Uninstall the previous version yourself, and try again.</source>
+        <translation>Disinstallare la versione precedente manualmente e riprovare.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Non è stato modificato nulla.</translation>
+    </message>
+    <message>
+        <source>A part of the previous version may already be removed.</source>
+        <translation>Una parte della versione precedente potrebbe essere già stata rimossa.</translation>
+    </message>
+    <message>
+        <source>The installation in %1 is incomplete: repeat it to use the program.</source>
+        <translation>L'installazione in %1 è incompleta: ripeterla per usare il programma.</translation>
+    </message>
+    <message>
+        <source>The files are in %1, but the program is not completely registered.</source>
+        <translation>I file sono in %1, ma il programma non è registrato completamente.</translation>
+    </message>
+    <message>
         <source>Log file: %1</source>
         <translation>File di registro: %1</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>Apri re&amp;gistro</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be opened.</source>
+        <translation>Impossibile aprire il file di registro %1.</translation>
     </message>
     <message>
         <source>Everything is in its place. You can begin right away.</source>
@@ -297,6 +437,26 @@
     <message>
         <source>Preparing...</source>
         <translation>Preparazione...</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>Passaggio %1 di %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 di %2</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 al secondo</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>Ancora %1 s circa</translation>
+    </message>
+    <message>
+        <source>About %1 min left</source>
+        <translation>Ancora %1 min circa</translation>
     </message>
     <message>
         <source>&amp;Start %1 now</source>
@@ -374,6 +534,10 @@
         <translation>Annullato: nulla è stato eliminato.</translation>
     </message>
     <message>
+        <source>A part of the program may already be removed.</source>
+        <translation>Una parte del programma potrebbe essere già stata rimossa.</translation>
+    </message>
+    <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
         <translation>%1 non fa parte del programma e non può essere spostato: nulla è stato eliminato. Chiudere il programma che lo usa e riprovare.</translation>
     </message>
@@ -426,8 +590,8 @@
         <translation>&amp;Disinstalla quello installato</translation>
     </message>
     <message>
-        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
-        <translation>La disinstallazione non può essere interrotta ora: file e impostazioni sono in corso di rimozione. Terminerà tra un momento.</translation>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</source>
+        <translation>La disinstallazione non può essere interrotta ora: file e impostazioni sono in corso di rimozione. Chiudere la finestra al termine.</translation>
     </message>
     <message>
         <source>Thank you for having used it.</source>

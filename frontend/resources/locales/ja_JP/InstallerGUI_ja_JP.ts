@@ -107,6 +107,18 @@
         <translation>必要な容量: %1、空き容量: %2</translation>
     </message>
     <message>
+        <source>Space needed: %1.</source>
+        <translation>必要な容量: %1</translation>
+    </message>
+    <message>
+        <source>The folder is being checked...</source>
+        <translation>フォルダーを確認しています...</translation>
+    </message>
+    <message>
+        <source>There is no drive %1 on this computer.</source>
+        <translation>このコンピューターにドライブ %1 はありません。</translation>
+    </message>
+    <message>
         <source>Installing %1</source>
         <translation>%1 をインストールしています</translation>
     </message>
@@ -163,6 +175,46 @@
         <translation>インストール(&amp;I)</translation>
     </message>
     <message>
+        <source>&amp;Close them and go on</source>
+        <translation>閉じて続行(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close these programs first</source>
+        <translation>先にこれらのプログラムを閉じてください</translation>
+    </message>
+    <message>
+        <source>They use files that are to be changed. Save your work in them.</source>
+        <translation>変更するファイルを使用しています。作業内容を保存してください。</translation>
+    </message>
+    <message>
+        <source>Each is asked to close. What does not close is ended only if you agree.</source>
+        <translation>各プログラムに終了を要求します。閉じないものは、同意した場合にのみ強制終了します。</translation>
+    </message>
+    <message>
+        <source>Waiting until the programs have closed...</source>
+        <translation>プログラムが閉じるのを待っています...</translation>
+    </message>
+    <message>
+        <source>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</source>
+        <translation>Windows の一部であり、ここからは閉じられません。サインアウトするか、コンピューターを再起動して、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1、プロセス %2</translation>
+    </message>
+    <message>
+        <source>%1 (without a window)</source>
+        <translation>%1 (ウィンドウなし)</translation>
+    </message>
+    <message>
+        <source>%1 (a part of the system)</source>
+        <translation>%1 (システムの一部)</translation>
+    </message>
+    <message>
+        <source>Not closed: %1. End them now? What is not saved in them is lost.</source>
+        <translation>閉じていないプログラム: %1。今すぐ強制終了しますか? 保存していない内容は失われます。</translation>
+    </message>
+    <message>
         <source>U&amp;pdate</source>
         <translation>更新(&amp;P)</translation>
     </message>
@@ -191,8 +243,8 @@
         <translation>再試行(&amp;T)</translation>
     </message>
     <message>
-        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
-        <translation>ファイルと設定を変更しているため、今はインストールを中止できません。まもなく終わります。</translation>
+        <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>
+        <translation>ファイルと設定を変更しているため、今はインストールを中止できません。終わってからウィンドウを閉じてください。</translation>
     </message>
     <message>
         <source>Cancel the installation of %1?</source>
@@ -223,8 +275,96 @@
         <translation>%1 をインストールできませんでした</translation>
     </message>
     <message>
+        <source>%1 is in use by %2.</source>
+        <translation>%1 は %2 で使用中です。</translation>
+    </message>
+    <message>
+        <source>Close the program, and try again.</source>
+        <translation>プログラムを閉じて、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>%1 is running and cannot be ended.</source>
+        <translation>%1 は実行中で、終了できません。</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or cut off.</source>
+        <translation>ファイル %1 が壊れているか、途中で切れています。</translation>
+    </message>
+    <message>
+        <source>Download the setup again.</source>
+        <translation>セットアップをもう一度ダウンロードしてください。</translation>
+    </message>
+    <message>
+        <source>The drive with %1 is full: %2 are free.</source>
+        <translation>%1 のドライブがいっぱいです。空き容量は %2 です。</translation>
+    </message>
+    <message>
+        <source>Make sure that %1 are free there, or choose another folder.</source>
+        <translation>そこに %1 の空き容量を用意するか、別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>The drive with %1 reports an error while files are written.</source>
+        <translation>%1 のドライブで、ファイルの書き込み中にエラーが発生しました。</translation>
+    </message>
+    <message>
+        <source>Check the drive, or choose another folder.</source>
+        <translation>ドライブを確認するか、別のフォルダーを選んでください。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>ファイル %1 を置き換えられません。書き込み禁止になっているか、使用中です。</translation>
+    </message>
+    <message>
+        <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
+        <translation>フォルダー %1 には何も作成できません。必要な権限がありません。</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or start the setup as an administrator.</source>
+        <translation>別のフォルダーを選ぶか、セットアップを管理者として実行してください。</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder is needed.</source>
+        <translation>フォルダーが必要な場所に、ファイル %1 があります。</translation>
+    </message>
+    <message>
+        <source>Move the file to another place, and try again.</source>
+        <translation>ファイルを別の場所に移動して、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The uninstaller of the previous version has failed.</source>
+        <translation>以前のバージョンのアンインストーラーが失敗しました。</translation>
+    </message>
+    <message>
+        <source>Uninstall the previous version yourself, and try again.</source>
+        <translation>以前のバージョンをご自身でアンインストールして、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>何も変更されていません。</translation>
+    </message>
+    <message>
+        <source>A part of the previous version may already be removed.</source>
+        <translation>以前のバージョンの一部は、すでに削除されている可能性があります。</translation>
+    </message>
+    <message>
+        <source>The installation in %1 is incomplete: repeat it to use the program.</source>
+        <translation>%1 のインストールは完了していません。プログラムを使うには、もう一度インストールしてください。</translation>
+    </message>
+    <message>
+        <source>The files are in %1, but the program is not completely registered.</source>
+        <translation>ファイルは %1 にありますが、プログラムの登録が完了していません。</translation>
+    </message>
+    <message>
         <source>Log file: %1</source>
         <translation>ログファイル: %1</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>ログを開く(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be opened.</source>
+        <translation>ログファイル %1 を開けません。</translation>
     </message>
     <message>
         <source>Everything is in its place. You can begin right away.</source>
@@ -297,6 +437,26 @@
     <message>
         <source>Preparing...</source>
         <translation>準備しています...</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>手順 %1/%2: %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>毎秒 %1</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>残り約 %1 秒</translation>
+    </message>
+    <message>
+        <source>About %1 min left</source>
+        <translation>残り約 %1 分</translation>
     </message>
     <message>
         <source>&amp;Start %1 now</source>
@@ -374,6 +534,10 @@
         <translation>キャンセルしました。何も削除されていません。</translation>
     </message>
     <message>
+        <source>A part of the program may already be removed.</source>
+        <translation>プログラムの一部は、すでに削除されている可能性があります。</translation>
+    </message>
+    <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
         <translation>%1 はプログラムの一部ではなく、移動できません。何も削除されていません。使用中のプログラムを閉じて、もう一度お試しください。</translation>
     </message>
@@ -426,8 +590,8 @@
         <translation>インストール済みのものをアンインストール(&amp;U)</translation>
     </message>
     <message>
-        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
-        <translation>ファイルと設定を削除しているため、今はアンインストールを中止できません。まもなく終わります。</translation>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</source>
+        <translation>ファイルと設定を削除しているため、今はアンインストールを中止できません。終わってからウィンドウを閉じてください。</translation>
     </message>
     <message>
         <source>Thank you for having used it.</source>

@@ -107,6 +107,18 @@
         <translation>필요한 공간: %1, 사용 가능한 공간: %2</translation>
     </message>
     <message>
+        <source>Space needed: %1.</source>
+        <translation>필요한 공간: %1</translation>
+    </message>
+    <message>
+        <source>The folder is being checked...</source>
+        <translation>폴더를 확인하는 중...</translation>
+    </message>
+    <message>
+        <source>There is no drive %1 on this computer.</source>
+        <translation>이 컴퓨터에는 %1 드라이브가 없습니다.</translation>
+    </message>
+    <message>
         <source>Installing %1</source>
         <translation>%1 설치 중</translation>
     </message>
@@ -163,6 +175,46 @@
         <translation>설치(&amp;I)</translation>
     </message>
     <message>
+        <source>&amp;Close them and go on</source>
+        <translation>닫고 계속(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close these programs first</source>
+        <translation>먼저 다음 프로그램을 닫으세요</translation>
+    </message>
+    <message>
+        <source>They use files that are to be changed. Save your work in them.</source>
+        <translation>변경할 파일을 사용하고 있습니다. 작업 내용을 저장하세요.</translation>
+    </message>
+    <message>
+        <source>Each is asked to close. What does not close is ended only if you agree.</source>
+        <translation>각 프로그램에 종료를 요청합니다. 닫히지 않는 프로그램은 동의할 때만 강제로 종료합니다.</translation>
+    </message>
+    <message>
+        <source>Waiting until the programs have closed...</source>
+        <translation>프로그램이 닫히기를 기다리는 중...</translation>
+    </message>
+    <message>
+        <source>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</source>
+        <translation>Windows의 일부이므로 여기에서 닫을 수 없습니다. 로그아웃하거나 컴퓨터를 다시 시작한 후 다시 시도하세요.</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1, 프로세스 %2</translation>
+    </message>
+    <message>
+        <source>%1 (without a window)</source>
+        <translation>%1(창 없음)</translation>
+    </message>
+    <message>
+        <source>%1 (a part of the system)</source>
+        <translation>%1(시스템 구성 요소)</translation>
+    </message>
+    <message>
+        <source>Not closed: %1. End them now? What is not saved in them is lost.</source>
+        <translation>닫히지 않음: %1. 지금 강제로 종료할까요? 저장하지 않은 내용은 사라집니다.</translation>
+    </message>
+    <message>
         <source>U&amp;pdate</source>
         <translation>업데이트(&amp;P)</translation>
     </message>
@@ -191,8 +243,8 @@
         <translation>다시 시도(&amp;T)</translation>
     </message>
     <message>
-        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
-        <translation>파일과 설정을 변경하는 중이므로 지금은 설치를 중단할 수 없습니다. 곧 끝납니다.</translation>
+        <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>
+        <translation>파일과 설정을 변경하는 중이므로 지금은 설치를 중단할 수 없습니다. 끝난 후에 창을 닫으세요.</translation>
     </message>
     <message>
         <source>Cancel the installation of %1?</source>
@@ -223,8 +275,96 @@
         <translation>%1을(를) 설치하지 못했습니다</translation>
     </message>
     <message>
+        <source>%1 is in use by %2.</source>
+        <translation>%2에서 %1을(를) 사용하고 있습니다.</translation>
+    </message>
+    <message>
+        <source>Close the program, and try again.</source>
+        <translation>프로그램을 닫고 다시 시도하세요.</translation>
+    </message>
+    <message>
+        <source>%1 is running and cannot be ended.</source>
+        <translation>%1이(가) 실행 중이며 종료할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or cut off.</source>
+        <translation>%1 파일이 손상되었거나 불완전합니다.</translation>
+    </message>
+    <message>
+        <source>Download the setup again.</source>
+        <translation>설치 프로그램을 다시 다운로드하세요.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 is full: %2 are free.</source>
+        <translation>%1의 드라이브가 가득 찼습니다. 사용 가능한 공간: %2</translation>
+    </message>
+    <message>
+        <source>Make sure that %1 are free there, or choose another folder.</source>
+        <translation>그 드라이브에 %1의 공간을 확보하거나 다른 폴더를 선택하세요.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 reports an error while files are written.</source>
+        <translation>%1의 드라이브에서 파일을 쓰는 중 오류가 발생했습니다.</translation>
+    </message>
+    <message>
+        <source>Check the drive, or choose another folder.</source>
+        <translation>드라이브를 확인하거나 다른 폴더를 선택하세요.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>%1 파일을 바꿀 수 없습니다. 쓰기 금지되어 있거나 사용 중입니다.</translation>
+    </message>
+    <message>
+        <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
+        <translation>%1 폴더에 아무것도 만들 수 없습니다. 필요한 권한이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or start the setup as an administrator.</source>
+        <translation>다른 폴더를 선택하거나 설치 프로그램을 관리자 권한으로 실행하세요.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder is needed.</source>
+        <translation>폴더가 필요한 위치에 %1 파일이 있습니다.</translation>
+    </message>
+    <message>
+        <source>Move the file to another place, and try again.</source>
+        <translation>파일을 다른 위치로 옮기고 다시 시도하세요.</translation>
+    </message>
+    <message>
+        <source>The uninstaller of the previous version has failed.</source>
+        <translation>이전 버전의 제거 프로그램이 실패했습니다.</translation>
+    </message>
+    <message>
+        <source>Uninstall the previous version yourself, and try again.</source>
+        <translation>이전 버전을 직접 제거하고 다시 시도하세요.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>아무것도 변경되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>A part of the previous version may already be removed.</source>
+        <translation>이전 버전의 일부가 이미 제거되었을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The installation in %1 is incomplete: repeat it to use the program.</source>
+        <translation>%1의 설치가 완료되지 않았습니다. 프로그램을 사용하려면 다시 설치하세요.</translation>
+    </message>
+    <message>
+        <source>The files are in %1, but the program is not completely registered.</source>
+        <translation>파일은 %1에 있지만 프로그램 등록이 완료되지 않았습니다.</translation>
+    </message>
+    <message>
         <source>Log file: %1</source>
         <translation>로그 파일: %1</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>로그 열기(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be opened.</source>
+        <translation>로그 파일 %1을(를) 열 수 없습니다.</translation>
     </message>
     <message>
         <source>Everything is in its place. You can begin right away.</source>
@@ -297,6 +437,26 @@
     <message>
         <source>Preparing...</source>
         <translation>준비하는 중...</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>%1/%2단계: %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>초당 %1</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>약 %1초 남음</translation>
+    </message>
+    <message>
+        <source>About %1 min left</source>
+        <translation>약 %1분 남음</translation>
     </message>
     <message>
         <source>&amp;Start %1 now</source>
@@ -374,6 +534,10 @@
         <translation>취소되었습니다. 아무것도 삭제되지 않았습니다.</translation>
     </message>
     <message>
+        <source>A part of the program may already be removed.</source>
+        <translation>프로그램의 일부가 이미 제거되었을 수 있습니다.</translation>
+    </message>
+    <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
         <translation>%1은(는) 프로그램의 일부가 아니며 옮길 수 없습니다. 아무것도 삭제되지 않았습니다. 이 파일을 사용하는 프로그램을 닫고 다시 시도하십시오.</translation>
     </message>
@@ -426,8 +590,8 @@
         <translation>설치된 프로그램 제거(&amp;U)</translation>
     </message>
     <message>
-        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
-        <translation>파일과 설정을 제거하는 중이므로 지금은 중단할 수 없습니다. 곧 끝납니다.</translation>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</source>
+        <translation>파일과 설정을 제거하는 중이므로 지금은 중단할 수 없습니다. 끝난 후에 창을 닫으세요.</translation>
     </message>
     <message>
         <source>Thank you for having used it.</source>

@@ -107,6 +107,18 @@
         <translation>Benodigde ruimte: %1. Daar vrij: %2.</translation>
     </message>
     <message>
+        <source>Space needed: %1.</source>
+        <translation>Benodigde ruimte: %1.</translation>
+    </message>
+    <message>
+        <source>The folder is being checked...</source>
+        <translation>De map wordt gecontroleerd...</translation>
+    </message>
+    <message>
+        <source>There is no drive %1 on this computer.</source>
+        <translation>Er is geen station %1 op deze computer.</translation>
+    </message>
+    <message>
         <source>Installing %1</source>
         <translation>%1 wordt geïnstalleerd</translation>
     </message>
@@ -163,6 +175,46 @@
         <translation>&amp;Installeren</translation>
     </message>
     <message>
+        <source>&amp;Close them and go on</source>
+        <translation>Sl&amp;uiten en doorgaan</translation>
+    </message>
+    <message>
+        <source>Close these programs first</source>
+        <translation>Sluit eerst deze programma's</translation>
+    </message>
+    <message>
+        <source>They use files that are to be changed. Save your work in them.</source>
+        <translation>Ze gebruiken bestanden die worden gewijzigd. Sla uw werk erin op.</translation>
+    </message>
+    <message>
+        <source>Each is asked to close. What does not close is ended only if you agree.</source>
+        <translation>Elk programma wordt gevraagd te sluiten. Wat niet sluit, wordt alleen met uw toestemming beëindigd.</translation>
+    </message>
+    <message>
+        <source>Waiting until the programs have closed...</source>
+        <translation>Wachten tot de programma's zijn gesloten...</translation>
+    </message>
+    <message>
+        <source>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</source>
+        <translation>Het zijn onderdelen van Windows die hier niet kunnen worden gesloten: meld u af of start de computer opnieuw op en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1, proces %2</translation>
+    </message>
+    <message>
+        <source>%1 (without a window)</source>
+        <translation>%1 (zonder venster)</translation>
+    </message>
+    <message>
+        <source>%1 (a part of the system)</source>
+        <translation>%1 (onderdeel van het systeem)</translation>
+    </message>
+    <message>
+        <source>Not closed: %1. End them now? What is not saved in them is lost.</source>
+        <translation>Niet gesloten: %1. Nu beëindigen? Wat er niet in is opgeslagen, gaat verloren.</translation>
+    </message>
+    <message>
         <source>U&amp;pdate</source>
         <translation>Bij&amp;werken</translation>
     </message>
@@ -191,8 +243,8 @@
         <translation>&amp;Opnieuw proberen</translation>
     </message>
     <message>
-        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
-        <translation>De installatie kan nu niet worden gestopt: bestanden en instellingen worden gewijzigd. Het is zo klaar.</translation>
+        <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>
+        <translation>De installatie kan nu niet worden gestopt: bestanden en instellingen worden gewijzigd. Sluit het venster als het klaar is.</translation>
     </message>
     <message>
         <source>Cancel the installation of %1?</source>
@@ -223,8 +275,96 @@
         <translation>%1 kon niet worden geïnstalleerd</translation>
     </message>
     <message>
+        <source>%1 is in use by %2.</source>
+        <translation>%1 is in gebruik door %2.</translation>
+    </message>
+    <message>
+        <source>Close the program, and try again.</source>
+        <translation>Sluit het programma en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>%1 is running and cannot be ended.</source>
+        <translation>%1 is actief en kan niet worden beëindigd.</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or cut off.</source>
+        <translation>Het bestand %1 is beschadigd of onvolledig.</translation>
+    </message>
+    <message>
+        <source>Download the setup again.</source>
+        <translation>Download het installatieprogramma opnieuw.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 is full: %2 are free.</source>
+        <translation>Het station met %1 is vol: er is %2 vrij.</translation>
+    </message>
+    <message>
+        <source>Make sure that %1 are free there, or choose another folder.</source>
+        <translation>Maak daar %1 vrij of kies een andere map.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 reports an error while files are written.</source>
+        <translation>Het station met %1 meldt een fout bij het schrijven van bestanden.</translation>
+    </message>
+    <message>
+        <source>Check the drive, or choose another folder.</source>
+        <translation>Controleer het station of kies een andere map.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>Het bestand %1 kan niet worden vervangen: het is tegen schrijven beveiligd of in gebruik.</translation>
+    </message>
+    <message>
+        <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
+        <translation>In de map %1 kan niets worden gemaakt: de rechten ervoor ontbreken.</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or start the setup as an administrator.</source>
+        <translation>Kies een andere map of start het installatieprogramma als administrator.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder is needed.</source>
+        <translation>%1 is een bestand waar een map nodig is.</translation>
+    </message>
+    <message>
+        <source>Move the file to another place, and try again.</source>
+        <translation>Verplaats het bestand en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>The uninstaller of the previous version has failed.</source>
+        <translation>Het verwijderprogramma van de vorige versie is mislukt.</translation>
+    </message>
+    <message>
+        <source>Uninstall the previous version yourself, and try again.</source>
+        <translation>Verwijder de vorige versie zelf en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Er is niets gewijzigd.</translation>
+    </message>
+    <message>
+        <source>A part of the previous version may already be removed.</source>
+        <translation>Een deel van de vorige versie is mogelijk al verwijderd.</translation>
+    </message>
+    <message>
+        <source>The installation in %1 is incomplete: repeat it to use the program.</source>
+        <translation>De installatie in %1 is onvolledig: herhaal haar om het programma te gebruiken.</translation>
+    </message>
+    <message>
+        <source>The files are in %1, but the program is not completely registered.</source>
+        <translation>De bestanden staan in %1, maar het programma is niet volledig geregistreerd.</translation>
+    </message>
+    <message>
         <source>Log file: %1</source>
         <translation>Logbestand: %1</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>&amp;Logbestand openen</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be opened.</source>
+        <translation>Het logbestand %1 kan niet worden geopend.</translation>
     </message>
     <message>
         <source>Everything is in its place. You can begin right away.</source>
@@ -297,6 +437,26 @@
     <message>
         <source>Preparing...</source>
         <translation>Voorbereiden...</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>Stap %1 van %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 van %2</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 per seconde</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>Nog ongeveer %1 s</translation>
+    </message>
+    <message>
+        <source>About %1 min left</source>
+        <translation>Nog ongeveer %1 min</translation>
     </message>
     <message>
         <source>&amp;Start %1 now</source>
@@ -374,6 +534,10 @@
         <translation>Geannuleerd: er is niets verwijderd.</translation>
     </message>
     <message>
+        <source>A part of the program may already be removed.</source>
+        <translation>Een deel van het programma is mogelijk al verwijderd.</translation>
+    </message>
+    <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
         <translation>%1 hoort niet bij het programma en kan niet worden verplaatst: er is niets verwijderd. Sluit het programma dat het gebruikt en probeer het opnieuw.</translation>
     </message>
@@ -426,8 +590,8 @@
         <translation>&amp;Geïnstalleerde verwijderen</translation>
     </message>
     <message>
-        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
-        <translation>Het verwijderen kan nu niet worden gestopt: bestanden en instellingen worden verwijderd. Het is zo klaar.</translation>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</source>
+        <translation>Het verwijderen kan nu niet worden gestopt: bestanden en instellingen worden verwijderd. Sluit het venster als het klaar is.</translation>
     </message>
     <message>
         <source>Thank you for having used it.</source>

@@ -107,6 +107,18 @@
         <translation>Potrzebne miejsce: %1. Wolne: %2.</translation>
     </message>
     <message>
+        <source>Space needed: %1.</source>
+        <translation>Potrzebne miejsce: %1.</translation>
+    </message>
+    <message>
+        <source>The folder is being checked...</source>
+        <translation>Sprawdzanie folderu...</translation>
+    </message>
+    <message>
+        <source>There is no drive %1 on this computer.</source>
+        <translation>Na tym komputerze nie ma dysku %1.</translation>
+    </message>
+    <message>
         <source>Installing %1</source>
         <translation>Instalowanie %1</translation>
     </message>
@@ -163,6 +175,46 @@
         <translation>&amp;Zainstaluj</translation>
     </message>
     <message>
+        <source>&amp;Close them and go on</source>
+        <translation>&amp;Zamknij i kontynuuj</translation>
+    </message>
+    <message>
+        <source>Close these programs first</source>
+        <translation>Najpierw zamknij te programy</translation>
+    </message>
+    <message>
+        <source>They use files that are to be changed. Save your work in them.</source>
+        <translation>Używają plików, które mają zostać zmienione. Zapisz w nich swoją pracę.</translation>
+    </message>
+    <message>
+        <source>Each is asked to close. What does not close is ended only if you agree.</source>
+        <translation>Każdy zostanie poproszony o zamknięcie. To, co się nie zamknie, zostanie zakończone tylko za Twoją zgodą.</translation>
+    </message>
+    <message>
+        <source>Waiting until the programs have closed...</source>
+        <translation>Oczekiwanie na zamknięcie programów...</translation>
+    </message>
+    <message>
+        <source>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</source>
+        <translation>To części systemu Windows, których nie można stąd zamknąć: wyloguj się lub uruchom ponownie komputer i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1, proces %2</translation>
+    </message>
+    <message>
+        <source>%1 (without a window)</source>
+        <translation>%1 (bez okna)</translation>
+    </message>
+    <message>
+        <source>%1 (a part of the system)</source>
+        <translation>%1 (część systemu)</translation>
+    </message>
+    <message>
+        <source>Not closed: %1. End them now? What is not saved in them is lost.</source>
+        <translation>Nie zamknięto: %1. Zakończyć teraz? Niezapisane w nich dane zostaną utracone.</translation>
+    </message>
+    <message>
         <source>U&amp;pdate</source>
         <translation>Ak&amp;tualizuj</translation>
     </message>
@@ -191,8 +243,8 @@
         <translation>&amp;Spróbuj ponownie</translation>
     </message>
     <message>
-        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
-        <translation>Instalacji nie można teraz zatrzymać: zmieniane są pliki i ustawienia. Zakończy się za chwilę.</translation>
+        <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>
+        <translation>Instalacji nie można teraz zatrzymać: zmieniane są pliki i ustawienia. Zamknij okno po jej zakończeniu.</translation>
     </message>
     <message>
         <source>Cancel the installation of %1?</source>
@@ -223,8 +275,96 @@
         <translation>Nie udało się zainstalować %1</translation>
     </message>
     <message>
+        <source>%1 is in use by %2.</source>
+        <translation>Plik %1 jest używany przez %2.</translation>
+    </message>
+    <message>
+        <source>Close the program, and try again.</source>
+        <translation>Zamknij program i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>%1 is running and cannot be ended.</source>
+        <translation>Program %1 działa i nie można go zakończyć.</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or cut off.</source>
+        <translation>Plik %1 jest uszkodzony lub niekompletny.</translation>
+    </message>
+    <message>
+        <source>Download the setup again.</source>
+        <translation>Pobierz instalator ponownie.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 is full: %2 are free.</source>
+        <translation>Dysk z folderem %1 jest pełny: wolne jest %2.</translation>
+    </message>
+    <message>
+        <source>Make sure that %1 are free there, or choose another folder.</source>
+        <translation>Zwolnij tam %1 lub wybierz inny folder.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 reports an error while files are written.</source>
+        <translation>Dysk z folderem %1 zgłasza błąd podczas zapisu plików.</translation>
+    </message>
+    <message>
+        <source>Check the drive, or choose another folder.</source>
+        <translation>Sprawdź dysk lub wybierz inny folder.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>Nie można zastąpić pliku %1: jest chroniony przed zapisem lub używany.</translation>
+    </message>
+    <message>
+        <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
+        <translation>W folderze %1 nie można niczego utworzyć: brak uprawnień.</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or start the setup as an administrator.</source>
+        <translation>Wybierz inny folder lub uruchom instalator jako administrator.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder is needed.</source>
+        <translation>%1 jest plikiem w miejscu, w którym potrzebny jest folder.</translation>
+    </message>
+    <message>
+        <source>Move the file to another place, and try again.</source>
+        <translation>Przenieś plik w inne miejsce i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The uninstaller of the previous version has failed.</source>
+        <translation>Dezinstalator poprzedniej wersji zakończył się niepowodzeniem.</translation>
+    </message>
+    <message>
+        <source>Uninstall the previous version yourself, and try again.</source>
+        <translation>Odinstaluj poprzednią wersję samodzielnie i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Nic nie zostało zmienione.</translation>
+    </message>
+    <message>
+        <source>A part of the previous version may already be removed.</source>
+        <translation>Część poprzedniej wersji mogła już zostać usunięta.</translation>
+    </message>
+    <message>
+        <source>The installation in %1 is incomplete: repeat it to use the program.</source>
+        <translation>Instalacja w folderze %1 jest niekompletna: powtórz ją, aby korzystać z programu.</translation>
+    </message>
+    <message>
+        <source>The files are in %1, but the program is not completely registered.</source>
+        <translation>Pliki są w folderze %1, ale program nie jest w pełni zarejestrowany.</translation>
+    </message>
+    <message>
         <source>Log file: %1</source>
         <translation>Plik dziennika: %1</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>Otwórz d&amp;ziennik</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be opened.</source>
+        <translation>Nie można otworzyć pliku dziennika %1.</translation>
     </message>
     <message>
         <source>Everything is in its place. You can begin right away.</source>
@@ -297,6 +437,26 @@
     <message>
         <source>Preparing...</source>
         <translation>Przygotowywanie...</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>Krok %1 z %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 z %2</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 na sekundę</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>Pozostało około %1 s</translation>
+    </message>
+    <message>
+        <source>About %1 min left</source>
+        <translation>Pozostało około %1 min</translation>
     </message>
     <message>
         <source>&amp;Start %1 now</source>
@@ -374,6 +534,10 @@
         <translation>Anulowano: niczego nie usunięto.</translation>
     </message>
     <message>
+        <source>A part of the program may already be removed.</source>
+        <translation>Część programu mogła już zostać usunięta.</translation>
+    </message>
+    <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
         <translation>%1 nie należy do programu i nie można go przenieść: nic nie zostało usunięte. Zamknij program, który go używa, i spróbuj ponownie.</translation>
     </message>
@@ -426,8 +590,8 @@
         <translation>&amp;Odinstaluj zainstalowany</translation>
     </message>
     <message>
-        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
-        <translation>Odinstalowywania nie można teraz zatrzymać: usuwane są pliki i ustawienia. Zakończy się za chwilę.</translation>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</source>
+        <translation>Odinstalowywania nie można teraz zatrzymać: usuwane są pliki i ustawienia. Zamknij okno po jego zakończeniu.</translation>
     </message>
     <message>
         <source>Thank you for having used it.</source>

@@ -107,6 +107,18 @@
         <translation>Espaço necessário: %1. Livre nesse local: %2.</translation>
     </message>
     <message>
+        <source>Space needed: %1.</source>
+        <translation>Espaço necessário: %1.</translation>
+    </message>
+    <message>
+        <source>The folder is being checked...</source>
+        <translation>Verificando a pasta...</translation>
+    </message>
+    <message>
+        <source>There is no drive %1 on this computer.</source>
+        <translation>Não há uma unidade %1 neste computador.</translation>
+    </message>
+    <message>
         <source>Installing %1</source>
         <translation>Instalando %1</translation>
     </message>
@@ -163,6 +175,46 @@
         <translation>I&amp;nstalar</translation>
     </message>
     <message>
+        <source>&amp;Close them and go on</source>
+        <translation>&amp;Fechar e continuar</translation>
+    </message>
+    <message>
+        <source>Close these programs first</source>
+        <translation>Feche primeiro estes programas</translation>
+    </message>
+    <message>
+        <source>They use files that are to be changed. Save your work in them.</source>
+        <translation>Eles usam arquivos que serão alterados. Salve o seu trabalho neles.</translation>
+    </message>
+    <message>
+        <source>Each is asked to close. What does not close is ended only if you agree.</source>
+        <translation>Pede-se a cada um que se feche. O que não se fechar só será encerrado se você concordar.</translation>
+    </message>
+    <message>
+        <source>Waiting until the programs have closed...</source>
+        <translation>Aguardando o fechamento dos programas...</translation>
+    </message>
+    <message>
+        <source>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</source>
+        <translation>São partes do Windows que não podem ser fechadas daqui: saia da conta ou reinicie o computador e tente novamente.</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1, processo %2</translation>
+    </message>
+    <message>
+        <source>%1 (without a window)</source>
+        <translation>%1 (sem janela)</translation>
+    </message>
+    <message>
+        <source>%1 (a part of the system)</source>
+        <translation>%1 (parte do sistema)</translation>
+    </message>
+    <message>
+        <source>Not closed: %1. End them now? What is not saved in them is lost.</source>
+        <translation>Não fechados: %1. Encerrar agora? O que não foi salvo neles será perdido.</translation>
+    </message>
+    <message>
         <source>U&amp;pdate</source>
         <translation>Atuali&amp;zar</translation>
     </message>
@@ -191,8 +243,8 @@
         <translation>&amp;Tentar novamente</translation>
     </message>
     <message>
-        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
-        <translation>A instalação não pode ser interrompida agora: arquivos e configurações estão sendo alterados. Ela termina em instantes.</translation>
+        <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>
+        <translation>A instalação não pode ser interrompida agora: arquivos e configurações estão sendo alterados. Feche a janela quando ela terminar.</translation>
     </message>
     <message>
         <source>Cancel the installation of %1?</source>
@@ -223,8 +275,96 @@
         <translation>Não foi possível instalar %1</translation>
     </message>
     <message>
+        <source>%1 is in use by %2.</source>
+        <translation>%1 está em uso por %2.</translation>
+    </message>
+    <message>
+        <source>Close the program, and try again.</source>
+        <translation>Feche o programa e tente novamente.</translation>
+    </message>
+    <message>
+        <source>%1 is running and cannot be ended.</source>
+        <translation>%1 está em execução e não pode ser encerrado.</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or cut off.</source>
+        <translation>O arquivo %1 está danificado ou incompleto.</translation>
+    </message>
+    <message>
+        <source>Download the setup again.</source>
+        <translation>Baixe o instalador novamente.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 is full: %2 are free.</source>
+        <translation>A unidade de %1 está cheia: há %2 livres.</translation>
+    </message>
+    <message>
+        <source>Make sure that %1 are free there, or choose another folder.</source>
+        <translation>Libere %1 nela ou escolha outra pasta.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 reports an error while files are written.</source>
+        <translation>A unidade de %1 informa um erro ao gravar arquivos.</translation>
+    </message>
+    <message>
+        <source>Check the drive, or choose another folder.</source>
+        <translation>Verifique a unidade ou escolha outra pasta.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>Não é possível substituir o arquivo %1: ele está protegido contra gravação ou em uso.</translation>
+    </message>
+    <message>
+        <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
+        <translation>Não é possível criar nada na pasta %1: faltam as permissões necessárias.</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or start the setup as an administrator.</source>
+        <translation>Escolha outra pasta ou inicie o instalador como administrador.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder is needed.</source>
+        <translation>%1 é um arquivo onde é necessária uma pasta.</translation>
+    </message>
+    <message>
+        <source>Move the file to another place, and try again.</source>
+        <translation>Mova o arquivo para outro lugar e tente novamente.</translation>
+    </message>
+    <message>
+        <source>The uninstaller of the previous version has failed.</source>
+        <translation>O desinstalador da versão anterior falhou.</translation>
+    </message>
+    <message>
+        <source>Uninstall the previous version yourself, and try again.</source>
+        <translation>Desinstale você mesmo a versão anterior e tente novamente.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Nada foi alterado.</translation>
+    </message>
+    <message>
+        <source>A part of the previous version may already be removed.</source>
+        <translation>Uma parte da versão anterior talvez já tenha sido removida.</translation>
+    </message>
+    <message>
+        <source>The installation in %1 is incomplete: repeat it to use the program.</source>
+        <translation>A instalação em %1 está incompleta: repita-a para usar o programa.</translation>
+    </message>
+    <message>
+        <source>The files are in %1, but the program is not completely registered.</source>
+        <translation>Os arquivos estão em %1, mas o programa não está totalmente registrado.</translation>
+    </message>
+    <message>
         <source>Log file: %1</source>
         <translation>Arquivo de log: %1</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>Abrir &amp;log</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be opened.</source>
+        <translation>Não é possível abrir o arquivo de log %1.</translation>
     </message>
     <message>
         <source>Everything is in its place. You can begin right away.</source>
@@ -297,6 +437,26 @@
     <message>
         <source>Preparing...</source>
         <translation>Preparando...</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>Etapa %1 de %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 por segundo</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>Faltam cerca de %1 s</translation>
+    </message>
+    <message>
+        <source>About %1 min left</source>
+        <translation>Faltam cerca de %1 min</translation>
     </message>
     <message>
         <source>&amp;Start %1 now</source>
@@ -374,6 +534,10 @@
         <translation>Cancelado: nada foi excluído.</translation>
     </message>
     <message>
+        <source>A part of the program may already be removed.</source>
+        <translation>Uma parte do programa talvez já tenha sido removida.</translation>
+    </message>
+    <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
         <translation>%1 não faz parte do programa e não pode ser movido: nada foi excluído. Feche o programa que o usa e tente novamente.</translation>
     </message>
@@ -426,8 +590,8 @@
         <translation>&amp;Desinstalar o instalado</translation>
     </message>
     <message>
-        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
-        <translation>A desinstalação não pode ser interrompida agora: arquivos e configurações estão sendo removidos. Ela termina em instantes.</translation>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</source>
+        <translation>A desinstalação não pode ser interrompida agora: arquivos e configurações estão sendo removidos. Feche a janela quando ela terminar.</translation>
     </message>
     <message>
         <source>Thank you for having used it.</source>

@@ -107,6 +107,18 @@
         <translation>Нужно места: %1. Свободно: %2.</translation>
     </message>
     <message>
+        <source>Space needed: %1.</source>
+        <translation>Нужно места: %1.</translation>
+    </message>
+    <message>
+        <source>The folder is being checked...</source>
+        <translation>Проверка папки...</translation>
+    </message>
+    <message>
+        <source>There is no drive %1 on this computer.</source>
+        <translation>На этом компьютере нет диска %1.</translation>
+    </message>
+    <message>
         <source>Installing %1</source>
         <translation>Установка %1</translation>
     </message>
@@ -163,6 +175,46 @@
         <translation>&amp;Установить</translation>
     </message>
     <message>
+        <source>&amp;Close them and go on</source>
+        <translation>&amp;Закрыть и продолжить</translation>
+    </message>
+    <message>
+        <source>Close these programs first</source>
+        <translation>Сначала закройте эти программы</translation>
+    </message>
+    <message>
+        <source>They use files that are to be changed. Save your work in them.</source>
+        <translation>Они используют файлы, которые будут изменены. Сохраните в них свою работу.</translation>
+    </message>
+    <message>
+        <source>Each is asked to close. What does not close is ended only if you agree.</source>
+        <translation>Каждой программе отправляется просьба закрыться. То, что не закроется, завершается только с вашего согласия.</translation>
+    </message>
+    <message>
+        <source>Waiting until the programs have closed...</source>
+        <translation>Ожидание закрытия программ...</translation>
+    </message>
+    <message>
+        <source>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</source>
+        <translation>Это части Windows, которые нельзя закрыть отсюда: выйдите из системы или перезагрузите компьютер и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1, процесс %2</translation>
+    </message>
+    <message>
+        <source>%1 (without a window)</source>
+        <translation>%1 (без окна)</translation>
+    </message>
+    <message>
+        <source>%1 (a part of the system)</source>
+        <translation>%1 (часть системы)</translation>
+    </message>
+    <message>
+        <source>Not closed: %1. End them now? What is not saved in them is lost.</source>
+        <translation>Не закрыты: %1. Завершить сейчас? Несохранённые данные будут потеряны.</translation>
+    </message>
+    <message>
         <source>U&amp;pdate</source>
         <translation>О&amp;бновить</translation>
     </message>
@@ -191,8 +243,8 @@
         <translation>&amp;Повторить</translation>
     </message>
     <message>
-        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
-        <translation>Сейчас установку нельзя остановить: изменяются файлы и настройки. Она скоро закончится.</translation>
+        <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>
+        <translation>Сейчас установку нельзя остановить: изменяются файлы и настройки. Закройте окно после её окончания.</translation>
     </message>
     <message>
         <source>Cancel the installation of %1?</source>
@@ -223,8 +275,96 @@
         <translation>Не удалось установить %1</translation>
     </message>
     <message>
+        <source>%1 is in use by %2.</source>
+        <translation>Файл %1 используется: %2.</translation>
+    </message>
+    <message>
+        <source>Close the program, and try again.</source>
+        <translation>Закройте программу и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>%1 is running and cannot be ended.</source>
+        <translation>Программа %1 работает, и её нельзя завершить.</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or cut off.</source>
+        <translation>Файл %1 повреждён или неполон.</translation>
+    </message>
+    <message>
+        <source>Download the setup again.</source>
+        <translation>Загрузите программу установки ещё раз.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 is full: %2 are free.</source>
+        <translation>Диск с папкой %1 заполнен: свободно %2.</translation>
+    </message>
+    <message>
+        <source>Make sure that %1 are free there, or choose another folder.</source>
+        <translation>Освободите там %1 или выберите другую папку.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 reports an error while files are written.</source>
+        <translation>Диск с папкой %1 сообщает об ошибке при записи файлов.</translation>
+    </message>
+    <message>
+        <source>Check the drive, or choose another folder.</source>
+        <translation>Проверьте диск или выберите другую папку.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>Файл %1 нельзя заменить: он защищён от записи или используется.</translation>
+    </message>
+    <message>
+        <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
+        <translation>В папке %1 ничего нельзя создать: нет прав на неё.</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or start the setup as an administrator.</source>
+        <translation>Выберите другую папку или запустите программу установки от имени администратора.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder is needed.</source>
+        <translation>%1 — это файл, а на его месте нужна папка.</translation>
+    </message>
+    <message>
+        <source>Move the file to another place, and try again.</source>
+        <translation>Переместите файл в другое место и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The uninstaller of the previous version has failed.</source>
+        <translation>Программа удаления предыдущей версии завершилась с ошибкой.</translation>
+    </message>
+    <message>
+        <source>Uninstall the previous version yourself, and try again.</source>
+        <translation>Удалите предыдущую версию сами и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Ничего не изменено.</translation>
+    </message>
+    <message>
+        <source>A part of the previous version may already be removed.</source>
+        <translation>Часть предыдущей версии, возможно, уже удалена.</translation>
+    </message>
+    <message>
+        <source>The installation in %1 is incomplete: repeat it to use the program.</source>
+        <translation>Установка в %1 не завершена: повторите её, чтобы пользоваться программой.</translation>
+    </message>
+    <message>
+        <source>The files are in %1, but the program is not completely registered.</source>
+        <translation>Файлы находятся в %1, но программа зарегистрирована не полностью.</translation>
+    </message>
+    <message>
         <source>Log file: %1</source>
         <translation>Файл журнала: %1</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>Открыть &amp;журнал</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be opened.</source>
+        <translation>Не удаётся открыть файл журнала %1.</translation>
     </message>
     <message>
         <source>Everything is in its place. You can begin right away.</source>
@@ -297,6 +437,26 @@
     <message>
         <source>Preparing...</source>
         <translation>Подготовка...</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>Шаг %1 из %2: %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 из %2</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>%1 в секунду</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>Осталось около %1 с</translation>
+    </message>
+    <message>
+        <source>About %1 min left</source>
+        <translation>Осталось около %1 мин</translation>
     </message>
     <message>
         <source>&amp;Start %1 now</source>
@@ -374,6 +534,10 @@
         <translation>Отменено: ничего не удалено.</translation>
     </message>
     <message>
+        <source>A part of the program may already be removed.</source>
+        <translation>Часть программы, возможно, уже удалена.</translation>
+    </message>
+    <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
         <translation>%1 не относится к программе, и его не удаётся переместить: ничего не удалено. Закройте программу, которая его использует, и повторите попытку.</translation>
     </message>
@@ -426,8 +590,8 @@
         <translation>&amp;Удалить установленную</translation>
     </message>
     <message>
-        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
-        <translation>Сейчас удаление нельзя остановить: удаляются файлы и настройки. Оно скоро закончится.</translation>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</source>
+        <translation>Сейчас удаление нельзя остановить: удаляются файлы и настройки. Закройте окно после его окончания.</translation>
     </message>
     <message>
         <source>Thank you for having used it.</source>

@@ -107,6 +107,18 @@
         <translation>Gereken alan: %1. Boş alan: %2.</translation>
     </message>
     <message>
+        <source>Space needed: %1.</source>
+        <translation>Gereken alan: %1.</translation>
+    </message>
+    <message>
+        <source>The folder is being checked...</source>
+        <translation>Klasör denetleniyor...</translation>
+    </message>
+    <message>
+        <source>There is no drive %1 on this computer.</source>
+        <translation>Bu bilgisayarda %1 sürücüsü yok.</translation>
+    </message>
+    <message>
         <source>Installing %1</source>
         <translation>%1 yükleniyor</translation>
     </message>
@@ -163,6 +175,46 @@
         <translation>&amp;Yükle</translation>
     </message>
     <message>
+        <source>&amp;Close them and go on</source>
+        <translation>&amp;Kapat ve sürdür</translation>
+    </message>
+    <message>
+        <source>Close these programs first</source>
+        <translation>Önce bu programları kapatın</translation>
+    </message>
+    <message>
+        <source>They use files that are to be changed. Save your work in them.</source>
+        <translation>Değiştirilecek dosyaları kullanıyorlar. Bu programlardaki çalışmalarınızı kaydedin.</translation>
+    </message>
+    <message>
+        <source>Each is asked to close. What does not close is ended only if you agree.</source>
+        <translation>Her birinden kapanması istenir. Kapanmayanlar yalnızca siz onaylarsanız sonlandırılır.</translation>
+    </message>
+    <message>
+        <source>Waiting until the programs have closed...</source>
+        <translation>Programların kapanması bekleniyor...</translation>
+    </message>
+    <message>
+        <source>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</source>
+        <translation>Bunlar buradan kapatılamayan Windows bileşenleridir: oturumu kapatın veya bilgisayarı yeniden başlatıp yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1, işlem %2</translation>
+    </message>
+    <message>
+        <source>%1 (without a window)</source>
+        <translation>%1 (penceresi yok)</translation>
+    </message>
+    <message>
+        <source>%1 (a part of the system)</source>
+        <translation>%1 (sistem bileşeni)</translation>
+    </message>
+    <message>
+        <source>Not closed: %1. End them now? What is not saved in them is lost.</source>
+        <translation>Kapanmayanlar: %1. Şimdi sonlandırılsın mı? Kaydedilmeyenler kaybolur.</translation>
+    </message>
+    <message>
         <source>U&amp;pdate</source>
         <translation>Gü&amp;ncelle</translation>
     </message>
@@ -191,8 +243,8 @@
         <translation>&amp;Yeniden dene</translation>
     </message>
     <message>
-        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
-        <translation>Yükleme şu anda durdurulamaz: dosyalar ve ayarlar değiştiriliyor. Birazdan bitecek.</translation>
+        <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>
+        <translation>Yükleme şu anda durdurulamaz: dosyalar ve ayarlar değiştiriliyor. Bittiğinde pencereyi kapatın.</translation>
     </message>
     <message>
         <source>Cancel the installation of %1?</source>
@@ -223,8 +275,96 @@
         <translation>%1 yüklenemedi</translation>
     </message>
     <message>
+        <source>%1 is in use by %2.</source>
+        <translation>%1 şu program tarafından kullanılıyor: %2.</translation>
+    </message>
+    <message>
+        <source>Close the program, and try again.</source>
+        <translation>Programı kapatıp yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>%1 is running and cannot be ended.</source>
+        <translation>%1 çalışıyor ve sonlandırılamıyor.</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or cut off.</source>
+        <translation>%1 dosyası bozuk veya eksik.</translation>
+    </message>
+    <message>
+        <source>Download the setup again.</source>
+        <translation>Kurulum programını yeniden indirin.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 is full: %2 are free.</source>
+        <translation>%1 klasörünün sürücüsü dolu: %2 boş.</translation>
+    </message>
+    <message>
+        <source>Make sure that %1 are free there, or choose another folder.</source>
+        <translation>Orada %1 yer açın veya başka bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>The drive with %1 reports an error while files are written.</source>
+        <translation>%1 klasörünün sürücüsü, dosyalar yazılırken hata bildiriyor.</translation>
+    </message>
+    <message>
+        <source>Check the drive, or choose another folder.</source>
+        <translation>Sürücüyü denetleyin veya başka bir klasör seçin.</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>%1 dosyası değiştirilemiyor: yazmaya karşı korumalı veya kullanımda.</translation>
+    </message>
+    <message>
+        <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
+        <translation>%1 klasöründe hiçbir şey oluşturulamıyor: gerekli haklar yok.</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or start the setup as an administrator.</source>
+        <translation>Başka bir klasör seçin veya kurulum programını yönetici olarak başlatın.</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder is needed.</source>
+        <translation>%1 bir dosya, oysa orada bir klasör gerekiyor.</translation>
+    </message>
+    <message>
+        <source>Move the file to another place, and try again.</source>
+        <translation>Dosyayı başka bir yere taşıyıp yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The uninstaller of the previous version has failed.</source>
+        <translation>Önceki sürümün kaldırma programı başarısız oldu.</translation>
+    </message>
+    <message>
+        <source>Uninstall the previous version yourself, and try again.</source>
+        <translation>Önceki sürümü kendiniz kaldırıp yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>Hiçbir şey değiştirilmedi.</translation>
+    </message>
+    <message>
+        <source>A part of the previous version may already be removed.</source>
+        <translation>Önceki sürümün bir bölümü kaldırılmış olabilir.</translation>
+    </message>
+    <message>
+        <source>The installation in %1 is incomplete: repeat it to use the program.</source>
+        <translation>%1 klasöründeki yükleme eksik: programı kullanmak için yüklemeyi yineleyin.</translation>
+    </message>
+    <message>
+        <source>The files are in %1, but the program is not completely registered.</source>
+        <translation>Dosyalar %1 klasöründe, ancak programın kaydı tamamlanmadı.</translation>
+    </message>
+    <message>
         <source>Log file: %1</source>
         <translation>Günlük dosyası: %1</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>Günlüğü &amp;aç</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be opened.</source>
+        <translation>%1 günlük dosyası açılamıyor.</translation>
     </message>
     <message>
         <source>Everything is in its place. You can begin right away.</source>
@@ -297,6 +437,26 @@
     <message>
         <source>Preparing...</source>
         <translation>Hazırlanıyor...</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>Adım %1/%2: %3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>saniyede %1</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>Yaklaşık %1 sn kaldı</translation>
+    </message>
+    <message>
+        <source>About %1 min left</source>
+        <translation>Yaklaşık %1 dk kaldı</translation>
     </message>
     <message>
         <source>&amp;Start %1 now</source>
@@ -374,6 +534,10 @@
         <translation>İptal edildi: hiçbir şey silinmedi.</translation>
     </message>
     <message>
+        <source>A part of the program may already be removed.</source>
+        <translation>Programın bir bölümü kaldırılmış olabilir.</translation>
+    </message>
+    <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
         <translation>%1 programın parçası değil ve taşınamıyor: hiçbir şey silinmedi. Onu kullanan programı kapatıp yeniden deneyin.</translation>
     </message>
@@ -426,8 +590,8 @@
         <translation>&amp;Yüklü olanı kaldır</translation>
     </message>
     <message>
-        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
-        <translation>Kaldırma şu anda durdurulamaz: dosyalar ve ayarlar kaldırılıyor. Birazdan bitecek.</translation>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</source>
+        <translation>Kaldırma şu anda durdurulamaz: dosyalar ve ayarlar kaldırılıyor. Bittiğinde pencereyi kapatın.</translation>
     </message>
     <message>
         <source>Thank you for having used it.</source>

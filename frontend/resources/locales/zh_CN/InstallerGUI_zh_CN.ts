@@ -107,6 +107,18 @@
         <translation>所需空间：%1。可用空间：%2。</translation>
     </message>
     <message>
+        <source>Space needed: %1.</source>
+        <translation>所需空间：%1。</translation>
+    </message>
+    <message>
+        <source>The folder is being checked...</source>
+        <translation>正在检查文件夹...</translation>
+    </message>
+    <message>
+        <source>There is no drive %1 on this computer.</source>
+        <translation>此计算机上没有驱动器 %1。</translation>
+    </message>
+    <message>
         <source>Installing %1</source>
         <translation>正在安装 %1</translation>
     </message>
@@ -163,6 +175,46 @@
         <translation>安装(&amp;I)</translation>
     </message>
     <message>
+        <source>&amp;Close them and go on</source>
+        <translation>关闭并继续(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close these programs first</source>
+        <translation>请先关闭这些程序</translation>
+    </message>
+    <message>
+        <source>They use files that are to be changed. Save your work in them.</source>
+        <translation>它们正在使用将要更改的文件。请保存其中的工作。</translation>
+    </message>
+    <message>
+        <source>Each is asked to close. What does not close is ended only if you agree.</source>
+        <translation>将请求每个程序关闭。未关闭的程序只有在您同意后才会结束。</translation>
+    </message>
+    <message>
+        <source>Waiting until the programs have closed...</source>
+        <translation>正在等待程序关闭...</translation>
+    </message>
+    <message>
+        <source>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</source>
+        <translation>它们是 Windows 的组成部分，无法从这里关闭：请注销或重新启动计算机，然后重试。</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1，进程 %2</translation>
+    </message>
+    <message>
+        <source>%1 (without a window)</source>
+        <translation>%1（无窗口）</translation>
+    </message>
+    <message>
+        <source>%1 (a part of the system)</source>
+        <translation>%1（系统组件）</translation>
+    </message>
+    <message>
+        <source>Not closed: %1. End them now? What is not saved in them is lost.</source>
+        <translation>未关闭：%1。现在结束吗？其中未保存的内容将会丢失。</translation>
+    </message>
+    <message>
         <source>U&amp;pdate</source>
         <translation>更新(&amp;P)</translation>
     </message>
@@ -191,8 +243,8 @@
         <translation>重试(&amp;T)</translation>
     </message>
     <message>
-        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
-        <translation>正在更改文件和设置，现在不能停止安装。马上就会完成。</translation>
+        <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>
+        <translation>正在更改文件和设置，现在不能停止安装。请在完成后关闭窗口。</translation>
     </message>
     <message>
         <source>Cancel the installation of %1?</source>
@@ -223,8 +275,96 @@
         <translation>无法安装 %1</translation>
     </message>
     <message>
+        <source>%1 is in use by %2.</source>
+        <translation>%1 正在被 %2 使用。</translation>
+    </message>
+    <message>
+        <source>Close the program, and try again.</source>
+        <translation>请关闭该程序，然后重试。</translation>
+    </message>
+    <message>
+        <source>%1 is running and cannot be ended.</source>
+        <translation>%1 正在运行，无法结束。</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or cut off.</source>
+        <translation>文件 %1 已损坏或不完整。</translation>
+    </message>
+    <message>
+        <source>Download the setup again.</source>
+        <translation>请重新下载安装程序。</translation>
+    </message>
+    <message>
+        <source>The drive with %1 is full: %2 are free.</source>
+        <translation>%1 所在的驱动器已满：可用空间为 %2。</translation>
+    </message>
+    <message>
+        <source>Make sure that %1 are free there, or choose another folder.</source>
+        <translation>请在该处腾出 %1 空间，或选择其他文件夹。</translation>
+    </message>
+    <message>
+        <source>The drive with %1 reports an error while files are written.</source>
+        <translation>%1 所在的驱动器在写入文件时报告错误。</translation>
+    </message>
+    <message>
+        <source>Check the drive, or choose another folder.</source>
+        <translation>请检查驱动器，或选择其他文件夹。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>无法替换文件 %1：它被写保护或正在使用。</translation>
+    </message>
+    <message>
+        <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
+        <translation>无法在文件夹 %1 中创建任何内容：没有所需的权限。</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or start the setup as an administrator.</source>
+        <translation>请选择其他文件夹，或以管理员身份运行安装程序。</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder is needed.</source>
+        <translation>%1 是文件，但此处需要文件夹。</translation>
+    </message>
+    <message>
+        <source>Move the file to another place, and try again.</source>
+        <translation>请将该文件移到其他位置，然后重试。</translation>
+    </message>
+    <message>
+        <source>The uninstaller of the previous version has failed.</source>
+        <translation>以前版本的卸载程序失败。</translation>
+    </message>
+    <message>
+        <source>Uninstall the previous version yourself, and try again.</source>
+        <translation>请自行卸载以前的版本，然后重试。</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>未更改任何内容。</translation>
+    </message>
+    <message>
+        <source>A part of the previous version may already be removed.</source>
+        <translation>以前版本的一部分可能已被删除。</translation>
+    </message>
+    <message>
+        <source>The installation in %1 is incomplete: repeat it to use the program.</source>
+        <translation>%1 中的安装不完整：请重新安装后再使用程序。</translation>
+    </message>
+    <message>
+        <source>The files are in %1, but the program is not completely registered.</source>
+        <translation>文件已在 %1 中，但程序尚未完全注册。</translation>
+    </message>
+    <message>
         <source>Log file: %1</source>
         <translation>日志文件：%1</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>打开日志(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be opened.</source>
+        <translation>无法打开日志文件 %1。</translation>
     </message>
     <message>
         <source>Everything is in its place. You can begin right away.</source>
@@ -297,6 +437,26 @@
     <message>
         <source>Preparing...</source>
         <translation>正在准备...</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>第 %1 步，共 %2 步：%3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>每秒 %1</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>剩余约 %1 秒</translation>
+    </message>
+    <message>
+        <source>About %1 min left</source>
+        <translation>剩余约 %1 分钟</translation>
     </message>
     <message>
         <source>&amp;Start %1 now</source>
@@ -374,6 +534,10 @@
         <translation>已取消：没有删除任何内容。</translation>
     </message>
     <message>
+        <source>A part of the program may already be removed.</source>
+        <translation>程序的一部分可能已被删除。</translation>
+    </message>
+    <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
         <translation>%1 不属于本程序，且无法移开: 未删除任何内容。请关闭使用它的程序，然后重试。</translation>
     </message>
@@ -426,8 +590,8 @@
         <translation>卸载已安装的程序(&amp;U)</translation>
     </message>
     <message>
-        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
-        <translation>正在删除文件和设置，现在不能停止卸载。马上就会完成。</translation>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</source>
+        <translation>正在删除文件和设置，现在不能停止卸载。请在完成后关闭窗口。</translation>
     </message>
     <message>
         <source>Thank you for having used it.</source>

@@ -107,6 +107,18 @@
         <translation>所需空間：%1。可用空間：%2。</translation>
     </message>
     <message>
+        <source>Space needed: %1.</source>
+        <translation>所需空間：%1。</translation>
+    </message>
+    <message>
+        <source>The folder is being checked...</source>
+        <translation>正在檢查資料夾...</translation>
+    </message>
+    <message>
+        <source>There is no drive %1 on this computer.</source>
+        <translation>此電腦上沒有磁碟機 %1。</translation>
+    </message>
+    <message>
         <source>Installing %1</source>
         <translation>正在安裝 %1</translation>
     </message>
@@ -163,6 +175,46 @@
         <translation>安裝(&amp;I)</translation>
     </message>
     <message>
+        <source>&amp;Close them and go on</source>
+        <translation>關閉並繼續(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close these programs first</source>
+        <translation>請先關閉這些程式</translation>
+    </message>
+    <message>
+        <source>They use files that are to be changed. Save your work in them.</source>
+        <translation>它們正在使用即將變更的檔案。請儲存其中的工作。</translation>
+    </message>
+    <message>
+        <source>Each is asked to close. What does not close is ended only if you agree.</source>
+        <translation>會要求每個程式關閉。未關閉的程式只有在您同意後才會結束。</translation>
+    </message>
+    <message>
+        <source>Waiting until the programs have closed...</source>
+        <translation>正在等待程式關閉...</translation>
+    </message>
+    <message>
+        <source>They are parts of Windows, which cannot be closed from here: sign out or restart the computer, and try again.</source>
+        <translation>它們是 Windows 的一部分，無法從這裡關閉：請登出或重新啟動電腦，然後再試一次。</translation>
+    </message>
+    <message>
+        <source>%1, process %2</source>
+        <translation>%1，處理程序 %2</translation>
+    </message>
+    <message>
+        <source>%1 (without a window)</source>
+        <translation>%1（無視窗）</translation>
+    </message>
+    <message>
+        <source>%1 (a part of the system)</source>
+        <translation>%1（系統元件）</translation>
+    </message>
+    <message>
+        <source>Not closed: %1. End them now? What is not saved in them is lost.</source>
+        <translation>未關閉：%1。現在結束嗎？其中未儲存的內容將會遺失。</translation>
+    </message>
+    <message>
         <source>U&amp;pdate</source>
         <translation>更新(&amp;P)</translation>
     </message>
@@ -191,8 +243,8 @@
         <translation>重試(&amp;T)</translation>
     </message>
     <message>
-        <source>The installation cannot be stopped now: files and settings are being changed. It ends in a moment.</source>
-        <translation>正在變更檔案和設定，現在無法停止安裝。很快就會完成。</translation>
+        <source>The installation cannot be stopped now: files and settings are being changed. Close the window when it has ended.</source>
+        <translation>正在變更檔案和設定，現在無法停止安裝。請在完成後關閉視窗。</translation>
     </message>
     <message>
         <source>Cancel the installation of %1?</source>
@@ -223,8 +275,96 @@
         <translation>無法安裝 %1</translation>
     </message>
     <message>
+        <source>%1 is in use by %2.</source>
+        <translation>%1 正由 %2 使用中。</translation>
+    </message>
+    <message>
+        <source>Close the program, and try again.</source>
+        <translation>請關閉該程式，然後再試一次。</translation>
+    </message>
+    <message>
+        <source>%1 is running and cannot be ended.</source>
+        <translation>%1 正在執行，無法結束。</translation>
+    </message>
+    <message>
+        <source>The file %1 is damaged or cut off.</source>
+        <translation>檔案 %1 已損毀或不完整。</translation>
+    </message>
+    <message>
+        <source>Download the setup again.</source>
+        <translation>請重新下載安裝程式。</translation>
+    </message>
+    <message>
+        <source>The drive with %1 is full: %2 are free.</source>
+        <translation>%1 所在的磁碟機已滿：可用空間為 %2。</translation>
+    </message>
+    <message>
+        <source>Make sure that %1 are free there, or choose another folder.</source>
+        <translation>請在該處騰出 %1 空間，或選擇其他資料夾。</translation>
+    </message>
+    <message>
+        <source>The drive with %1 reports an error while files are written.</source>
+        <translation>%1 所在的磁碟機在寫入檔案時回報錯誤。</translation>
+    </message>
+    <message>
+        <source>Check the drive, or choose another folder.</source>
+        <translation>請檢查磁碟機，或選擇其他資料夾。</translation>
+    </message>
+    <message>
+        <source>The file %1 cannot be replaced: it is write-protected or in use.</source>
+        <translation>無法取代檔案 %1：它受到寫入保護或正在使用中。</translation>
+    </message>
+    <message>
+        <source>Nothing can be created in the folder %1: the rights to it are missing.</source>
+        <translation>無法在資料夾 %1 中建立任何項目：沒有所需的權限。</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or start the setup as an administrator.</source>
+        <translation>請選擇其他資料夾，或以系統管理員身分執行安裝程式。</translation>
+    </message>
+    <message>
+        <source>%1 is a file where a folder is needed.</source>
+        <translation>%1 是檔案，但此處需要資料夾。</translation>
+    </message>
+    <message>
+        <source>Move the file to another place, and try again.</source>
+        <translation>請將該檔案移到其他位置，然後再試一次。</translation>
+    </message>
+    <message>
+        <source>The uninstaller of the previous version has failed.</source>
+        <translation>先前版本的解除安裝程式失敗。</translation>
+    </message>
+    <message>
+        <source>Uninstall the previous version yourself, and try again.</source>
+        <translation>請自行解除安裝先前的版本，然後再試一次。</translation>
+    </message>
+    <message>
+        <source>Nothing was changed.</source>
+        <translation>未變更任何內容。</translation>
+    </message>
+    <message>
+        <source>A part of the previous version may already be removed.</source>
+        <translation>先前版本的一部分可能已被移除。</translation>
+    </message>
+    <message>
+        <source>The installation in %1 is incomplete: repeat it to use the program.</source>
+        <translation>%1 中的安裝不完整：請重新安裝後再使用程式。</translation>
+    </message>
+    <message>
+        <source>The files are in %1, but the program is not completely registered.</source>
+        <translation>檔案已在 %1 中，但程式尚未完全登錄。</translation>
+    </message>
+    <message>
         <source>Log file: %1</source>
         <translation>記錄檔：%1</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>開啟記錄檔(&amp;L)</translation>
+    </message>
+    <message>
+        <source>The log file %1 cannot be opened.</source>
+        <translation>無法開啟記錄檔 %1。</translation>
     </message>
     <message>
         <source>Everything is in its place. You can begin right away.</source>
@@ -297,6 +437,26 @@
     <message>
         <source>Preparing...</source>
         <translation>正在準備...</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2: %3</source>
+        <translation>步驟 %1 / %2：%3</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>%1 per second</source>
+        <translation>每秒 %1</translation>
+    </message>
+    <message>
+        <source>About %1 s left</source>
+        <translation>剩餘約 %1 秒</translation>
+    </message>
+    <message>
+        <source>About %1 min left</source>
+        <translation>剩餘約 %1 分鐘</translation>
     </message>
     <message>
         <source>&amp;Start %1 now</source>
@@ -374,6 +534,10 @@
         <translation>已取消：沒有刪除任何內容。</translation>
     </message>
     <message>
+        <source>A part of the program may already be removed.</source>
+        <translation>程式的一部分可能已被移除。</translation>
+    </message>
+    <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
         <translation>%1 不屬於本程式，且無法移開: 未刪除任何內容。請關閉使用它的程式，然後重試。</translation>
     </message>
@@ -426,8 +590,8 @@
         <translation>解除安裝已安裝的程式(&amp;U)</translation>
     </message>
     <message>
-        <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
-        <translation>正在移除檔案和設定，現在無法停止解除安裝。很快就會完成。</translation>
+        <source>The uninstallation cannot be stopped now: files and settings are being removed. Close the window when it has ended.</source>
+        <translation>正在移除檔案和設定，現在無法停止解除安裝。請在完成後關閉視窗。</translation>
     </message>
     <message>
         <source>Thank you for having used it.</source>

@@ -1,0 +1,129 @@
+#include "wizard/FolderCheck.h"
+
+#include "FreeSpace.h"
+#include "base/InstallationSettings.h"
+#include "wizard/Texts.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QMutex>
+#include <QRegularExpression>
+
+#include <system_error>
+#include <thread>
+#include <utility>
+
+namespace Vorlan::FrontEnd
+{
+namespace
+{
+
+constexpr int mostExaminations = 4;
+
+// The drive of the path that the system does not have; empty if there is none.
+QString MissingDrive(const QString& path)
+{
+    const QString drive = QRegularExpression("^([A-Za-z]:)[\\\\/]").match(path).captured(1);
+    return drive.isEmpty() || QDir(drive + '/').exists() ? QString() : drive.toUpper();
+}
+
+} // namespace
+
+FolderState ExamineFolder(const QString& folder, quint64 neededBytes)
+{
+    FolderState state;
+    const QString drive = MissingDrive(folder);
+    if (!drive.isEmpty())
+    {
+        state.objection = WizardText("There is no drive %1 on this computer.").arg(drive);
+        return state;
+    }
+    if (!InstallationSettings::IsValidPath(folder, 0, state.objection))
+        return state;
+    const auto needed = static_cast<qint64>(neededBytes);
+    state.freeBytes = FreeSpace(folder);
+    if (state.freeBytes && *state.freeBytes < needed)
+        InstallationSettings::IsValidPath(folder, needed, state.objection);
+    return state;
+}
+
+// Where the threads find the object, as long as it exists.
+struct FolderCheck::Relay
+{
+    explicit Relay(FolderCheck* check) : target(check) {}
+
+    void Send(quint64 number, const FolderState& result)
+    {
+        const QMutexLocker lock(&mutex);
+        if (target != nullptr)
+            QMetaObject::invokeMethod(
+                target, [check = target, number, result] { check->Take(number, result); },
+                Qt::QueuedConnection);
+    }
+
+    QMutex mutex;
+    FolderCheck* target;
+    Examine examine;
+};
+
+FolderCheck::FolderCheck(Examine examine) : relay(std::make_shared<Relay>(this))
+{
+    relay->examine = std::move(examine);
+}
+
+FolderCheck::~FolderCheck()
+{
+    const QMutexLocker lock(&relay->mutex);
+    relay->target = nullptr;
+}
+
+void FolderCheck::Begin(const QString& folder)
+{
+    latest = folder;
+    ++latestNumber;
+    isRunning = true;
+    waiting = {};
+    if (running < mostExaminations)
+        StartExamination();
+}
+
+void FolderCheck::WhenKnown(std::function<void(const FolderState&)> function)
+{
+    if (!isRunning)
+        return function(state);
+    waiting = std::move(function);
+}
+
+// The thread is not waited for: it may be held by the disk when the program ends.
+void FolderCheck::StartExamination()
+{
+    ++running;
+    startedNumber = latestNumber;
+    const auto work = [relay = relay, folder = latest, number = latestNumber]
+    { relay->Send(number, relay->examine(folder)); };
+    try
+    {
+        std::thread(work).detach();
+    }
+    catch (const std::system_error& error)
+    {
+        qWarning() << "The folder is examined without a thread:" << error.what();
+        work();
+    }
+}
+
+void FolderCheck::Take(quint64 number, const FolderState& result)
+{
+    --running;
+    if (startedNumber != latestNumber)
+        StartExamination();
+    if (number != latestNumber)
+        return;
+    isRunning = false;
+    state = result;
+    finished();
+    if (const auto function = std::exchange(waiting, {}))
+        function(state);
+}
+
+} // namespace Vorlan::FrontEnd
