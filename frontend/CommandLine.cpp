@@ -56,6 +56,8 @@ constexpr std::array allOptions{
     Flag("S", &CommandLine::silent, "run without any window"),
     Flag("VERYSILENT", &CommandLine::silent),
     Flag("quiet", &CommandLine::silent),
+    Flag("PASSIVE", &CommandLine::passive,
+        "run with a window that shows the progress, and ask nothing"),
     Flag("UNINSTALL", &CommandLine::uninstall, "uninstall instead of install"),
     Value("D", &CommandLine::folder, "<folder>", "install into this folder"),
     Value("DIR", &CommandLine::folder, "<folder>"),
@@ -75,6 +77,8 @@ constexpr std::array allOptions{
     Flag("REMOVEALL", &CommandLine::removeAll, "uninstall: remove additional modules and all data"),
     Flag("DELETESETTINGS", &CommandLine::deleteSettings, "uninstall: delete the user's settings"),
     Flag("IGNORE_MUTEX", &CommandLine::ignoreMutex, "run even beside another setup"),
+    Value("ELEVATED", &CommandLine::elevated, "<id>",
+        "from the program itself when it restarts itself with administrator rights"),
     Flag("PROGRESS", &CommandLine::progress, "silent: show stages and a progress bar"),
     Flag("JSON", &CommandLine::json, "silent: print one line of JSON per event"),
     Flag("?", &CommandLine::help, "show this text"),
@@ -170,6 +174,37 @@ private:
     QString value;
 };
 
+// The word for what is stored; empty if it is not given.
+class WordMaker
+{
+public:
+    WordMaker(const CommandLine& source, const Option& described)
+        : options(source), option(described)
+    {
+    }
+
+    QString operator()(Switch flag) const { return options.*flag ? Word({}) : QString(); }
+    QString operator()(const Answer&) const { return {}; } // see Choice
+    QString operator()(Text text) const
+    {
+        return (options.*text).isEmpty() ? QString() : Word('=' + options.*text);
+    }
+    QString operator()(Choice choice) const
+    {
+        if (!(options.*choice))
+        {
+            return {};
+        }
+        return Word(*(options.*choice) ? "=yes" : "=no");
+    }
+
+private:
+    QString Word(const QString& value) const { return '/' + QString(option.name) + value; }
+
+    const CommandLine& options;
+    const Option& option;
+};
+
 // Applies one word to the options; returns an error text, or an empty text.
 QString ApplyWord(const QString& word, CommandLine& options)
 {
@@ -261,6 +296,22 @@ ParsedCommandLine ParseCommandLine(const QStringList& arguments)
     return parsed;
 }
 
+QStringList WordsFor(const CommandLine& options)
+{
+    QStringList words;
+    for (const Option& option : allOptions)
+    {
+        const bool isFirstName = option.help != nullptr;
+        const QString word =
+            isFirstName ? std::visit(WordMaker(options, option), option.target) : QString();
+        if (!word.isEmpty())
+        {
+            words << word;
+        }
+    }
+    return words;
+}
+
 CommandLine WithAbsolutePaths(CommandLine options, const QDir& startFolder)
 {
     for (QString* path : {&options.folder, &options.logFile, &options.loadFile, &options.saveFile})
@@ -270,6 +321,7 @@ CommandLine WithAbsolutePaths(CommandLine options, const QDir& startFolder)
             *path = QDir::cleanPath(startFolder.absoluteFilePath(*path));
         }
     }
+    options.isLogChosen = !options.logFile.isEmpty();
     return options;
 }
 

@@ -9,7 +9,7 @@ namespace Vorlan::FrontEnd
 // The proposed settings, changed by the options.
 InstallationSettings ApplyOptions(InstallationSettings settings, const CommandLine& options);
 
-// The words of a command line that passes these settings to another process.
-QStringList WordsFor(const InstallationSettings& settings);
+// The options, changed so that they ask for these settings.
+CommandLine OptionsFor(const InstallationSettings& settings, CommandLine options);
 
 } // namespace Vorlan::FrontEnd

@@ -1,5 +1,7 @@
 #include "InstallRun.h"
 
+#include "ElevatedRun.h"
+#include "InstallOptions.h"
 #include "MediatorRun.h"
 #include "RemovalMark.h"
 
@@ -69,6 +71,14 @@ Outcome InstallWith(
     mediator.SetSettings(settings);
     mediator.OnLocaleChanged(settings.locale);
     return RunToTheEnd(mediator, &InstallerMediator::StartInstallation, sink);
+}
+
+std::optional<Outcome> InstallElevated(InstallerMediator& mediator,
+    const InstallationSettings& settings, const CommandLine& options, const EventSink& sink)
+{
+    mediator.SetSettings(settings);
+    return RunElevated(
+        QCoreApplication::applicationFilePath(), OptionsFor(settings, options), sink);
 }
 
 } // namespace Vorlan::FrontEnd

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CommandLine.h"
 #include "Outcome.h"
 #include "RunEvent.h"
 #include "base/InstallationSettings.h"
@@ -8,6 +9,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace Vorlan
 {
@@ -30,5 +32,10 @@ std::unique_ptr<InstallerMediator> MakeInstaller(QSettings::Scope scope, bool is
 // not begun yet.
 Outcome InstallWith(
     InstallerMediator& mediator, InstallationSettings settings, const EventSink& sink);
+
+// The same in another process with administrator rights. No value if the user refuses them. The
+// mediator then has these settings, as after a run of its own.
+std::optional<Outcome> InstallElevated(InstallerMediator& mediator,
+    const InstallationSettings& settings, const CommandLine& options, const EventSink& sink);
 
 } // namespace Vorlan::FrontEnd

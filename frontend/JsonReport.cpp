@@ -97,6 +97,10 @@ void WriteJsonOutcome(std::ostream& out, const Outcome& outcome)
     {
         line.insert("error", outcome.error);
     }
+    if (!outcome.logFile.isEmpty())
+    {
+        line.insert("logFile", outcome.logFile);
+    }
     WriteLine(out, line);
 }
 

@@ -12,6 +12,7 @@ struct Outcome
 {
     ExitCode code = ExitCode::Done;
     QString error;
+    QString logFile = {}; // after a failure: the log of the process that has performed the run
 };
 
 } // namespace Vorlan::FrontEnd

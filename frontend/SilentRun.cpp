@@ -1,5 +1,6 @@
 #include "SilentRun.h"
 
+#include "ElevatedRun.h"
 #include "InstallOptions.h"
 #include "InstallRun.h"
 #include "MachineAccess.h"
@@ -24,6 +25,15 @@ namespace
 Outcome Failure(const QString& error)
 {
     return {ExitCode::Failed, error};
+}
+
+// A run with a window has the rights confirmed; one without does not ask.
+Outcome RunWithoutRights(const CommandLine& options, const QString& refusal, const EventSink& sink)
+{
+    const auto outcome = options.passive
+                             ? RunElevated(QCoreApplication::applicationFilePath(), options, sink)
+                             : std::nullopt;
+    return outcome.value_or(Failure(refusal));
 }
 
 // The engine reports a missing archive in a modal box, which an unattended run must not open.
@@ -56,6 +66,7 @@ Outcome CheckFolder(const InstallationSettings& settings)
 Outcome InstallWithOptions(
     InstallerMediator& mediator, const CommandLine& options, const EventSink& sink)
 {
+    mediator.NotifyExtractorOnReady();
     InstallationSettings settings = ApplyOptions(mediator.GetSettings(), options);
     const auto translator = InstallTranslation(settings.locale);
     Outcome refusal = CheckFolder(settings);
@@ -78,7 +89,7 @@ Outcome InstallSilently(const CommandLine& options, const EventSink& sink)
     }
     if (options.allUsers && !CanChangeMachine())
     {
-        return Failure(MachineRightsMissing());
+        return RunWithoutRights(options, MachineRightsMissing(), sink);
     }
     try
     {
@@ -100,7 +111,7 @@ Outcome UninstallSilently(const CommandLine& options, const EventSink& sink)
     }
     if (own.scope == QSettings::SystemScope && !CanChangeMachine())
     {
-        return Failure(MachineRightsMissing());
+        return RunWithoutRights(options, UninstallRightsMissing(), sink);
     }
     const auto mediator = MakeUninstaller(own.scope, options, true);
     const auto translator = InstallTranslation(mediator->GetSettings().locale);

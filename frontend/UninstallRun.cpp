@@ -1,5 +1,6 @@
 #include "UninstallRun.h"
 
+#include "ElevatedRun.h"
 #include "MediatorRun.h"
 #include "RemovalGuard.h"
 #include "RemovalMark.h"
@@ -84,6 +85,13 @@ Outcome UninstallWith(InstallerMediator& mediator, const QString& folder,
         mark.Finish();
     }
     return outcome;
+}
+
+std::optional<Outcome> UninstallElevated(CommandLine options, const EventSink& sink)
+{
+    options.uninstall = true;
+    options.allUsers = true;
+    return RunElevated(QCoreApplication::applicationFilePath(), options, sink);
 }
 
 } // namespace Vorlan::FrontEnd

@@ -5,6 +5,7 @@
 #include "RunEvent.h"
 
 #include <memory>
+#include <optional>
 
 namespace Vorlan
 {
@@ -23,5 +24,9 @@ std::unique_ptr<InstallerMediator> MakeUninstaller(
 // caller has checked that the folder is the product's.
 Outcome UninstallWith(InstallerMediator& mediator, const QString& folder,
     const CommandLine& options, const EventSink& sink);
+
+// Uninstalls the product of all users in another process with administrator rights. No value if the
+// user refuses them.
+std::optional<Outcome> UninstallElevated(CommandLine options, const EventSink& sink);
 
 } // namespace Vorlan::FrontEnd

@@ -59,6 +59,7 @@ void InstallWizard::MakePages()
     for (Page* page : std::initializer_list<Page*>{welcome, destination, optionsPage, progress})
         window.Add(page);
     welcome->languageChosen = [this](const QString& locale) { SetLanguage(locale); };
+    optionsPage->scopeChanged = [this] { window.SetLabels(Labels()); };
     welcome->linkFollowed = [this](const QString& target) { FollowLink(target); };
 }
 
@@ -96,7 +97,7 @@ ButtonBar::Labels InstallWizard::Labels() const
     case Step::Destination:
         return {WizardText("&Back"), WizardText("Cancel"), WizardText("&Next")};
     case Step::Options:
-        return {WizardText("&Back"), WizardText("Cancel"), WizardText("&Install")};
+        return {WizardText("&Back"), WizardText("Cancel"), WizardText("&Install"), NeedsRights()};
     case Step::Running:
         return {};
     case Step::Done:
@@ -105,6 +106,12 @@ ButtonBar::Labels InstallWizard::Labels() const
         break;
     }
     return {{}, WizardText("Close"), WizardText("&Try again")};
+}
+
+// The extractor that has unpacked the setup shows its own window until then.
+void InstallWizard::OnShown()
+{
+    mediator->NotifyExtractorOnReady();
 }
 
 void InstallWizard::GoForward()
@@ -165,8 +172,6 @@ void InstallWizard::Install()
 {
     if (!FindArchive())
         return;
-    if (optionsPage->Scope() == QSettings::SystemScope && !CanChangeMachine())
-        return RelaunchWithRights();
     destination->Check();
     if (!destination->IsComplete())
         return GoTo(Step::Destination);
@@ -184,19 +189,6 @@ bool InstallWizard::FindArchive()
             return false;
     }
     return true;
-}
-
-void InstallWizard::RelaunchWithRights()
-{
-    InstallationSettings chosen;
-    chosen.userInfo.webUid = options.webUid;
-    welcome->Apply(chosen);
-    destination->Apply(chosen);
-    optionsPage->Apply(chosen);
-    if (RelaunchElevated(WordsFor(chosen)))
-        Leave({});
-    else
-        AlertBox::error(&window, MachineRightsMissing(), false);
 }
 
 InstallationSettings InstallWizard::ChosenSettings()
@@ -236,18 +228,28 @@ QString InstallWizard::AskForWebUid() const
     return answer.result();
 }
 
+bool InstallWizard::NeedsRights() const
+{
+    return optionsPage->Scope() == QSettings::SystemScope && !CanChangeMachine();
+}
+
 void InstallWizard::RunInstallation()
 {
     InstallationSettings settings = ChosenSettings();
     progress->Clear();
     GoTo(Step::Running);
     settings.userInfo.webUid = AskForWebUid();
-    ShowResult(InstallWith(*mediator, settings,
-        [this](const RunEvent& event)
-        {
-            sink(event);
-            progress->Show(event);
-        }));
+    const EventSink show = [this](const RunEvent& event)
+    {
+        sink(event);
+        progress->Show(event);
+    };
+    const auto result = NeedsRights() ? InstallElevated(*mediator, settings, options, show)
+                                      : InstallWith(*mediator, settings, show);
+    if (result)
+        return ShowResult(*result);
+    GoTo(Step::Options);
+    AlertBox::error(&window, MachineRightsMissing(), false);
 }
 
 void InstallWizard::ShowResult(const Outcome& result)
@@ -261,7 +263,9 @@ void InstallWizard::ShowResult(const Outcome& result)
                                      : QT_TRANSLATE_NOOP("Wizard", "%1 could not be installed");
     if (!shown.isDone)
         shown.text =
-            result.error + "\n\n" + WizardText("Log file: %1").arg(PathText(options.logFile));
+            result.error + "\n\n" +
+            WizardText("Log file: %1")
+                .arg(PathText(result.logFile.isEmpty() ? options.logFile : result.logFile));
     else if (shown.copyErrors.isEmpty())
         shown.text = WizardText("Everything is in its place. You can begin right away.");
     delete resultPage;

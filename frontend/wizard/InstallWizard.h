@@ -43,6 +43,7 @@ private:
     void GoBack() override;
     void RequestClose() override;
     ButtonBar::Labels Labels() const override;
+    void OnShown() override;
 
     void MakePages();
     void GoTo(Step step);
@@ -51,9 +52,9 @@ private:
 
     void Install();
     bool FindArchive();
-    void RelaunchWithRights();
     InstallationSettings ChosenSettings();
     QString AskForWebUid() const;
+    bool NeedsRights() const;
     void RunInstallation();
     void ShowResult(const Outcome& result);
     void Finish();

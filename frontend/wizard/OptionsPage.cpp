@@ -29,6 +29,7 @@ OptionsPage::OptionsPage(const InstallationSettings& settings, OfferedOptions of
     statistics =
         AddCheck("statistics", settings.sendStatistics == TriState::chosen, offered.statistics);
     Body()->addStretch();
+    connect(allUsers, &QRadioButton::toggled, this, [this] { scopeChanged(); });
 }
 
 QRadioButton* OptionsPage::AddRadio(const char* name, bool isChosen)

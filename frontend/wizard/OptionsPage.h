@@ -28,6 +28,8 @@ public:
 
     QSettings::Scope Scope() const;
 
+    std::function<void()> scopeChanged = [] {};
+
 private:
     QRadioButton* AddRadio(const char* name, bool isChosen);
     QCheckBox* AddCheck(const char* name, bool isChosen, bool isOffered = true);

@@ -1,5 +1,6 @@
 #include "wizard/UninstallWizard.h"
 
+#include "MachineAccess.h"
 #include "UninstallRun.h"
 #include "installer/InstallerMediator.h"
 #include "widgets/AlertBox.h"
@@ -30,6 +31,7 @@ UninstallWizard::UninstallWizard(const QString& ownFolder, const OwnFolder& own,
     const CommandLine& givenOptions, EventSink eventSink)
     : folder(ownFolder),
       refusal(own.refusal),
+      isForAllUsers(own.scope == QSettings::SystemScope),
       options(givenOptions),
       sink(std::move(eventSink)),
       mediator(MakeUninstaller(own.scope, options, false))
@@ -65,7 +67,7 @@ ButtonBar::Labels UninstallWizard::Labels() const
     switch (step)
     {
     case Step::Start:
-        return {{}, WizardText("Cancel"), UninstallText("&Uninstall")};
+        return {{}, WizardText("Cancel"), UninstallText("&Uninstall"), NeedsRights()};
     case Step::Running:
         return {};
     case Step::Over:
@@ -91,17 +93,30 @@ void UninstallWizard::RequestClose()
         Leave(runOutcome);
 }
 
+bool UninstallWizard::NeedsRights() const
+{
+    return isForAllUsers && !CanChangeMachine();
+}
+
 void UninstallWizard::Uninstall()
 {
     options.deleteSettings = start->IsDeletingSettings();
     progress->Clear();
     GoTo(Step::Running, progress);
-    runOutcome = UninstallWith(*mediator, folder, options,
-        [this](const RunEvent& event)
-        {
-            sink(event);
-            progress->Show(event);
-        });
+    const EventSink show = [this](const RunEvent& event)
+    {
+        sink(event);
+        progress->Show(event);
+    };
+    const auto result = NeedsRights() ? UninstallElevated(options, show)
+                                      : UninstallWith(*mediator, folder, options, show);
+    if (!result)
+    {
+        GoTo(Step::Start, start);
+        AlertBox::error(&window, UninstallRightsMissing(), false);
+        return;
+    }
+    runOutcome = *result;
     if (runOutcome.code == ExitCode::DependentProgramsExist)
     {
         GoTo(Step::Start, start);
@@ -126,7 +141,9 @@ void UninstallWizard::ShowResult()
     {
         shown.headingText = QT_TRANSLATE_NOOP("Wizard", "%1 could not be uninstalled");
         shown.text =
-            runOutcome.error + "\n\n" + WizardText("Log file: %1").arg(PathText(options.logFile));
+            runOutcome.error + "\n\n" +
+            WizardText("Log file: %1")
+                .arg(PathText(runOutcome.logFile.isEmpty() ? options.logFile : runOutcome.logFile));
     }
     resultPage = new ResultPage(LayerSets::uninstallStart, shown);
     resultPage->linkFollowed = [this] { mediator->OpenUrl(InstallerMediator::URL::UninstallPage); };

@@ -42,11 +42,13 @@ private:
     ButtonBar::Labels Labels() const override;
 
     void GoTo(Step step, Page* page);
+    bool NeedsRights() const;
     void Uninstall();
     void ShowResult();
 
     QString folder;
     QString refusal;
+    bool isForAllUsers;
     CommandLine options;
     EventSink sink;
     std::unique_ptr<InstallerMediator> mediator;

@@ -31,7 +31,10 @@ protected:
         EXPECT_EQ(Scripts(), QStringList());
     }
 
-    QStringList Scripts() const { return QDir(setup.TemporaryFolder()).entryList({"*.bat"}); }
+    QStringList Scripts() const
+    {
+        return ListTree(setup.TemporaryFolder()).filter(QRegularExpression("\\.bat$"));
+    }
 };
 
 TEST_F(RemovalOrderLinuxTest, AnInstallationBeforeTheScriptWakesKeepsItsFiles)

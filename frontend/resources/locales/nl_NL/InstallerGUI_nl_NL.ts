@@ -83,6 +83,10 @@
         <translation>Voor installatie voor alle gebruikers zijn beheerdersrechten nodig: start het programma als beheerder.</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>Het deel met beheerdersrechten is zonder resultaat beëindigd. Start het programma als beheerder.</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>Het installatieprogramma is beschadigd. Download het opnieuw.</translation>
     </message>
@@ -328,6 +332,10 @@
     <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>Geannuleerd: er is niets verwijderd.</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>Het programma is voor alle gebruikers geïnstalleerd. Voor het verwijderen zijn beheerdersrechten nodig: start het verwijderprogramma als beheerder.</translation>
     </message>
     <message>
         <source>Uninstall %1?</source>

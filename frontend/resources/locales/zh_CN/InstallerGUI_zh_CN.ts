@@ -83,6 +83,10 @@
         <translation>为所有用户安装需要管理员权限：请以管理员身份启动程序。</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>以管理员权限运行的部分已结束，但没有返回结果。请以管理员身份启动程序。</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>安装程序已损坏。请重新下载。</translation>
     </message>
@@ -328,6 +332,10 @@
     <message>
         <source>Cancelled: nothing was deleted.</source>
         <translation>已取消：没有删除任何内容。</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>程序是为所有用户安装的。卸载需要管理员权限：请以管理员身份启动卸载程序。</translation>
     </message>
     <message>
         <source>Uninstall %1?</source>
