@@ -73,6 +73,8 @@ constexpr std::array allOptions{
     YesNo("AUTOLAUNCH", &CommandLine::autoLaunch, "start the program at logon"),
     Answers("AUTOLAUNCH", &CommandLine::autoLaunch, true),
     YesNo("STATISTICS", &CommandLine::statistics, "send anonymous usage statistics"),
+    Value("LOADINF", &CommandLine::loadFile, "<file>", "read choices from this response file"),
+    Value("SAVEINF", &CommandLine::saveFile, "<file>", "write the choices to this response file"),
     Value("WEBUID", &CommandLine::webUid, "<id>", "web user id to store"),
     Flag("REMOVEALL", &CommandLine::removeAll, "uninstall: remove additional modules and all data"),
     Flag("DELETESETTINGS", &CommandLine::deleteSettings, "uninstall: delete the user's settings"),

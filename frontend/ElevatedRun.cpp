@@ -39,7 +39,6 @@ CommandLine OptionsOfElevated(CommandLine options, const QString& id)
     options.json = false;
     options.ignoreMutex = true;
     options.loadFile.clear();
-    options.saveFile.clear();
     options.elevated = id;
     if (!options.isLogChosen)
     {

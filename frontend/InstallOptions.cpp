@@ -1,5 +1,6 @@
 #include "InstallOptions.h"
 
+#include "ResponseFile.h"
 #include "base/TriState.h"
 
 namespace Vorlan::FrontEnd
@@ -49,6 +50,13 @@ CommandLine OptionsFor(const InstallationSettings& settings, CommandLine options
     options.statistics = AnswerOf(settings.sendStatistics);
     options.webUid = settings.userInfo.webUid;
     return options;
+}
+
+QString SaveChoices(const InstallationSettings& settings, const CommandLine& options)
+{
+    return options.saveFile.isEmpty()
+               ? QString()
+               : ResponseFile(options.saveFile).Save(OptionsFor(settings, options));
 }
 
 } // namespace Vorlan::FrontEnd

@@ -12,4 +12,8 @@ InstallationSettings ApplyOptions(InstallationSettings settings, const CommandLi
 // The options, changed so that they ask for these settings.
 CommandLine OptionsFor(const InstallationSettings& settings, CommandLine options);
 
+// Writes the response file that the options ask for. Returns one line for the user, or an empty
+// text.
+QString SaveChoices(const InstallationSettings& settings, const CommandLine& options);
+
 } // namespace Vorlan::FrontEnd

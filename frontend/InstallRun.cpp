@@ -77,8 +77,9 @@ std::optional<Outcome> InstallElevated(InstallerMediator& mediator,
     const InstallationSettings& settings, const CommandLine& options, const EventSink& sink)
 {
     mediator.SetSettings(settings);
-    return RunElevated(
-        QCoreApplication::applicationFilePath(), OptionsFor(settings, options), sink);
+    CommandLine chosen = OptionsFor(settings, options);
+    chosen.saveFile.clear(); // this process has written it
+    return RunElevated(QCoreApplication::applicationFilePath(), chosen, sink);
 }
 
 } // namespace Vorlan::FrontEnd

@@ -7,6 +7,7 @@
 #include "PassiveRun.h"
 #include "ProgressReport.h"
 #include "ProtectedTempFolder.h"
+#include "ResponseFile.h"
 #include "SilentRun.h"
 #include "Terminal.h"
 #include "WindowedRun.h"
@@ -177,6 +178,16 @@ int ShowText(const QString& text, const CommandLine& options, bool isConnected)
     return static_cast<int>(ExitCode::Done);
 }
 
+// The words of the command line, and what the response file has beyond them.
+ParsedCommandLine ReadOptions(const Invocation& invocation)
+{
+    ParsedCommandLine parsed =
+        ParseCommandLine(DropProgramPath(invocation.words, invocation.programPath));
+    const QString file = WithAbsolutePaths(parsed.options, QDir::current()).loadFile;
+    return parsed.error.isEmpty() && !file.isEmpty() ? ResponseFile(file).Complete(parsed.options)
+                                                     : parsed;
+}
+
 // Ends the program without a run; without a console the text is shown in a box.
 int Refuse(const Outcome& outcome, const CommandLine& options, bool isConnected)
 {
@@ -193,8 +204,7 @@ int main(int argc, char** argv)
 {
     const bool isConnected = ConnectToConsole();
     const Invocation invocation = ReadInvocation(argc, argv);
-    const ParsedCommandLine parsed =
-        ParseCommandLine(DropProgramPath(invocation.words, invocation.programPath));
+    const ParsedCommandLine parsed = ReadOptions(invocation);
     if (!parsed.error.isEmpty())
     {
         return Refuse({ExitCode::BadCommandLine, parsed.error}, parsed.options, isConnected);

@@ -74,6 +74,11 @@ Outcome InstallWithOptions(
     {
         return refusal;
     }
+    const QString problem = SaveChoices(settings, options);
+    if (!problem.isEmpty())
+    {
+        return Failure(problem);
+    }
     settings.userInfo.webUid = FindWebUid(mediator, options);
     return InstallWith(mediator, settings, sink);
 }

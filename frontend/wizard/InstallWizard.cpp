@@ -236,6 +236,12 @@ bool InstallWizard::NeedsRights() const
 void InstallWizard::RunInstallation()
 {
     InstallationSettings settings = ChosenSettings();
+    const QString problem = SaveChoices(settings, options);
+    if (!problem.isEmpty())
+    {
+        AlertBox::error(&window, problem, false);
+        return;
+    }
     progress->Clear();
     GoTo(Step::Running);
     settings.userInfo.webUid = AskForWebUid();

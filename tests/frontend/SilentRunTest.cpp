@@ -261,6 +261,28 @@ TEST_F(SilentRunTest, TheExtractorLearnsThatTheRunIsReady)
     EXPECT_FALSE(QFile::exists(marker));
 }
 
+TEST_F(SilentRunTest, ResponseFilesAreWrittenAndRead)
+{
+    setup.AddArchive("small.7z");
+    auto result =
+        setup.Start({"/S", "/D=first", "/SHORTCUTS=no", "/LANG=it_IT", "/SAVEINF=answers.inf"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
+    QByteArray answers = ReadFile(setup.WorkFolder() + "/answers.inf");
+    EXPECT_TRUE(answers.contains("Lang=it_IT\nShortcuts=no\n")) << answers.toStdString();
+    EXPECT_TRUE(answers.contains("Scope=CurrentUser\n"));
+    WriteFile(setup.WorkFolder() + "/answers.inf", answers.replace("first", "second"));
+    result = setup.Start({"/S", "/LOADINF=answers.inf"});
+    EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
+    ExpectSmallPayloadIn(setup.WorkFolder() + "/second/Vorlan Quillax");
+    WriteFile(setup.WorkFolder() + "/answers.inf", "[Setup]\nFoo=1\n");
+    result = setup.Start({"/S", "/LOADINF=answers.inf"});
+    EXPECT_EQ(result.exitCode, badCommandLine);
+    ExpectOneLineWith(result, "answers.inf, line 2: unknown key");
+    result = setup.Start({"/S", "/SAVEINF=missing/answers.inf"});
+    EXPECT_EQ(result.exitCode, failed);
+    ExpectOneLineWith(result, "choose another with /SAVEINF=<file>");
+}
+
 TEST_F(SilentRunTest, TheEmbeddingExampleInstalls)
 {
     setup.AddArchive("small.7z");
