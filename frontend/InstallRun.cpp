@@ -4,6 +4,7 @@
 #include "InstallOptions.h"
 #include "MediatorRun.h"
 #include "RemovalMark.h"
+#include "UninstallEntryExtras.h"
 
 #include "base/ProductProfile.h"
 #include "installer/InstallerMediator.h"
@@ -70,7 +71,12 @@ Outcome InstallWith(
     LeaveForeignUninstaller(settings);
     mediator.SetSettings(settings);
     mediator.OnLocaleChanged(settings.locale);
-    return RunToTheEnd(mediator, &InstallerMediator::StartInstallation, sink);
+    Outcome outcome = RunToTheEnd(mediator, &InstallerMediator::StartInstallation, sink);
+    if (outcome.code == ExitCode::Done)
+    {
+        UninstallEntryExtras::Write(settings.scope, settings.installDir);
+    }
+    return outcome;
 }
 
 std::optional<Outcome> InstallElevated(InstallerMediator& mediator,

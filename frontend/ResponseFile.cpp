@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <array>
 
 namespace Vorlan::FrontEnd
