@@ -76,6 +76,7 @@ constexpr std::array allOptions{
     Value("LOADINF", &CommandLine::loadFile, "<file>", "read choices from this response file"),
     Value("SAVEINF", &CommandLine::saveFile, "<file>", "write the choices to this response file"),
     Value("WEBUID", &CommandLine::webUid, "<id>", "web user id to store"),
+    Flag("DOWNGRADE", &CommandLine::downgrade, "replace a newer version without a question"),
     Flag("REMOVEALL", &CommandLine::removeAll, "uninstall: remove additional modules and all data"),
     Flag("DELETESETTINGS", &CommandLine::deleteSettings, "uninstall: delete the user's settings"),
     Flag("IGNORE_MUTEX", &CommandLine::ignoreMutex, "run even beside another setup"),
@@ -96,6 +97,7 @@ constexpr const char* exitCodesHelp = R"(Exit codes:
   1602  cancelled
   1603  failed; the log file says why
   1618  another setup is running
+  1638  a newer version is installed; see /DOWNGRADE
 )";
 
 bool TakesValue(const Option& option)

@@ -25,6 +25,7 @@ struct CommandLine
     bool uninstall = false;
     bool allUsers = false;
     bool currentUser = false;
+    bool downgrade = false;
     bool removeAll = false;
     bool deleteSettings = false;
     bool ignoreMutex = false;

@@ -30,14 +30,13 @@ QString ReportPath(const QString& protectedFolder)
     return QDir(protectedFolder).filePath("run.jsonl");
 }
 
-// Everything that is chosen; the waiting process prints, shows and locks.
+// Everything that is chosen; the waiting process prints and shows.
 CommandLine OptionsOfElevated(CommandLine options, const QString& id)
 {
     options.silent = true;
     options.passive = false;
     options.progress = false;
     options.json = false;
-    options.ignoreMutex = true;
     options.loadFile.clear();
     options.elevated = id;
     if (!options.isLogChosen)

@@ -13,7 +13,8 @@ enum class ExitCode : int
     DependentProgramsExist = 1051, // an uninstallation is refused because of other programs
     Cancelled = 1602,
     Failed = 1603,
-    AnotherSetupRunning = 1618
+    AnotherSetupRunning = 1618,
+    NewerVersionInstalled = 1638 // found before the run
 };
 
 } // namespace Vorlan::FrontEnd

@@ -18,6 +18,12 @@ std::optional<bool> AnswerOf(int setting)
 
 } // namespace
 
+QSettings::Scope ChooseScope(const FoundInstallations& found, const CommandLine& options)
+{
+    const Installation* proposed = found.Proposed();
+    return options.HasScope() || proposed == nullptr ? options.Scope() : proposed->scope;
+}
+
 InstallationSettings ApplyOptions(InstallationSettings settings, const CommandLine& options)
 {
     const auto answer = [](const std::optional<bool>& choice, int& setting)

@@ -1,13 +1,15 @@
 #include "InstallRun.h"
 
 #include "ElevatedRun.h"
+#include "FolderUpdate.h"
+#include "FoundInstallations.h"
 #include "InstallOptions.h"
 #include "MediatorRun.h"
-#include "RemovalMark.h"
 #include "UninstallEntryExtras.h"
 
 #include "base/ProductProfile.h"
 #include "installer/InstallerMediator.h"
+#include "registry/SettingsManager.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -20,8 +22,9 @@ namespace
 {
 
 // The engine runs the uninstaller of the entry that is named like the registered folder. Another
-// name than the product's is the name of another program's entry.
-void LeaveForeignUninstaller(InstallationSettings& settings)
+// name than the product's is the name of another program's entry, and an installation for this user
+// alone leaves that of all users.
+void ChooseFormerVersion(InstallationSettings& settings)
 {
     QString& name = settings.previousFolderName;
     if (name.compare(ProductProfile::productFullName, Qt::CaseInsensitive) != 0)
@@ -30,7 +33,30 @@ void LeaveForeignUninstaller(InstallationSettings& settings)
                       "product's:"
                    << name;
         name.clear();
+        return;
     }
+    const FoundInstallations found = FindInstallations();
+    if (settings.scope == QSettings::UserScope && !found.ofUser && found.ofAllUsers)
+    {
+        qWarning() << "The installation for all users is left";
+        name.clear();
+    }
+}
+
+// Where the uninstaller is that the engine will run; empty if there is none.
+QString FormerFolder(const InstallationSettings& settings)
+{
+    const QString uninstaller = SettingsManager::GetUninstallerPath(settings.previousFolderName);
+    return QFileInfo(uninstaller).isFile() ? QFileInfo(uninstaller).absolutePath() : QString();
+}
+
+Outcome FileInTheWay(const QString& path)
+{
+    return {ExitCode::Failed,
+        QCoreApplication::translate("Wizard",
+            "%1 is not part of the program and cannot be moved out of the way: nothing was "
+            "changed. Close the program that uses it and try again.")
+            .arg(QDir::toNativeSeparators(path))};
 }
 
 } // namespace
@@ -58,34 +84,41 @@ std::unique_ptr<InstallerMediator> MakeInstaller(QSettings::Scope scope, bool is
         InstallerMediator::Initializer{programName, true, isUnattended, scope, true});
 }
 
-Outcome InstallWith(
+InstallResult InstallWith(
     InstallerMediator& mediator, InstallationSettings settings, const EventSink& sink)
 {
-    if (!CancelRemovals(settings.installDir))
-    {
-        return {ExitCode::Failed,
-            QCoreApplication::translate(
-                "Wizard", "The folder %1 is still being removed. Wait a moment and try again.")
-                .arg(QDir::toNativeSeparators(QDir::cleanPath(settings.installDir)))};
-    }
-    LeaveForeignUninstaller(settings);
+    ChooseFormerVersion(settings);
     mediator.SetSettings(settings);
     mediator.OnLocaleChanged(settings.locale);
-    Outcome outcome = RunToTheEnd(mediator, &InstallerMediator::StartInstallation, sink);
+    FolderUpdate update(settings.installDir, FormerFolder(settings), mediator.ListPlacedFiles());
+    const QString stuck = update.Begin();
+    if (!stuck.isEmpty())
+        return {FileInTheWay(stuck), update.End()};
+    const auto watch = [&](const RunEvent& event)
+    {
+        const auto* stage = std::get_if<Events::ProcessStarted>(&event);
+        if (stage != nullptr && stage->stage == "EXTRACT_FILES")
+            update.BeginPlacing();
+        sink(event);
+    };
+    const Outcome outcome = RunToTheEnd(mediator, &InstallerMediator::StartInstallation, watch);
     if (outcome.code == ExitCode::Done)
     {
+        update.Complete();
         UninstallEntryExtras::Write(settings.scope, settings.installDir);
     }
-    return outcome;
+    return {outcome, update.End()};
 }
 
-std::optional<Outcome> InstallElevated(InstallerMediator& mediator,
+std::optional<InstallResult> InstallElevated(InstallerMediator& mediator,
     const InstallationSettings& settings, const CommandLine& options, const EventSink& sink)
 {
     mediator.SetSettings(settings);
     CommandLine chosen = OptionsFor(settings, options);
     chosen.saveFile.clear(); // this process has written it
-    return RunElevated(QCoreApplication::applicationFilePath(), chosen, sink);
+    chosen.downgrade = true; // and has asked about that
+    const auto outcome = RunElevated(QCoreApplication::applicationFilePath(), chosen, sink);
+    return outcome ? std::optional(InstallResult{*outcome, outcome->files}) : std::nullopt;
 }
 
 } // namespace Vorlan::FrontEnd

@@ -7,6 +7,7 @@
 
 #include <QSettings>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -28,14 +29,22 @@ QString MissingArchiveText();
 // archive cannot be read.
 std::unique_ptr<InstallerMediator> MakeInstaller(QSettings::Scope scope, bool isUnattended);
 
-// Installs with these settings and returns after the run. Cancels a removal of the folder that has
-// not begun yet.
-Outcome InstallWith(
+// Result of an installation, and the paths of files that are not the product's and could not get
+// their places back, because the product has a file of that name.
+struct InstallResult
+{
+    Outcome outcome;
+    QStringList movedFiles;
+};
+
+// Installs with these settings and returns after the run. Files in the folder that are not the
+// product's stay as they are.
+InstallResult InstallWith(
     InstallerMediator& mediator, InstallationSettings settings, const EventSink& sink);
 
 // The same in another process with administrator rights. No value if the user refuses them. The
 // mediator then has these settings, as after a run of its own.
-std::optional<Outcome> InstallElevated(InstallerMediator& mediator,
+std::optional<InstallResult> InstallElevated(InstallerMediator& mediator,
     const InstallationSettings& settings, const CommandLine& options, const EventSink& sink);
 
 } // namespace Vorlan::FrontEnd

@@ -1,5 +1,6 @@
 #include "JsonReader.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMap>
@@ -86,8 +87,13 @@ std::optional<Outcome> ReadJsonOutcome(const QByteArray& line)
     {
         return std::nullopt;
     }
-    return Outcome{static_cast<ExitCode>(object["exitCode"].toInt()), Text(object, "error"),
+    Outcome outcome{static_cast<ExitCode>(object["exitCode"].toInt()), Text(object, "error"),
         Text(object, "logFile")};
+    for (const QJsonValue& file : object["files"].toArray())
+    {
+        outcome.files << file.toString();
+    }
+    return outcome;
 }
 
 } // namespace Vorlan::FrontEnd

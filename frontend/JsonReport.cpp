@@ -1,5 +1,6 @@
 #include "JsonReport.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -100,6 +101,10 @@ void WriteJsonOutcome(std::ostream& out, const Outcome& outcome)
     if (!outcome.logFile.isEmpty())
     {
         line.insert("logFile", outcome.logFile);
+    }
+    if (!outcome.files.isEmpty())
+    {
+        line.insert("files", QJsonArray::fromStringList(outcome.files));
     }
     WriteLine(out, line);
 }

@@ -102,7 +102,8 @@ Outcome RunWithWindow(
 Outcome RunRole(Role role, const CommandLine& options, int argc, char** argv)
 {
     const SetupLock lock;
-    const bool isOnlySetup = lock.IsHeld() || options.ignoreMutex;
+    // The process that waits for an elevated one holds the lock.
+    const bool isOnlySetup = lock.IsHeld() || options.ignoreMutex || !options.elevated.isEmpty();
     if (!options.silent && !options.passive)
     {
         return RunWithWindow(role, options, isOnlySetup, argc, argv);

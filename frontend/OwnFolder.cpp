@@ -1,9 +1,9 @@
 #include "OwnFolder.h"
 
-#include "RemovalMark.h"
+#include "FoundInstallations.h"
+#include "PlacedFiles.h"
 
 #include "base/ProductProfile.h"
-#include "registry/SettingsManager.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -14,12 +14,6 @@ namespace Vorlan::FrontEnd
 namespace
 {
 
-QString RegisteredFolder(QSettings::Scope scope)
-{
-    return SettingsManager(ProductProfile::applicationKey, ProductProfile::companyName, scope)
-        .GetInstallLocation();
-}
-
 bool IsSameFolder(const QString& left, const QString& right)
 {
     return QDir(QDir::fromNativeSeparators(left)) == QDir(QDir::fromNativeSeparators(right));
@@ -28,16 +22,17 @@ bool IsSameFolder(const QString& left, const QString& right)
 bool LooksLikeTheProduct(const QString& folder)
 {
     return QFile::exists(QDir(folder).filePath(ProductProfile::mainExecutable)) ||
-           RemovalMark::IsIn(folder);
+           PlacedFiles::IsIn(folder);
 }
 
-// Files of other programs may be in a folder that was registered under another name than the
-// product's. The name is that of the link where the folder is behind one.
+// Without a list, files of other programs may be in a folder that was registered under another name
+// than the product's. The name is that of the link where the folder is behind one.
 QString ForeignNameRefusal(const QString& registered)
 {
     const QString name = ProductProfile::productFullName;
     const QDir folder(QDir::fromNativeSeparators(registered));
-    if (folder.dirName().compare(name, Qt::CaseInsensitive) == 0)
+    if (folder.dirName().compare(name, Qt::CaseInsensitive) == 0 ||
+        PlacedFiles::IsIn(folder.path()))
     {
         return {};
     }
@@ -57,7 +52,7 @@ OwnFolder ExamineOwnFolder(const QString& folder, QSettings::Scope defaultScope)
         const QString registered = RegisteredFolder(scope);
         if (!registered.isEmpty() && IsSameFolder(registered, folder))
         {
-            return {scope, ForeignNameRefusal(registered)};
+            return {scope, ForeignNameRefusal(registered), {}};
         }
         other = other.isEmpty() ? registered : other;
     }
@@ -67,17 +62,19 @@ OwnFolder ExamineOwnFolder(const QString& folder, QSettings::Scope defaultScope)
             QCoreApplication::translate("Uninstaller",
                 "The program is installed in %1, not in %2: nothing was deleted. Start the "
                 "uninstaller there.")
-                .arg(other, QDir::toNativeSeparators(folder))};
+                .arg(other, QDir::toNativeSeparators(folder)),
+            other};
     }
     if (LooksLikeTheProduct(folder))
     {
-        return {defaultScope, {}};
+        return {defaultScope, {}, {}};
     }
     return {defaultScope,
         QCoreApplication::translate("Uninstaller",
             "The program is not installed in %1: nothing was deleted. Delete the folder by hand "
             "if it is not needed.")
-            .arg(QDir::toNativeSeparators(folder))};
+            .arg(QDir::toNativeSeparators(folder)),
+        {}};
 }
 
 } // namespace Vorlan::FrontEnd

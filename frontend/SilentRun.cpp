@@ -63,11 +63,23 @@ Outcome CheckFolder(const InstallationSettings& settings)
     return {};
 }
 
-Outcome InstallWithOptions(
-    InstallerMediator& mediator, const CommandLine& options, const EventSink& sink)
+// Replacing a newer version is a question that an unattended run cannot ask.
+Outcome CheckVersion(const Installation* installed, const CommandLine& options)
+{
+    if (ChangeOf(installed) != Change::Downgrade || options.downgrade)
+        return {};
+    return {ExitCode::NewerVersionInstalled,
+        QString("The newer version %1 is installed in %2: nothing was changed. Give /DOWNGRADE to "
+                "replace it.")
+            .arg(installed->version, QDir::toNativeSeparators(installed->folder))};
+}
+
+Outcome InstallWithOptions(InstallerMediator& mediator, const FoundInstallations& found,
+    const CommandLine& options, const EventSink& sink)
 {
     mediator.NotifyExtractorOnReady();
-    InstallationSettings settings = ApplyOptions(mediator.GetSettings(), options);
+    InstallationSettings settings =
+        ApplyOptions(ProposeSettings(mediator.GetSettings(), found), options);
     const auto translator = InstallTranslation(settings.locale);
     Outcome refusal = CheckFolder(settings);
     if (refusal.code != ExitCode::Done)
@@ -80,7 +92,10 @@ Outcome InstallWithOptions(
         return Failure(problem);
     }
     settings.userInfo.webUid = FindWebUid(mediator, options);
-    return InstallWith(mediator, settings, sink);
+    const InstallResult result = InstallWith(mediator, settings, sink);
+    Outcome outcome = result.outcome;
+    outcome.files = result.movedFiles;
+    return outcome;
 }
 
 } // namespace
@@ -92,13 +107,20 @@ Outcome InstallSilently(const CommandLine& options, const EventSink& sink)
     {
         return refusal;
     }
-    if (options.allUsers && !CanChangeMachine())
+    const FoundInstallations found = FindInstallations();
+    const QSettings::Scope scope = ChooseScope(found, options);
+    refusal = CheckVersion(found.Of(scope), options);
+    if (refusal.code != ExitCode::Done)
+    {
+        return refusal;
+    }
+    if (scope == QSettings::SystemScope && !CanChangeMachine())
     {
         return RunWithoutRights(options, MachineRightsMissing(), sink);
     }
     try
     {
-        return InstallWithOptions(*MakeInstaller(options.Scope(), true), options, sink);
+        return InstallWithOptions(*MakeInstaller(scope, true), found, options, sink);
     }
     catch (const std::exception& error)
     {
@@ -120,7 +142,10 @@ Outcome UninstallSilently(const CommandLine& options, const EventSink& sink)
     }
     const auto mediator = MakeUninstaller(own.scope, options, true);
     const auto translator = InstallTranslation(mediator->GetSettings().locale);
-    return UninstallWith(*mediator, folder, options, sink);
+    const UninstallResult result = UninstallWith(*mediator, folder, options, sink);
+    Outcome outcome = result.outcome;
+    outcome.files = result.staying;
+    return outcome;
 }
 
 } // namespace Vorlan::FrontEnd

@@ -61,12 +61,7 @@ Outcome UninstallWithWindow(const CommandLine& options, const EventSink& sink)
     const auto translator = InstallTranslation(FirstLanguage(options));
     const QString folder = QCoreApplication::applicationDirPath();
     const OwnFolder own = ExamineOwnFolder(folder, options.Scope());
-    UninstallWizard wizard(folder, own, options, sink);
-    if (!wizard.AskAboutFolder())
-    {
-        return {ExitCode::Cancelled, UninstallText("Cancelled: nothing was deleted.")};
-    }
-    return wizard.Run();
+    return UninstallWizard(folder, own, options, sink).Run();
 }
 
 void ShowAnotherSetupRuns(const CommandLine& options)

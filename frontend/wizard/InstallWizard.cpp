@@ -1,19 +1,18 @@
 #include "wizard/InstallWizard.h"
 
 #include "InstallOptions.h"
-#include "InstallRun.h"
 #include "MachineAccess.h"
 #include "WebUserId.h"
 #include "base/ProductProfile.h"
 #include "installer/InstallerMediator.h"
 #include "widgets/AlertBox.h"
 #include "widgets/MultiLayerBackgroundFrame.h"
-#include "wizard/DestinationPage.h"
+#include "wizard/FolderChooser.h"
 #include "wizard/OptionsPage.h"
 #include "wizard/ProgressPage.h"
 #include "wizard/ResultPage.h"
+#include "wizard/StartPage.h"
 #include "wizard/Texts.h"
-#include "wizard/WelcomePage.h"
 
 #include <QDebug>
 #include <QDir>
@@ -37,40 +36,44 @@ QString LicenceTemplate()
 InstallWizard::InstallWizard(const CommandLine& givenOptions, EventSink eventSink)
     : options(givenOptions),
       sink(std::move(eventSink)),
-      scope(options.Scope()),
+      found(FindInstallations()),
+      scope(ChooseScope(found, options)),
       mediator(MakeInstaller(scope, false))
 {
-    SetLanguage(ApplyOptions(mediator->GetSettings(), options).locale);
+    SetLanguage(Proposal().locale);
     MakePages();
-    GoTo(Step::Welcome);
+    GoTo(Step::Start);
 }
 
 InstallWizard::~InstallWizard() = default;
 
+// What is proposed for the scope of the mediator.
+InstallationSettings InstallWizard::Proposal() const
+{
+    return ApplyOptions(ProposeSettings(mediator->GetSettings(), found), options);
+}
+
 void InstallWizard::MakePages()
 {
-    const InstallationSettings settings = ApplyOptions(mediator->GetSettings(), options);
-    welcome = new WelcomePage(settings.locale, settings.isNewerVersion);
-    destination = new DestinationPage(settings);
+    const InstallationSettings settings = Proposal();
+    start = new StartPage(settings.locale, found);
     optionsPage = new OptionsPage(
         settings, {!ProductProfile::autoLaunchExecutable.isEmpty(), !settings.statisticsKeyExists});
     progress =
         new ProgressPage(LayerSets::installProgress, QT_TRANSLATE_NOOP("Wizard", "Installing %1"));
-    for (Page* page : std::initializer_list<Page*>{welcome, destination, optionsPage, progress})
+    for (Page* page : std::initializer_list<Page*>{start, optionsPage, progress})
         window.Add(page);
-    welcome->languageChosen = [this](const QString& locale) { SetLanguage(locale); };
-    optionsPage->scopeChanged = [this] { window.SetLabels(Labels()); };
-    welcome->linkFollowed = [this](const QString& target) { FollowLink(target); };
+    start->languageChosen = [this](const QString& locale) { SetLanguage(locale); };
+    start->linkFollowed = [this](const QString& target) { FollowLink(target); };
+    optionsPage->scopeChosen = [this](QSettings::Scope chosen) { ProposeFor(chosen); };
 }
 
 Page* InstallWizard::PageOf(Step which) const
 {
     switch (which)
     {
-    case Step::Welcome:
-        return welcome;
-    case Step::Destination:
-        return destination;
+    case Step::Start:
+        return start;
     case Step::Options:
         return optionsPage;
     case Step::Running:
@@ -85,19 +88,35 @@ Page* InstallWizard::PageOf(Step which) const
 void InstallWizard::GoTo(Step next)
 {
     step = next;
+    if (step == Step::Start)
+        start->ShowPlan(ChosenSettings());
     ShowPage(PageOf(next));
+}
+
+QString InstallWizard::InstallLabel() const
+{
+    switch (ChangeOf(found.Of(optionsPage->Scope())))
+    {
+    case Change::Install:
+        return WizardText("&Install");
+    case Change::Update:
+        return WizardText("U&pdate");
+    case Change::Repair:
+        return WizardText("R&epair");
+    case Change::Downgrade:
+        break;
+    }
+    return WizardText("Re&place");
 }
 
 ButtonBar::Labels InstallWizard::Labels() const
 {
     switch (step)
     {
-    case Step::Welcome:
-        return {{}, WizardText("Cancel"), WizardText("&Next")};
-    case Step::Destination:
-        return {WizardText("&Back"), WizardText("Cancel"), WizardText("&Next")};
+    case Step::Start:
+        return {WizardText("&Options"), WizardText("Cancel"), InstallLabel(), NeedsRights()};
     case Step::Options:
-        return {WizardText("&Back"), WizardText("Cancel"), WizardText("&Install"), NeedsRights()};
+        return {WizardText("&Back"), WizardText("Cancel"), InstallLabel(), NeedsRights()};
     case Step::Running:
         return {};
     case Step::Done:
@@ -105,7 +124,7 @@ ButtonBar::Labels InstallWizard::Labels() const
     case Step::Failed:
         break;
     }
-    return {{}, WizardText("Close"), WizardText("&Try again")};
+    return {WizardText("&Options"), WizardText("Close"), WizardText("&Try again")};
 }
 
 // The extractor that has unpacked the setup shows its own window until then.
@@ -116,28 +135,18 @@ void InstallWizard::OnShown()
 
 void InstallWizard::GoForward()
 {
-    switch (step)
-    {
-    case Step::Welcome:
-    case Step::Failed:
-        return GoTo(Step::Destination);
-    case Step::Destination:
-        return GoTo(Step::Options);
-    case Step::Options:
-        return Install();
-    case Step::Running:
-        return;
-    case Step::Done:
-        return Finish();
-    }
+    if (step == Step::Done)
+        Finish();
+    else if (step != Step::Running)
+        Install();
 }
 
 void InstallWizard::GoBack()
 {
-    if (step == Step::Destination)
-        GoTo(Step::Welcome);
-    else if (step == Step::Options)
-        GoTo(Step::Destination);
+    if (step == Step::Options)
+        GoTo(Step::Start);
+    else
+        GoTo(Step::Options);
 }
 
 void InstallWizard::RequestClose()
@@ -159,23 +168,53 @@ void InstallWizard::RequestClose()
     }
 }
 
-void InstallWizard::FollowLink(const QString& target) const
+void InstallWizard::FollowLink(const QString& target)
 {
     if (target == "licence")
         mediator->OpenUrl(LicenceTemplate());
-    else
+    else if (target == "privacy")
         mediator->OpenUrl(InstallerMediator::URL::PrivacyPolicy);
+    else
+        StartRemoval();
+}
+
+void InstallWizard::ProposeFor(QSettings::Scope chosen)
+{
+    InstallationSettings settings = mediator->GetSettings();
+    settings.scope = chosen;
+    optionsPage->Propose(ApplyOptions(ProposeSettings(settings, found), options));
+    window.SetLabels(Labels());
 }
 
 // Archive, rights and folder are checked again, because they may have changed since the pages.
 void InstallWizard::Install()
 {
-    if (!FindArchive())
+    if (!IsReplacementWanted() || !FindArchive())
         return;
-    destination->Check();
-    if (!destination->IsComplete())
-        return GoTo(Step::Destination);
+    optionsPage->Folder().Check();
+    if (!optionsPage->IsComplete())
+        return GoTo(Step::Options);
     RunInstallation();
+}
+
+bool InstallWizard::IsReplacementWanted()
+{
+    const Installation* installed = found.Of(optionsPage->Scope());
+    if (options.downgrade || ChangeOf(installed) != Change::Downgrade)
+        return true;
+    const QString question = WizardText("Replace the newer version %1 with version %2?")
+                                 .arg(installed->version, QString(ProductProfile::versionText));
+    return AlertBox::question(&window, question) == QDialogButtonBox::Yes;
+}
+
+// The uninstaller starts while this setup still runs, which ends at once.
+void InstallWizard::StartRemoval()
+{
+    const QSettings::Scope chosen = optionsPage->Scope();
+    const Installation* other = found.Of(OtherScope(chosen));
+    const Installation* removed = other != nullptr ? other : found.Of(chosen);
+    StartUninstaller(removed->folder);
+    Leave({ExitCode::Cancelled, WizardText("Cancelled: nothing was installed.")});
 }
 
 bool InstallWizard::FindArchive()
@@ -191,16 +230,15 @@ bool InstallWizard::FindArchive()
     return true;
 }
 
-InstallationSettings InstallWizard::ChosenSettings()
+bool InstallWizard::NeedsRights() const
 {
-    if (optionsPage->Scope() != scope)
-    {
-        scope = optionsPage->Scope();
-        mediator = MakeInstaller(scope, false);
-    }
-    InstallationSettings settings = ApplyOptions(mediator->GetSettings(), options);
-    welcome->Apply(settings);
-    destination->Apply(settings);
+    return optionsPage->Scope() == QSettings::SystemScope && !CanChangeMachine();
+}
+
+InstallationSettings InstallWizard::ChosenSettings() const
+{
+    InstallationSettings settings = Proposal();
+    start->Apply(settings);
     optionsPage->Apply(settings);
     return settings;
 }
@@ -228,13 +266,13 @@ QString InstallWizard::AskForWebUid() const
     return answer.result();
 }
 
-bool InstallWizard::NeedsRights() const
-{
-    return optionsPage->Scope() == QSettings::SystemScope && !CanChangeMachine();
-}
-
 void InstallWizard::RunInstallation()
 {
+    if (optionsPage->Scope() != scope)
+    {
+        scope = optionsPage->Scope();
+        mediator = MakeInstaller(scope, false);
+    }
     InstallationSettings settings = ChosenSettings();
     const QString problem = SaveChoices(settings, options);
     if (!problem.isEmpty())
@@ -242,6 +280,7 @@ void InstallWizard::RunInstallation()
         AlertBox::error(&window, problem, false);
         return;
     }
+    const Step before = step;
     progress->Clear();
     GoTo(Step::Running);
     settings.userInfo.webUid = AskForWebUid();
@@ -254,25 +293,35 @@ void InstallWizard::RunInstallation()
                                       : InstallWith(*mediator, settings, show);
     if (result)
         return ShowResult(*result);
-    GoTo(Step::Options);
+    GoTo(before);
     AlertBox::error(&window, MachineRightsMissing(), false);
 }
 
-void InstallWizard::ShowResult(const Outcome& result)
+// What did not work although the run may have ended well: a line each.
+QStringList InstallWizard::NotesOn(const InstallResult& result) const
 {
-    runOutcome = result;
+    QStringList notes = progress->CopyErrors();
+    for (const QString& path : result.movedFiles)
+        notes += WizardText("Your file was moved, because the program has one of that name: %1")
+                     .arg(QDir::toNativeSeparators(path));
+    return notes;
+}
+
+void InstallWizard::ShowResult(const InstallResult& result)
+{
+    runOutcome = result.outcome;
+    found = FindInstallations(); // for another attempt
     ResultTexts shown;
-    shown.isDone = result.code == ExitCode::Done;
-    shown.copyErrors = progress->CopyErrors();
+    shown.isDone = runOutcome.code == ExitCode::Done;
+    shown.listText = WizardText("Please note:");
+    shown.list = NotesOn(result);
     shown.canStart = shown.isDone;
     shown.headingText = shown.isDone ? QT_TRANSLATE_NOOP("Wizard", "%1 is installed")
                                      : QT_TRANSLATE_NOOP("Wizard", "%1 could not be installed");
+    const QString log = runOutcome.logFile.isEmpty() ? options.logFile : runOutcome.logFile;
     if (!shown.isDone)
-        shown.text =
-            result.error + "\n\n" +
-            WizardText("Log file: %1")
-                .arg(PathText(result.logFile.isEmpty() ? options.logFile : result.logFile));
-    else if (shown.copyErrors.isEmpty())
+        shown.text = runOutcome.error + "\n\n" + WizardText("Log file: %1").arg(PathText(log));
+    else if (shown.list.isEmpty())
         shown.text = WizardText("Everything is in its place. You can begin right away.");
     delete resultPage;
     resultPage = new ResultPage(

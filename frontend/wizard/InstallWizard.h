@@ -1,6 +1,8 @@
 #pragma once
 
 #include "CommandLine.h"
+#include "FoundInstallations.h"
+#include "InstallRun.h"
 #include "RunEvent.h"
 #include "base/InstallationSettings.h"
 #include "wizard/Wizard.h"
@@ -13,11 +15,10 @@ class InstallerMediator;
 namespace Vorlan::FrontEnd
 {
 
-class DestinationPage;
 class OptionsPage;
 class ProgressPage;
 class ResultPage;
-class WelcomePage;
+class StartPage;
 
 // An installation with windows. The options of the command line preset the pages.
 class InstallWizard : public Wizard
@@ -31,8 +32,7 @@ public:
 private:
     enum class Step
     {
-        Welcome,
-        Destination,
+        Start,
         Options,
         Running,
         Done,
@@ -48,25 +48,31 @@ private:
     void MakePages();
     void GoTo(Step step);
     Page* PageOf(Step step) const;
-    void FollowLink(const QString& target) const;
+    QString InstallLabel() const;
+    void FollowLink(const QString& target);
+    void ProposeFor(QSettings::Scope chosen);
 
     void Install();
+    bool IsReplacementWanted();
     bool FindArchive();
-    InstallationSettings ChosenSettings();
-    QString AskForWebUid() const;
+    void StartRemoval();
     bool NeedsRights() const;
+    InstallationSettings Proposal() const;
+    InstallationSettings ChosenSettings() const;
+    QString AskForWebUid() const;
     void RunInstallation();
-    void ShowResult(const Outcome& result);
+    QStringList NotesOn(const InstallResult& result) const;
+    void ShowResult(const InstallResult& result);
     void Finish();
 
     CommandLine options;
     EventSink sink;
+    FoundInstallations found;
     QSettings::Scope scope; // of the mediator
     std::unique_ptr<InstallerMediator> mediator;
-    Step step = Step::Welcome;
+    Step step = Step::Start;
     Outcome runOutcome;
-    WelcomePage* welcome = nullptr;
-    DestinationPage* destination = nullptr;
+    StartPage* start = nullptr;
     OptionsPage* optionsPage = nullptr;
     ProgressPage* progress = nullptr;
     ResultPage* resultPage = nullptr;

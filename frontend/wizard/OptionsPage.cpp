@@ -2,6 +2,7 @@
 
 #include "base/TriState.h"
 #include "widgets/MultiLayerBackgroundFrame.h"
+#include "wizard/FolderChooser.h"
 #include "wizard/Texts.h"
 
 #include <QCheckBox>
@@ -16,11 +17,14 @@ OptionsPage::OptionsPage(const InstallationSettings& settings, OfferedOptions of
       offered(offeredOptions),
       heading(AddHeading())
 {
-    Body()->addSpacing(8);
+    MakeScrollable();
     scopeLabel = AddText("group");
     currentUser = AddRadio("currentUser", settings.scope == QSettings::UserScope);
     allUsers = AddRadio("allUsers", settings.scope == QSettings::SystemScope);
-    Body()->addSpacing(16);
+    Body()->addSpacing(8);
+    folder = new FolderChooser(settings, this);
+    Body()->addWidget(folder);
+    Body()->addSpacing(8);
     extrasLabel = AddText("group");
     shortcuts = AddCheck("shortcuts", settings.createShortcuts);
     contextMenu = AddCheck("contextMenu", settings.contextMenuConvert == TriState::chosen);
@@ -29,7 +33,8 @@ OptionsPage::OptionsPage(const InstallationSettings& settings, OfferedOptions of
     statistics =
         AddCheck("statistics", settings.sendStatistics == TriState::chosen, offered.statistics);
     Body()->addStretch();
-    connect(allUsers, &QRadioButton::toggled, this, [this] { scopeChanged(); });
+    folder->checked = [this] { completenessChanged(); };
+    connect(allUsers, &QRadioButton::toggled, this, [this] { scopeChosen(Scope()); });
 }
 
 QRadioButton* OptionsPage::AddRadio(const char* name, bool isChosen)
@@ -51,12 +56,23 @@ QCheckBox* OptionsPage::AddCheck(const char* name, bool isChosen, bool isOffered
     return check;
 }
 
-void OptionsPage::Retranslate(const QString&)
+void OptionsPage::Propose(const InstallationSettings& settings)
+{
+    folder->Propose(settings.installDir);
+}
+
+bool OptionsPage::IsComplete() const
+{
+    return folder->IsValid();
+}
+
+void OptionsPage::Retranslate(const QString& locale)
 {
     heading->setText(WizardText("How to install"));
     scopeLabel->setText(WizardText("Install for"));
     currentUser->setText(WizardText("Only for &me"));
     allUsers->setText(WizardText("&All users of this computer (administrator rights needed)"));
+    folder->Retranslate(locale);
     extrasLabel->setText(WizardText("Also"));
     shortcuts->setText(WizardText("Create &shortcuts on the desktop and in the Start menu"));
     contextMenu->setText(
@@ -68,6 +84,7 @@ void OptionsPage::Retranslate(const QString&)
 void OptionsPage::Apply(InstallationSettings& settings) const
 {
     settings.scope = Scope();
+    settings.installDir = folder->Folder();
     settings.createShortcuts = shortcuts->isChecked();
     settings.contextMenuConvert = TriState::Of(contextMenu->isChecked());
     settings.contextMenuOpenWith = settings.contextMenuConvert;

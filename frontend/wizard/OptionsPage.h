@@ -8,6 +8,8 @@ class QRadioButton;
 namespace Vorlan::FrontEnd
 {
 
+class FolderChooser;
+
 // The optional check boxes of the page.
 struct OfferedOptions
 {
@@ -15,7 +17,7 @@ struct OfferedOptions
     bool statistics; // the user has not been asked on this machine before
 };
 
-// Page with the scope, shortcuts and other options.
+// Page with scope, folder, shortcuts and other options. It scrolls on a low screen.
 class OptionsPage : public Page
 {
 public:
@@ -24,11 +26,15 @@ public:
 
     void Retranslate(const QString& locale) override;
     void Apply(InstallationSettings& settings) const override;
+    bool IsComplete() const override;
     QWidget* FirstControl() const override;
 
     QSettings::Scope Scope() const;
+    // Proposes the folder of another scope, unless the user has chosen one.
+    void Propose(const InstallationSettings& settings);
+    FolderChooser& Folder() const { return *folder; }
 
-    std::function<void()> scopeChanged = [] {};
+    std::function<void(QSettings::Scope)> scopeChosen = [](QSettings::Scope) {};
 
 private:
     QRadioButton* AddRadio(const char* name, bool isChosen);
@@ -39,6 +45,7 @@ private:
     QLabel* scopeLabel;
     QRadioButton* currentUser;
     QRadioButton* allUsers;
+    FolderChooser* folder;
     QLabel* extrasLabel;
     QCheckBox* shortcuts;
     QCheckBox* contextMenu;

@@ -2,6 +2,7 @@
 
 #include "wizard/ElidedLabel.h"
 
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace Vorlan::FrontEnd
@@ -13,6 +14,22 @@ Page::Page(const char* name, const QStringList& pictureLayers, Shape pictureShap
     setObjectName(name);
     body->setContentsMargins(40, 22, 40, 8);
     body->setSpacing(8);
+}
+
+void Page::MakeScrollable()
+{
+    auto* area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    auto* content = new QWidget(area);
+    content->setObjectName("scrolled");
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(body->spacing());
+    area->setWidget(content);
+    body->addWidget(area, 1);
+    body = column;
 }
 
 QLabel* Page::AddHeading()

@@ -31,6 +31,8 @@ public:
     // Writes the user's choices into the settings.
     virtual void Apply(InstallationSettings&) const {}
     virtual bool IsComplete() const { return true; }
+    // Whether Enter presses the forward button.
+    virtual bool HasDefaultButton() const { return true; }
     // The control with the initial focus; null for the window's forward button.
     virtual QWidget* FirstControl() const { return nullptr; }
 
@@ -42,6 +44,8 @@ public:
 
 protected:
     QVBoxLayout* Body() const { return body; }
+    // What is added from now on scrolls if it does not fit.
+    void MakeScrollable();
     // A heading at the top of the page.
     QLabel* AddHeading();
     // A text with word wrap.

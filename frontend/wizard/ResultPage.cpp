@@ -28,8 +28,8 @@ ResultPage::ResultPage(const QStringList& pictureLayers, ResultTexts texts)
     text->setText(result.text);
     text->setHidden(result.text.isEmpty());
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    if (!result.copyErrors.isEmpty())
-        AddCopyErrors();
+    if (!result.list.isEmpty())
+        AddList();
     start = new QCheckBox(this);
     start->setObjectName("startNow");
     start->setChecked(result.canStart);
@@ -43,12 +43,13 @@ ResultPage::ResultPage(const QStringList& pictureLayers, ResultTexts texts)
     connect(link, &QLabel::linkActivated, this, [this] { linkFollowed(); });
 }
 
-void ResultPage::AddCopyErrors()
+void ResultPage::AddList()
 {
-    listLabel = AddText("group");
-    list = new QListWidget(this);
-    list->setObjectName("copyErrors");
-    list->addItems(result.copyErrors);
+    AddText("group")->setText(result.listText);
+    auto* list = new QListWidget(this);
+    list->setObjectName("list");
+    list->setAccessibleName(result.listText);
+    list->addItems(result.list);
     list->setTextElideMode(Qt::ElideMiddle);
     Body()->addWidget(list);
 }
@@ -58,11 +59,6 @@ void ResultPage::Retranslate(const QString&)
     heading->setText(WizardText(result.headingText).arg(ProductTitle()));
     start->setText(WizardText("&Start %1 now").arg(ProductTitle()));
     link->setText(WizardText(result.linkText));
-    if (list != nullptr)
-    {
-        listLabel->setText(WizardText("These files could not be copied:"));
-        list->setAccessibleName(listLabel->text());
-    }
 }
 
 bool ResultPage::IsStartWanted() const

@@ -8,15 +8,16 @@ class QListWidget;
 namespace Vorlan::FrontEnd
 {
 
-// Content of the last page. `isDone`: the run succeeded, except for the files in `copyErrors`.
+// Content of the last page. `isDone`: the run succeeded, except for what the list says.
 struct ResultTexts
 {
     bool isDone = true;
     const char* headingText = ""; // in English, "%1" for the product
     QString text;                 // may be empty
     const char* linkText = "";    // in English, rich text; may be empty
-    QStringList copyErrors;
-    bool canStart = false; // offers to start the installed program
+    QString listText;             // above the list
+    QStringList list;             // may be empty
+    bool canStart = false;        // offers to start the installed program
 };
 
 // The last page.
@@ -32,14 +33,12 @@ public:
     std::function<void()> linkFollowed = [] {};
 
 private:
-    void AddCopyErrors();
+    void AddList();
 
     ResultTexts result;
     QLabel* icon;
     QLabel* heading;
     QLabel* text;
-    QLabel* listLabel = nullptr;
-    QListWidget* list = nullptr;
     QCheckBox* start;
     QLabel* link;
 };

@@ -1,14 +1,16 @@
 #include "wizard/UninstallWizard.h"
 
+#include "FoundInstallations.h"
 #include "MachineAccess.h"
-#include "UninstallRun.h"
 #include "installer/InstallerMediator.h"
 #include "widgets/AlertBox.h"
 #include "widgets/MultiLayerBackgroundFrame.h"
+#include "wizard/OtherFolderPage.h"
 #include "wizard/ProgressPage.h"
 #include "wizard/ResultPage.h"
 #include "wizard/Texts.h"
-#include "wizard/UninstallStartPage.h"
+
+#include <QDir>
 
 namespace Vorlan::FrontEnd
 {
@@ -27,33 +29,44 @@ QString Shortened(const QString& text)
 
 } // namespace
 
-UninstallWizard::UninstallWizard(const QString& ownFolder, const OwnFolder& own,
+UninstallWizard::UninstallWizard(const QString& ownFolder, const OwnFolder& examined,
     const CommandLine& givenOptions, EventSink eventSink)
     : folder(ownFolder),
-      refusal(own.refusal),
-      isForAllUsers(own.scope == QSettings::SystemScope),
+      own(examined),
       options(givenOptions),
       sink(std::move(eventSink)),
-      mediator(MakeUninstaller(own.scope, options, false))
+      mediator(MakeUninstaller(own.scope, options, false)),
+      placed(FilesToRemove(*mediator, folder))
 {
     SetLanguage(mediator->GetSettings().locale);
     runOutcome = {ExitCode::Cancelled, UninstallText("Cancelled: nothing was deleted.")};
-    start = new UninstallStartPage(folder, options.deleteSettings);
+    start = new UninstallStartPage(Plan());
     progress = new ProgressPage(
         LayerSets::uninstallProgress, QT_TRANSLATE_NOOP("Wizard", "Uninstalling %1"));
     window.Add(start);
     window.Add(progress);
-    GoTo(Step::Start, start);
+    if (own.refusal.isEmpty())
+    {
+        GoTo(Step::Start, start);
+        return;
+    }
+    otherFolder = new OtherFolderPage(folder, own.refusal, CopiedFiles());
+    window.Add(otherFolder);
+    GoTo(Step::OtherFolder, otherFolder);
 }
 
 UninstallWizard::~UninstallWizard() = default;
 
-bool UninstallWizard::AskAboutFolder() const
+UninstallPlan UninstallWizard::Plan() const
 {
-    if (refusal.isEmpty())
-        return true;
-    const QString question = UninstallText("Delete the files beside this program all the same?");
-    return AlertBox::question(nullptr, refusal + "\n\n" + question) == QDialogButtonBox::Yes;
+    return {folder, own.scope, options.deleteSettings, options.removeAll,
+        SortContent(folder, placed).foreign};
+}
+
+// Files of a copy of the program: only those of a list.
+int UninstallWizard::CopiedFiles() const
+{
+    return PlacedFiles::IsIn(folder) ? SortContent(folder, placed).own.size() : 0;
 }
 
 void UninstallWizard::GoTo(Step next, Page* page)
@@ -66,6 +79,10 @@ ButtonBar::Labels UninstallWizard::Labels() const
 {
     switch (step)
     {
+    case Step::OtherFolder:
+        return {own.installed.isEmpty() ? QString() : UninstallText("&Uninstall the installed one"),
+            WizardText("Close"),
+            CopiedFiles() == 0 ? QString() : UninstallText("&Delete %1 files").arg(CopiedFiles())};
     case Step::Start:
         return {{}, WizardText("Cancel"), UninstallText("&Uninstall"), NeedsRights()};
     case Step::Running:
@@ -78,10 +95,18 @@ ButtonBar::Labels UninstallWizard::Labels() const
 
 void UninstallWizard::GoForward()
 {
-    if (step == Step::Start)
+    if (step == Step::OtherFolder)
+        DeleteCopy();
+    else if (step == Step::Start)
         Uninstall();
     else if (step == Step::Over)
         Leave(runOutcome);
+}
+
+void UninstallWizard::GoBack()
+{
+    StartUninstaller(own.installed);
+    Leave(runOutcome);
 }
 
 void UninstallWizard::RequestClose()
@@ -95,7 +120,7 @@ void UninstallWizard::RequestClose()
 
 bool UninstallWizard::NeedsRights() const
 {
-    return isForAllUsers && !CanChangeMachine();
+    return own.scope == QSettings::SystemScope && !CanChangeMachine();
 }
 
 void UninstallWizard::Uninstall()
@@ -116,21 +141,30 @@ void UninstallWizard::Uninstall()
         AlertBox::error(&window, UninstallRightsMissing(), false);
         return;
     }
-    runOutcome = *result;
+    runOutcome = result->outcome;
     if (runOutcome.code == ExitCode::DependentProgramsExist)
     {
         GoTo(Step::Start, start);
         AlertBox::error(&window, Shortened(runOutcome.error), false);
         return;
     }
-    ShowResult();
+    ShowResult(*result);
 }
 
-void UninstallWizard::ShowResult()
+void UninstallWizard::DeleteCopy()
+{
+    const UninstallResult result = RemoveCopy(folder, placed);
+    runOutcome = result.outcome;
+    ShowResult(result);
+}
+
+void UninstallWizard::ShowResult(const UninstallResult& result)
 {
     ResultTexts shown;
     shown.isDone = runOutcome.code == ExitCode::Done;
-    if (shown.isDone)
+    if (shown.isDone && step == Step::OtherFolder)
+        shown.headingText = QT_TRANSLATE_NOOP("Wizard", "The copy of %1 was deleted");
+    else if (shown.isDone)
     {
         shown.headingText = QT_TRANSLATE_NOOP("Wizard", "%1 was uninstalled");
         shown.text = UninstallText("Thank you for having used it.");
@@ -140,11 +174,11 @@ void UninstallWizard::ShowResult()
     else
     {
         shown.headingText = QT_TRANSLATE_NOOP("Wizard", "%1 could not be uninstalled");
-        shown.text =
-            runOutcome.error + "\n\n" +
-            WizardText("Log file: %1")
-                .arg(PathText(runOutcome.logFile.isEmpty() ? options.logFile : runOutcome.logFile));
+        const QString log = runOutcome.logFile.isEmpty() ? options.logFile : runOutcome.logFile;
+        shown.text = runOutcome.error + "\n\n" + WizardText("Log file: %1").arg(PathText(log));
     }
+    shown.listText = UninstallText("Left in %1:").arg(PathText(QDir::toNativeSeparators(folder)));
+    shown.list = result.staying;
     resultPage = new ResultPage(LayerSets::uninstallStart, shown);
     resultPage->linkFollowed = [this] { mediator->OpenUrl(InstallerMediator::URL::UninstallPage); };
     window.Add(resultPage);

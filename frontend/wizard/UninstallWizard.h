@@ -3,6 +3,8 @@
 #include "CommandLine.h"
 #include "OwnFolder.h"
 #include "RunEvent.h"
+#include "UninstallRun.h"
+#include "wizard/UninstallStartPage.h"
 #include "wizard/Wizard.h"
 
 namespace Vorlan
@@ -15,7 +17,6 @@ namespace Vorlan::FrontEnd
 
 class ProgressPage;
 class ResultPage;
-class UninstallStartPage;
 
 // An uninstallation from the program's own folder, with windows.
 class UninstallWizard : public Wizard
@@ -26,34 +27,37 @@ public:
         const QString& folder, const OwnFolder& own, const CommandLine& options, EventSink sink);
     ~UninstallWizard() override;
 
-    // Asks for confirmation if the folder may not be the product's; false to cancel.
-    bool AskAboutFolder() const;
-
 private:
     enum class Step
     {
+        OtherFolder,
         Start,
         Running,
         Over
     };
 
     void GoForward() override;
+    void GoBack() override;
     void RequestClose() override;
     ButtonBar::Labels Labels() const override;
 
     void GoTo(Step step, Page* page);
+    UninstallPlan Plan() const;
+    int CopiedFiles() const;
     bool NeedsRights() const;
     void Uninstall();
-    void ShowResult();
+    void DeleteCopy();
+    void ShowResult(const UninstallResult& result);
 
     QString folder;
-    QString refusal;
-    bool isForAllUsers;
+    OwnFolder own;
     CommandLine options;
     EventSink sink;
     std::unique_ptr<InstallerMediator> mediator;
+    PlacedFiles placed;
     Step step = Step::Start;
     Outcome runOutcome; // before the end of a run: cancelled
+    Page* otherFolder = nullptr;
     UninstallStartPage* start = nullptr;
     ProgressPage* progress = nullptr;
     ResultPage* resultPage = nullptr;

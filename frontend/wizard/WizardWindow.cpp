@@ -88,8 +88,10 @@ void WizardWindow::Show(Page* page)
     frames->setFixedHeight(PictureHeight(*page));
     pages->setCurrentWidget(page);
     UpdateForward();
+    buttons->Forward()->setDefault(page->HasDefaultButton());
     QWidget* first = page->FirstControl();
-    (first != nullptr ? first : buttons->Forward())->setFocus(Qt::TabFocusReason);
+    QWidget* button = page->HasDefaultButton() ? buttons->Forward() : buttons->Cancel();
+    (first != nullptr ? first : button)->setFocus(Qt::TabFocusReason);
 }
 
 Page* WizardWindow::Current() const

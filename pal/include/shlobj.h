@@ -22,6 +22,7 @@ extern "C"
 #define CSIDL_LOCAL_APPDATA 28
 #define CSIDL_COMMON_APPDATA 35
 #define CSIDL_SYSTEM 37
+#define CSIDL_PROGRAM_FILES 38
 
     BOOL WINAPI SHGetSpecialFolderPathW(HWND owner, LPWSTR path, int csidl, BOOL create);
 

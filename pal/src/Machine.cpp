@@ -40,6 +40,7 @@ constexpr FolderOfShell shellFolders[] = {
     {CSIDL_COMMON_PROGRAMS, "ProgramData", "Microsoft/Windows/Start Menu/Programs"},
     {CSIDL_COMMON_APPDATA, "ProgramData", ""},
     {CSIDL_SYSTEM, "Windows", "System32"},
+    {CSIDL_PROGRAM_FILES, "Program Files", ""},
 };
 
 std::string Environment(const char* name)

@@ -198,6 +198,11 @@ const std::vector<std::wstring>& ArchiveExtractor::GetEntryNames() const
     return state->names;
 }
 
+uint64_t ArchiveExtractor::GetEntrySize(std::size_t index) const
+{
+    return SzArEx_GetFileSize(&state->database, index);
+}
+
 std::size_t ArchiveExtractor::GetLongestNameLength() const
 {
     std::size_t longest = 0;

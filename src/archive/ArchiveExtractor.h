@@ -35,6 +35,9 @@ public:
     // One name per entry, in archive order; empty for a folder.
     const std::vector<std::wstring>& GetEntryNames() const;
 
+    // Unpacked size of the entry at this position in GetEntryNames(), in bytes.
+    uint64_t GetEntrySize(std::size_t index) const;
+
     // Length of the longest name in UTF-16 code units.
     std::size_t GetLongestNameLength() const;
 

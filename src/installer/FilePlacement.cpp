@@ -42,6 +42,14 @@ QStringList ReservedLibraries()
     return {"opengl32.dll", "libgallium_wgl.dll"};
 }
 
+// The whole payload; the front end becomes the uninstaller.
+ExtractSettings PayloadSelection()
+{
+    ExtractSettings selection;
+    selection.rename[L"installergui.exe"] = L"uninst.exe";
+    return selection;
+}
+
 // Creates every folder that the selected names need below the installation folder.
 void CreateDirectoryTree(const std::vector<std::wstring>& names, const ExtractSettings& selection,
     const QString& installDir)
@@ -111,6 +119,26 @@ std::vector<CopyJob> DistinctJobs(const std::vector<std::wstring>& names,
 
 } // namespace
 
+std::vector<InstallerMediator::PlacedFile> InstallerMediator::ListPlacedFiles() const
+{
+    std::vector<PlacedFile> files;
+    for (const QString& name : ReservedLibraries() + QStringList{installerMessageScript,
+                                                         settings.productFolderName + ".url",
+                                                         settings.mainExeName, GetUninstName()})
+        files.push_back({name});
+    if (extractor == nullptr)
+        return files;
+    const ExtractSettings selection = PayloadSelection();
+    const std::vector<std::wstring>& names = extractor->GetEntryNames();
+    for (std::size_t index = 0; index < names.size(); ++index)
+    {
+        const CopyJob job = CreateCopyJob(selection, names[index], QString());
+        if (job.valid)
+            files.push_back({job.destination, static_cast<qint64>(extractor->GetEntrySize(index))});
+    }
+    return files;
+}
+
 QStringList InstallerMediator::ReserveFilesForReinstall()
 {
     QStringList reserved;
@@ -150,8 +178,7 @@ QStringList InstallerMediator::ReserveFilesForReinstall()
 
 void InstallerMediator::ExtractFiles(const QStringList& reservedNames, double weight)
 {
-    ExtractSettings selection;
-    selection.rename[L"installergui.exe"] = L"uninst.exe";
+    ExtractSettings selection = PayloadSelection();
     ProgressThrottle throttle;
     if (!QDir(settings.installDir).exists() && !QDir().mkpath(settings.installDir))
         qInfo() << "Error: failed to create dir!";

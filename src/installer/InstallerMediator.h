@@ -77,6 +77,13 @@ public:
         bool parallelCopy;            ///< files may be copied in parallel
     };
 
+    /// A file that an installation places.
+    struct PlacedFile
+    {
+        QString path;     ///< relative to the installation folder, with "/"
+        qint64 size = -1; ///< in bytes; -1 where it is only known after the installation
+    };
+
     /// The vendor's pages. The numbers are fixed.
     enum class URL : int
     {
@@ -126,6 +133,12 @@ public:
     /// Tells the program that unpacked this installer that it is ready, by removing the marker file
     /// "installer_extractor_tmp_marker.txt" from the current folder.
     void NotifyExtractorOnReady();
+
+    /// The files that an installation leaves in its folder: those of the payload under the names
+    /// that they get, and those that the engine itself writes or saves of an older version, which
+    /// need not be there. Without a payload archive only the latter, the main program and the
+    /// uninstaller.
+    std::vector<PlacedFile> ListPlacedFiles() const;
 
     /// The address that a template stands for: `<APP>`, `<VERSION>`, `<LANG>`, `<PARTNER>`,
     /// `<HASH_USER_ID>`, `<BUILD_NAME>` and `<BRAND_NAME>` in it are replaced, as they are.
@@ -188,6 +201,9 @@ signals:
 
 private:
     friend struct MediatorAccess; // tests reach the stages one by one
+
+    // Shown by the product while a setup is running.
+    static constexpr char installerMessageScript[] = "InstallerMessage.vbs";
 
     struct CopyOperationInfo
     {

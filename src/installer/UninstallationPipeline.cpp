@@ -158,7 +158,7 @@ void InstallerMediator::CreateInstallerMessageScript() const
     const QString script =
         "MsgBox \"" + message + "\", vbCritical+vbOKOnly+vbSystemModal, \"" + name + '"';
 
-    const QString path = settings.installDir + "InstallerMessage.vbs";
+    const QString path = settings.installDir + installerMessageScript;
     Platform::RemoveFileLink(path);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))

@@ -109,14 +109,16 @@ TEST(JsonReportTest, EachEventIsALineWithTheDocumentedNames)
 TEST(JsonReportTest, AnOutcomeIsReadAsItWasWritten)
 {
     std::ostringstream out;
-    WriteJsonOutcome(out, {ExitCode::Failed, "no \"room\"", "C:\\a.log"});
-    EXPECT_EQ(out.str(), R"({"error":"no \"room\"","exitCode":1603,"logFile":"C:\\a.log"})"
-                         "\n");
+    WriteJsonOutcome(out, {ExitCode::Failed, "no \"room\"", "C:\\a.log", {"my.avi"}});
+    EXPECT_EQ(out.str(),
+        R"({"error":"no \"room\"","exitCode":1603,"files":["my.avi"],"logFile":"C:\\a.log"})"
+        "\n");
     const auto read = ReadJsonOutcome(QByteArray::fromStdString(out.str()));
     ASSERT_TRUE(read.has_value());
     EXPECT_EQ(read->code, ExitCode::Failed);
     EXPECT_EQ(read->error, "no \"room\"");
     EXPECT_EQ(read->logFile, "C:\\a.log");
+    EXPECT_EQ(read->files, QStringList("my.avi"));
     for (const char* line : {"", "{}", "no JSON", R"({"signal":"Other"})"})
     {
         EXPECT_FALSE(ReadJsonEvent(line).has_value()) << line;

@@ -36,51 +36,101 @@ const QStringList keptRecords = {
 
 } // namespace
 
-TEST_F(UninstallTest, ANewVersionReplacesTheOldOne)
+TEST_F(UninstallTest, ANewVersionReplacesTheOldOneAndLeavesWhatIsNotOfTheProgram)
 {
-    // An older version is installed and used.
     Install(QString(FRONTEND_FOLDER) + "/24.4.0", "old");
-    EXPECT_EQ(Files(), QStringList({"InstallerMessage.vbs", "Vorlan Quillax.url", "libs/codec.dll",
-                           "old.txt", "quill.exe", "uninst.exe"}));
     EXPECT_EQ(Entry(), QStringList("Vorlan Quillax: DisplayVersion = REG_SZ 24.4.0"));
     RegistrySettings key(QSettings::UserScope, "Vorlan", "Quillax24");
-    key.setValue("Version", "24-4-0");
     key.setValue("PreferredBrowser", "of-the-person");
+    key.sync();
     WriteFile(product + "/libgallium_wgl.dll", "graphics");
-    WriteFile(product + "/libs/plug-in.dll", "of the person");
+    for (const char* file : {"/my video.avi", "/libs/plug-in.dll", "/my/film.avi", "/new.txt"})
+        WriteFile(product + file, "of the person");
     QProcess quill;
     quill.start(product + "/quill.exe", {"wait"});
     ASSERT_TRUE(quill.waitForStarted());
 
-    // The new one is installed by this process, which can shorten the wait for the removal of the
-    // old folder.
-    const QString setupName = "setup.exe";
-    InstallerMediator mediator({setupName, false, true, QSettings::UserScope, false});
-    EXPECT_TRUE(mediator.GetSettings().isNewerVersion);
-    MediatorAccess access{mediator};
-    access.SkipWaits();
-    WriteFile(machine.Path("new.7z"), Product(FRONTEND_FOLDER, "new"));
-    access.OpenArchive(machine.Path("new.7z"));
-    QDir::setCurrent(QCoreApplication::applicationDirPath()); // where OpenGL libraries are reserved
-    SignalLog calls(mediator);
-    mediator.StartInstallation();
-    calls.WaitForEnd();
-    access.Join();
-    QFile::remove("libgallium_wgl.dll");
-
-    EXPECT_EQ(calls.Calls().last(), "InstallationFinished");
+    Install(FRONTEND_FOLDER, "new", {"/LOG=" + machine.Path("run.log")});
     EXPECT_TRUE(quill.waitForFinished(timeLimitMs));
-    EXPECT_TRUE(
-        machine.Log().contains("EXECUTE \"" + QDir::toNativeSeparators(product + "/uninst.exe") +
-                               "\" /S /IGNORE_MUTEX -> 1"));
-    EXPECT_EQ(
-        Files(), QStringList({"InstallerMessage.vbs", "Vorlan Quillax.url", "libgallium_wgl.dll",
-                     "libs/codec.dll", "libs/plug-in.dll", "new.txt", "quill.exe", "uninst.exe"}));
+    const QString log = ReadFile(machine.Path("run.log"));
+    EXPECT_TRUE(log.contains("uninst.exe\" /S /IGNORE_MUTEX -> 1")) << log.toStdString();
+    EXPECT_FALSE(log.contains("Still exists:")) << "the former folder goes at once";
+    EXPECT_EQ(Files(), QStringList({"InstallerMessage.vbs", "Vorlan Quillax.url",
+                           "libgallium_wgl.dll", "libs/codec.dll", "libs/plug-in.dll",
+                           "my video.avi", "my/film.avi", "new.txt", "quill.exe", "uninst.exe"}));
     EXPECT_EQ(ReadFile(product + "/libs/codec.dll"), "codec of new");
     EXPECT_EQ(ReadFile(product + "/libgallium_wgl.dll"), "graphics");
     EXPECT_EQ(Entry(), QStringList("Vorlan Quillax: DisplayVersion = REG_SZ 24.5.1"));
     EXPECT_EQ(key.value("PreferredBrowser").toString(), "of-the-person");
     EXPECT_EQ(Links(), allLinks);
+    // The new version has a file of this name; the person's is beside the folder, and named.
+    const QString moved = product + ".uninst.kept/new.txt";
+    EXPECT_EQ(ReadFile(moved), "of the person");
+    EXPECT_TRUE(log.contains(moved)) << log.toStdString();
+
+    // Everything of the program goes; the rest is where it was.
+    QFile::remove(moved);
+    EXPECT_EQ(Uninstall({}).exitCode, 0);
+    EXPECT_EQ(LeftBesideProduct(), QStringList("Vorlan Quillax"));
+    EXPECT_EQ(ListTree(product),
+        QStringList({"libs/", "libs/plug-in.dll", "my video.avi", "my/", "my/film.avi"}));
+}
+
+// The list of an older version is missing: only what the new payload has, too, is known to be ours.
+TEST_F(UninstallTest, AVersionWithoutAListIsReplacedAndItsOtherFilesStay)
+{
+    Install(QString(FRONTEND_FOLDER) + "/24.4.0", "old");
+    ASSERT_TRUE(QDir(product + "/uninst.data").removeRecursively());
+    InstallCurrent();
+    EXPECT_EQ(Files(), QStringList({"InstallerMessage.vbs", "Vorlan Quillax.url", "libs/codec.dll",
+                           "new.txt", "old.txt", "quill.exe", "uninst.exe"}));
+    EXPECT_EQ(ReadFile(product + "/libs/codec.dll"), "codec of new");
+}
+
+TEST_F(UninstallTest, AnUpdateGoesWhereTheProductIsWithWhatWasChosen)
+{
+    setup.AddProgram(translation);
+    Install(QString(FRONTEND_FOLDER) + "/24.4.0", "old",
+        {"/D=" + machine.Path("My Media"), "/CONTEXTMENU", "/NOSHORTCUTS"});
+    const QString chosen = machine.Path("My Media/Vorlan Quillax");
+    const QString key = "Software\\Classes\\SystemFileAssociations";
+    Install(FRONTEND_FOLDER, "new", {});
+    EXPECT_FALSE(QDir(product).exists());
+    EXPECT_EQ(ReadFile(chosen + "/libs/codec.dll"), "codec of new");
+    EXPECT_EQ(RegistryTree("HKEY_CURRENT_USER", key).filter("Convert to\\Command: @").size(), 32);
+    EXPECT_EQ(Links(), QStringList());
+
+    // Another folder moves it; only the person's file stays in the former one.
+    WriteFile(chosen + "/my video.avi", "of the person");
+    Install(FRONTEND_FOLDER, "newer", {"/D=" + QFileInfo(product).path(), "/SHORTCUTS=yes"});
+    EXPECT_EQ(ListTree(machine.Path("My Media")),
+        QStringList({"Vorlan Quillax/", "Vorlan Quillax/my video.avi"}));
+    EXPECT_EQ(ReadFile(product + "/libs/codec.dll"), "codec of newer");
+    EXPECT_EQ(RegistryTree("HKEY_CURRENT_USER", key).filter("Convert to\\Command: @").size(), 32);
+    EXPECT_EQ(Links(), allLinks);
+}
+
+TEST_F(UninstallTest, AnInstallationForAllUsersIsUpdatedAsOneAndANewerOneIsNotReplacedUnasked)
+{
+    Install(QString(FRONTEND_FOLDER) + "/24.4.0", "old", {"/ALLUSERS", "/NOSHORTCUTS"});
+    EXPECT_FALSE(QDir(product).exists()) << "not in one user's folder";
+    Install(FRONTEND_FOLDER, "new", {});
+    const QString list = "Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Vorlan Quillax";
+    const QStringList entry = RegistryTree("HKEY_LOCAL_MACHINE", list);
+    EXPECT_EQ(entry.filter("DisplayVersion = REG_SZ 24.5.1").size(), 1);
+    EXPECT_EQ(Entry(), QStringList());
+    RegistrySettings key(QSettings::SystemScope, "Vorlan", "Quillax24");
+    const QString folder = QDir::fromNativeSeparators(key.value("Path").toString());
+    EXPECT_TRUE(folder.endsWith("/Program Files/Vorlan Quillax/")) << folder.toStdString();
+
+    key.setValue("VersionByInstaller", "24-6-0");
+    key.sync();
+    const auto refused = setup.Start({"/S"});
+    EXPECT_EQ(refused.exitCode, SetupRun::ShownExitCode(1638));
+    EXPECT_TRUE(refused.errors.contains("24.6.0")) << refused.errors.toStdString();
+    EXPECT_EQ(setup.Start({"/S", "/DOWNGRADE"}).exitCode, 0);
+    EXPECT_EQ(setup.StartFrom(folder, "uninst.exe", {"/S", "/DELETESETTINGS"}).exitCode, 0);
+    EXPECT_FALSE(QFile::exists(folder + "quill.exe"));
 }
 
 TEST_F(UninstallTest, FilesRecordsAndShortcutsAreRemovedAndTheChoicesKept)
@@ -95,7 +145,8 @@ TEST_F(UninstallTest, FilesRecordsAndShortcutsAreRemovedAndTheChoicesKept)
     EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
     EXPECT_EQ(ListTree(machine.Path("outside")), QStringList("marker.txt"));
     EXPECT_EQ(result.output + result.errors, "");
-    EXPECT_EQ(ListTree(product).filter(QRegularExpression("^(?!link)")), LeftFiles());
+    EXPECT_EQ(LeftBesideProduct(), QStringList("Vorlan Quillax"));
+    EXPECT_EQ(ListTree(product).filter(QRegularExpression("^(?!link)")), QStringList());
     EXPECT_EQ(Links(), QStringList());
     EXPECT_EQ(Records(), keptRecords);
 }
@@ -104,8 +155,8 @@ TEST_F(UninstallTest, OptionsOfTheInstallationTakeEffectAndAreRemoved)
 {
     setup.AddProgram(translation);
     setup.AddArchiveContent(Product(FRONTEND_FOLDER, "new"));
-    const auto installed = setup.Start(
-        {"/S", "/ALLUSERS", "/AUTOLAUNCH", "/CONTEXTMENU", "/NOSHORTCUTS", "/WEBUID=1234-abcd"});
+    const auto installed = setup.Start({"/S", "/ALLUSERS", "/AUTOLAUNCH", "/CONTEXTMENU",
+        "/NOSHORTCUTS", "/WEBUID=1234-abcd", "/D=" + QFileInfo(product).path()});
     ASSERT_EQ(installed.exitCode, 0) << installed.errors.toStdString();
     const QStringList records = RegistryTree("HKEY_LOCAL_MACHINE", "Software").filter(" = ");
     EXPECT_EQ(records.filter("\\Shell\\Convert to").size(), 2 * 32);
@@ -128,28 +179,32 @@ TEST_F(UninstallTest, SettingsAreDeletedOnRequest)
     EXPECT_EQ(Uninstall({"/DELETESETTINGS"}).exitCode, 0);
     EXPECT_EQ(Records(), QStringList());
     EXPECT_FALSE(QDir(Platform::LogFolder()).exists());
-    EXPECT_TRUE(QDir(product).exists());
+    EXPECT_FALSE(QDir(product).exists());
 }
 
-TEST_F(UninstallTest, FilesThatCannotBeDeletedDoNotStopTheRemoval)
+TEST_F(UninstallTest, FilesInUseDoNotStopTheRemoval)
 {
     InstallCurrent();
-    const QString readOnly = product + "/read-only.txt";
-    WriteFile(readOnly, "text");
-    QFile::setPermissions(readOnly, QFile::ReadOwner);
-    QFile openFile(product + "/open.txt");
+    QFile inUse(product + "/libs/codec.dll");
     QFile openLog(Platform::LogFolder() + "/open.log");
     QDir().mkpath(Platform::LogFolder());
-    ASSERT_TRUE(openFile.open(QIODevice::WriteOnly) && openLog.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(inUse.open(QIODevice::ReadOnly) && openLog.open(QIODevice::WriteOnly));
+    WriteFile(product + "/read-only.txt", "of the person");
+    QFile::setPermissions(product + "/read-only.txt", QFile::ReadOwner);
 
     const auto result = Uninstall({"/DELETESETTINGS", "/LOG=" + machine.Path("run.log")});
     EXPECT_EQ(result.exitCode, 0) << result.errors.toStdString();
     const bool stay = QSysInfo::kernelType() == "winnt";
-    EXPECT_EQ(openFile.exists(), stay);
     EXPECT_EQ(openLog.exists(), stay);
-    EXPECT_EQ(QFile::exists(readOnly), stay);
-    EXPECT_EQ(ReadFile(machine.Path("run.log")).contains("Failed to remove logs "), stay);
-    EXPECT_FALSE(QFile::exists(product + "/quill.exe"));
+    const QString log = ReadFile(machine.Path("run.log"));
+    EXPECT_EQ(log.contains("Failed to remove logs "), stay);
+    QStringList left = {"read-only.txt"};
+    if (stay)
+        left = QStringList{
+            "libs/", "libs/codec.dll", "read-only.txt", "uninst.data/", "uninst.data/placed.txt"};
+    EXPECT_EQ(ListTree(product), left);
+    for (const QString& file : left.filter(QRegularExpression("\\.dll$|only.txt$")))
+        EXPECT_TRUE(log.contains("Stays in " + QDir::toNativeSeparators(product) + ": " + file));
     EXPECT_EQ(Records(), QStringList());
 }
 
@@ -169,7 +224,11 @@ TEST_F(UninstallTest, WithoutTemporaryFolderAFullRemovalIsRefused)
         EXPECT_EQ(Files(), installedFiles);
     }
     EXPECT_EQ(Uninstall({"/LOG=" + machine.Path("run.log")}).exitCode, 0);
-    EXPECT_EQ(ListTree(product), LeftFiles());
+    QStringList left; // what runs, where a running program cannot be deleted
+    if (QSysInfo::kernelType() == "winnt")
+        left =
+            QStringList{ENGINE_FILE_NAME, "uninst.data/", "uninst.data/placed.txt", "uninst.exe"};
+    EXPECT_EQ(ListTree(product).filter(QRegularExpression("^(?!resources)")), left);
 }
 
 TEST_F(UninstallTest, FullRemovalDeletesTheFolderAndNoTargetsOfLinks)
@@ -182,8 +241,12 @@ TEST_F(UninstallTest, FullRemovalDeletesTheFolderAndNoTargetsOfLinks)
         MakeFolderLink(product + "/libs/link to outside", machine.Path("outside"));
     }
     WriteFile(QFileInfo(product).path() + "/neighbour.txt", "stays");
-    EXPECT_EQ(Uninstall({"/REMOVEALL"}).exitCode, 0);
-    EXPECT_TRUE(ProductFolderGoes());
+    WriteFile(product + "/my/film.avi", "of the person");
+    EXPECT_EQ(Uninstall({"/REMOVEALL", "/LOG=" + machine.Path("run.log")}).exitCode, 0);
+    EXPECT_FALSE(QDir(product).exists());
+    EXPECT_EQ(LeftBesideProduct(), QStringList());
+    EXPECT_TRUE(ReadFile(machine.Path("run.log"))
+                    .contains("Not of the program, removed with the folder: my/"));
     EXPECT_EQ(Records(), QStringList());
     EXPECT_EQ(ReadFile(machine.Path("outside/marker.txt")), "stays");
     EXPECT_EQ(ReadFile(QFileInfo(product).path() + "/neighbour.txt"), "stays");
@@ -200,12 +263,12 @@ TEST_F(UninstallTest, AFullRemovalOfAFolderAroundAHomeFolderIsRefusedBeforeTheRu
     EXPECT_TRUE(refused.errors.contains("is a home folder: nothing was deleted"))
         << refused.errors.toStdString();
     EXPECT_EQ(Files(), installedFiles);
-    EXPECT_FALSE(QDir(product + "/uninst.unfinished").exists());
     EXPECT_EQ(Uninstall({}).exitCode, 0);
     EXPECT_TRUE(QDir(product + "/home/me").exists());
 }
 
-// Another front end has installed the product into the folder of another program.
+// Another front end, which writes no list, has installed the product into the folder of another
+// program.
 TEST_F(UninstallTest, AnotherProgramInTheRegisteredFolderIsNotChanged)
 {
     const QString foo = machine.Path("Foo");
@@ -280,18 +343,19 @@ TEST_F(UninstallTest, AFolderThatIsNotRegisteredIsNotChanged)
     EXPECT_EQ(setup.StartFrom(copy, "uninst.exe", {"/S"}).exitCode, SetupRun::ShownExitCode(1603));
     EXPECT_EQ(ListTree(copy).filter("thesis.txt").size(), 1);
     EXPECT_EQ(Uninstall({}).exitCode, 0);
-    EXPECT_EQ(ListTree(product), LeftFiles());
+    EXPECT_FALSE(QDir(product).exists());
 }
 
 TEST_F(UninstallTest, AnInterruptedRemovalCanBeRepeated)
 {
     InstallCurrent();
-    // The state after a killed process: the mark exists, some files and the records are removed.
-    QDir().mkpath(product + "/uninst.unfinished");
+    // The state after a killed process: a person's file is kept, some files and records are gone.
+    WriteFile(product + "/uninst.kept/my video.avi", "of the person");
     QFile::remove(product + "/quill.exe");
     RegistrySettings(QSettings::UserScope, "Vorlan", "Quillax24").remove("Path");
     EXPECT_EQ(Uninstall({}).exitCode, 0);
-    EXPECT_EQ(ListTree(product), LeftFiles());
+    EXPECT_EQ(LeftBesideProduct(), QStringList("Vorlan Quillax"));
+    EXPECT_EQ(ListTree(product), QStringList("my video.avi"));
     EXPECT_EQ(Records(), keptRecords);
 }
 

@@ -15,8 +15,8 @@ protected:
     // The pages and boxes that it reports, in the product's folder or in another one.
     QStringList PressButtons(const QString& folder, const QStringList& words = {})
     {
-        EXPECT_TRUE(QFile::copy(setup.SetupFolder() + "/uninstall-by-buttons.exe",
-            folder + "/uninstall-by-buttons.exe"));
+        QFile::copy(setup.SetupFolder() + "/uninstall-by-buttons.exe",
+            folder + "/uninstall-by-buttons.exe");
         const auto result = setup.StartFrom(
             folder, "uninstall-by-buttons.exe", words + QStringList{"-platform", "offscreen"});
         return result.output.split('\n', Qt::SkipEmptyParts);
@@ -26,8 +26,9 @@ protected:
 TEST_F(UninstallWindowTest, TheButtonsLeadToTheLastPage)
 {
     InstallCurrent();
-    EXPECT_EQ(PressButtons(product),
-        QStringList({"uninstallStartPage", "progressPage", "resultPage", "0"}));
+    EXPECT_EQ(
+        PressButtons(product), QStringList({"uninstallStartPage uninstall-by-buttons.exe",
+                                   "progressPage", "resultPage uninstall-by-buttons.exe", "0"}));
     EXPECT_EQ(Links(), QStringList());
     EXPECT_FALSE(QFile::exists(product + "/quill.exe"));
 }
@@ -39,43 +40,58 @@ TEST_F(UninstallWindowTest, DependentProgramsAreShownInABoxAndTheUserCanCancel)
     const QStringList seen = PressButtons(product);
     ASSERT_EQ(seen.filter("first uninstall these programs:").size(), 1)
         << qPrintable(seen.join('|'));
-    EXPECT_EQ(seen.mid(seen.size() - 2), QStringList({"uninstallStartPage", "1051"}));
+    EXPECT_EQ(seen.last(), "1051");
     EXPECT_TRUE(QFile::exists(product + "/quill.exe"));
 }
 
-TEST_F(UninstallWindowTest, AnotherFolderIsDeletedOnlyAfterConfirmation)
+// The list makes exact what is deleted in a copy; the installation elsewhere is not changed.
+TEST_F(UninstallWindowTest, OfACopyOnlyItsOwnFilesAreDeletedAndTheInstallationStays)
 {
     InstallCurrent();
+    const QStringList records = Records();
     const QString copy = machine.Path("copy");
-    for (const bool isAgreeing : {false, true})
+    for (const QString& file : ListTree(product).filter(QRegularExpression("[^/]$")))
     {
-        WriteFile(copy + "/thesis.txt", "years of work");
-        QFile::remove(copy + "/uninstall-by-buttons.exe");
-        QFile::copy(product + "/" ENGINE_FILE_NAME, copy + "/" ENGINE_FILE_NAME);
-        const QStringList seen = PressButtons(copy, {isAgreeing ? "yes" : "no"});
-        EXPECT_TRUE(seen.value(0).contains("Delete the files beside this program all the same?"));
-        EXPECT_EQ(seen.last(), QString(isAgreeing ? "0" : "1602"));
-        EXPECT_NE(QFile::exists(copy + "/thesis.txt"), isAgreeing);
+        QDir().mkpath(QFileInfo(copy + '/' + file).path());
+        ASSERT_TRUE(QFile::copy(product + '/' + file, copy + '/' + file));
     }
+    WriteFile(copy + "/thesis.txt", "years of work");
+    const QStringList closed = PressButtons(copy, {"no"});
+    EXPECT_EQ(closed, QStringList({"otherFolderPage &Delete 8 files", "1602"}));
+    QFile::remove(copy + "/uninstall-by-buttons.exe");
+    const QStringList seen = PressButtons(copy);
+    EXPECT_EQ(seen, QStringList({"otherFolderPage &Delete 8 files",
+                        "resultPage thesis.txt uninstall-by-buttons.exe", "0"}));
+    EXPECT_EQ(ListTree(copy), QStringList({"thesis.txt", "uninstall-by-buttons.exe"}));
+    EXPECT_EQ(Files(), installedFiles);
+    EXPECT_EQ(Records(), records);
+    EXPECT_EQ(Links(), allLinks);
 }
 
-// The registered folder has the name of another program, whose records stay.
-TEST_F(UninstallWindowTest, RecordsOfAnotherProgramAreNotRemoved)
+// A setup in a folder of downloads deletes nothing there, whatever it is asked.
+TEST_F(UninstallWindowTest, InAFolderWithoutAListNothingCanBeDeleted)
 {
     InstallCurrent();
-    const QString foo = machine.Path("Foo");
-    QDir().mkpath(foo);
-    ASSERT_TRUE(QFile::copy(product + "/" ENGINE_FILE_NAME, foo + "/" ENGINE_FILE_NAME));
-    const QString list =
-        "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall";
-    RegistrySettings(list + "\\Foo").setValue("DisplayVersion", "1.0");
-    RegistrySettings(QSettings::UserScope, "Vorlan", "Quillax24")
-        .setValue("Path", foo + QDir::separator());
-    const QStringList seen = PressButtons(foo, {"yes"});
-    EXPECT_TRUE(seen.value(0).contains("is not Vorlan Quillax")) << qPrintable(seen.join('|'));
-    EXPECT_EQ(seen.last(), "0");
-    EXPECT_EQ(Entry(), QStringList("Foo: DisplayVersion = REG_SZ 1.0"));
-    RegistrySettings(list + "\\Foo").remove(QString());
+    const QString downloads = machine.Path("downloads");
+    WriteFile(downloads + "/thesis.txt", "years of work");
+    ASSERT_TRUE(QFile::copy(product + "/" ENGINE_FILE_NAME, downloads + "/" ENGINE_FILE_NAME));
+    const QStringList seen = PressButtons(downloads);
+    EXPECT_EQ(seen, QStringList({"otherFolderPage", "1602"}));
+    EXPECT_TRUE(QFile::exists(downloads + "/thesis.txt"));
+}
+
+TEST_F(UninstallWindowTest, WhatIsNotOfTheProgramIsShownBeforeAndAfter)
+{
+    InstallCurrent();
+    WriteFile(product + "/my/film.avi", "of the person");
+    const QStringList seen = PressButtons(product);
+    EXPECT_EQ(seen, QStringList({"uninstallStartPage my/ uninstall-by-buttons.exe", "progressPage",
+                        "resultPage my/ uninstall-by-buttons.exe", "0"}));
+    EXPECT_TRUE(QFile::exists(product + "/my/film.avi"));
+    InstallCurrent();
+    EXPECT_EQ(PressButtons(product, {"everything"}).value(0),
+        "uninstallStartPage my/ uninstall-by-buttons.exe");
+    EXPECT_FALSE(QDir(product).exists()) << "a window removes as much as a silent run";
 }
 
 } // namespace

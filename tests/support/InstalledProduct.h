@@ -19,17 +19,6 @@
 
 inline constexpr int timeLimitMs = 60000;
 inline const QString translation = "resources/locales/en_US/InstallerGUI_en_US.qm";
-// Folders stay, with what is in them; and on Windows the running program with its library.
-inline QStringList LeftFiles()
-{
-    QStringList files = {"libs/", "libs/codec.dll", "resources/", "resources/locales/",
-        "resources/locales/en_US/", translation};
-    if (QSysInfo::kernelType() == "winnt")
-        files += {ENGINE_FILE_NAME, "uninst.exe"};
-    files.sort();
-    return files;
-}
-
 class InstalledProduct : public testing::Test
 {
 protected:
@@ -48,15 +37,14 @@ protected:
         });
     }
 
-    void Install(const QString& engineFolder, const QString& note)
+    void Install(const QString& engineFolder, const QString& note, const QStringList& options = {})
     {
         QFile::remove(setup.SetupFolder() + '/' + ENGINE_FILE_NAME);
         ASSERT_TRUE(QFile::copy(
             engineFolder + '/' + ENGINE_FILE_NAME, setup.SetupFolder() + '/' + ENGINE_FILE_NAME));
         setup.AddArchiveContent(Product(engineFolder, note));
-        const auto result = setup.Start({"/S"});
+        const auto result = setup.Start(QStringList("/S") + options);
         ASSERT_EQ(result.exitCode, 0) << result.errors.toStdString();
-        ASSERT_TRUE(QDir(product).exists());
     }
     void InstallCurrent() { Install(FRONTEND_FOLDER, "new"); }
 
@@ -70,7 +58,7 @@ protected:
     {
         QStringList files = ListTree(product);
         for (const QString& common :
-            files.filter(QRegularExpression("/$|^resources/|" ENGINE_FILE_NAME)))
+            files.filter(QRegularExpression("/$|^resources/|^uninst.data/|" ENGINE_FILE_NAME)))
             files.removeAll(common);
         return files;
     }
@@ -99,12 +87,16 @@ protected:
                ListTree(Vorlan::GetStandardLocation(Vorlan::StandardLocation::Desktop));
     }
 
-    bool ProductFolderGoes() const
+    // Waits for the script that deletes what was in use, and returns what lies beside the folder.
+    QStringList LeftBesideProduct() const
     {
+        const QDir parent = QFileInfo(product).dir();
+        const auto left = [&parent]
+        { return parent.entryList({"Vorlan Quillax*"}, QDir::AllEntries | QDir::Hidden); };
         const QDeadlineTimer deadline(timeLimitMs);
-        while (QDir(product).exists() && !deadline.hasExpired())
+        while (!left().filter("Vorlan Quillax.").isEmpty() && !deadline.hasExpired())
             std::this_thread::yield();
-        return !QDir(product).exists();
+        return left();
     }
 
     Machine machine{Machine::Registry::OfStartedPrograms};

@@ -1,6 +1,7 @@
 // Uninstalls the product in its own folder with the front end's windows, as a person who presses
-// the button of each page, and says Yes to questions about the folder where the first argument is
-// "yes". Prints a line for each page and for each box, and at last the exit code.
+// the main button of each page; Cancel, where the first argument is "no" or the page has no such
+// button. With "everything" the whole folder is removed. Prints a line for each page, with the
+// files that it lists, and for each box, and at last the exit code.
 #include "WindowedRun.h"
 #include "wizard/Page.h"
 #include "wizard/WizardWindow.h"
@@ -8,6 +9,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
+#include <QListWidget>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
 
@@ -50,21 +53,37 @@ public:
         if (page.isEmpty() || page == lastPage)
             return;
         lastPage = page;
-        Print(page);
+        auto* forward = window->findChild<QWidget*>("forward");
+        Print((page + ' ' + ListedFiles(*window->Current()) + DeletionLabel(*forward)).trimmed());
         if (page != "progressPage")
-            Click(*window, isRefused ? "cancel" : "forward");
+            Click(*window, isAgreeing && forward->isVisible() ? "forward" : "cancel");
     }
 
 private:
     void Answer(QWidget& box)
     {
         Print(box.findChild<QLabel*>("message")->text());
-        isRefused = !isAgreeing;
+        isAgreeing = false;
         lastPage.clear();
-        if (isAgreeing)
-            Click(box, "confirmationButton");
-        else
-            QTest::keyClick(&box, Qt::Key_Escape);
+        QTest::keyClick(&box, Qt::Key_Escape);
+    }
+
+    static QString ListedFiles(const QWidget& page)
+    {
+        QStringList files;
+        for (const char* name : {"foreign", "list"})
+        {
+            const auto* list = page.findChild<QListWidget*>(name);
+            for (int row = 0; list != nullptr && row < list->count(); ++row)
+                files += list->item(row)->text();
+        }
+        return files.filter(QRegularExpression("^(?!platforms/|Qt5|lib.*dll)")).join(' ');
+    }
+
+    static QString DeletionLabel(const QWidget& button)
+    {
+        const QString label = button.findChild<QLabel*>("buttonLabel")->text();
+        return button.isVisible() && label.startsWith("&Delete") ? label : QString();
     }
 
     // After this look: what follows a press happens within it.
@@ -74,8 +93,7 @@ private:
         QTimer::singleShot(0, button, [button] { QTest::mouseClick(button, Qt::LeftButton); });
     }
 
-    const bool isAgreeing;
-    bool isRefused = false;
+    bool isAgreeing;
     QString lastPage;
 };
 
@@ -85,11 +103,14 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     QDir::setCurrent(QApplication::applicationDirPath());
-    Person person(argc > 1 && std::string(argv[1]) == "yes");
+    const std::string wish = argc > 1 ? argv[1] : "";
+    CommandLine options;
+    options.removeAll = wish == "everything";
+    Person person(wish != "no");
     QTimer looks;
     QObject::connect(&looks, &QTimer::timeout, [&person] { person.Look(); });
     looks.start(5);
-    const Outcome outcome = UninstallWithWindow({}, [](const RunEvent&) {});
+    const Outcome outcome = UninstallWithWindow(options, [](const RunEvent&) {});
     Print(QString::number(static_cast<int>(outcome.code)));
     return 0;
 }

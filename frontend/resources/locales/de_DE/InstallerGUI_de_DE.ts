@@ -91,14 +91,6 @@
         <translation>Das Installationsprogramm ist beschädigt. Laden Sie es erneut herunter.</translation>
     </message>
     <message>
-        <source>Where to install</source>
-        <translation>Installationsort</translation>
-    </message>
-    <message>
-        <source>The program gets a folder of its own. You can keep the proposed place.</source>
-        <translation>Das Programm erhält einen eigenen Ordner. Sie können den vorgeschlagenen Ort beibehalten.</translation>
-    </message>
-    <message>
         <source>&amp;Folder:</source>
         <translation>&amp;Ordner:</translation>
     </message>
@@ -123,12 +115,48 @@
         <translation>%1 wird installiert</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
+        <source>Install %1</source>
+        <translation>%1 installieren</translation>
     </message>
     <message>
-        <source>&amp;Next</source>
-        <translation>&amp;Weiter</translation>
+        <source>Update %1 from %2 to %3</source>
+        <translation>%1 von %2 auf %3 aktualisieren</translation>
+    </message>
+    <message>
+        <source>%1 is installed already</source>
+        <translation>%1 ist bereits installiert</translation>
+    </message>
+    <message>
+        <source>The newer version %1 is installed</source>
+        <translation>Die neuere Version %1 ist installiert</translation>
+    </message>
+    <message>
+        <source>You can install right away, or look at the options first.</source>
+        <translation>Sie können sofort installieren oder zuerst die Optionen ansehen.</translation>
+    </message>
+    <message>
+        <source>Your settings and your own files are kept.</source>
+        <translation>Ihre Einstellungen und eigenen Dateien bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>For all users, in %1</source>
+        <translation>Für alle Benutzer, in %1</translation>
+    </message>
+    <message>
+        <source>For you, in %1</source>
+        <translation>Für Sie, in %1</translation>
+    </message>
+    <message>
+        <source>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>Sie können es auch &lt;a href=&quot;remove&quot;&gt;entfernen&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>Eine weitere Installation ist in %1. Sie können &lt;a href=&quot;remove&quot;&gt;sie entfernen&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -137,6 +165,22 @@
     <message>
         <source>&amp;Install</source>
         <translation>&amp;Installieren</translation>
+    </message>
+    <message>
+        <source>U&amp;pdate</source>
+        <translation>Ak&amp;tualisieren</translation>
+    </message>
+    <message>
+        <source>R&amp;epair</source>
+        <translation>&amp;Reparieren</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Optionen</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -163,12 +207,16 @@
         <translation>Abgebrochen: Es wurde nichts installiert.</translation>
     </message>
     <message>
-        <source>The file %1 is missing. Put it back beside the setup program.</source>
-        <translation>Die Datei %1 fehlt. Legen Sie sie wieder neben das Installationsprogramm.</translation>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</source>
+        <translation>%1 gehört nicht zum Programm und kann nicht beiseite verschoben werden: Es wurde nichts geändert. Schließen Sie das Programm, das die Datei verwendet, und versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
-        <translation>Der Ordner %1 wird gerade noch entfernt. Warten Sie einen Moment und versuchen Sie es noch einmal.</translation>
+        <source>Replace the newer version %1 with version %2?</source>
+        <translation>Die neuere Version %1 durch Version %2 ersetzen?</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>Die Datei %1 fehlt. Legen Sie sie wieder neben das Installationsprogramm.</translation>
     </message>
     <message>
         <source>%1 is installed</source>
@@ -185,6 +233,14 @@
     <message>
         <source>Everything is in its place. You can begin right away.</source>
         <translation>Alles ist an seinem Platz. Sie können sofort beginnen.</translation>
+    </message>
+    <message>
+        <source>Please note:</source>
+        <translation>Bitte beachten Sie:</translation>
+    </message>
+    <message>
+        <source>Your file was moved, because the program has one of that name: %1</source>
+        <translation>Ihre Datei wurde verschoben, weil das Programm eine mit diesem Namen hat: %1</translation>
     </message>
     <message>
         <source>How to install</source>
@@ -251,10 +307,6 @@
         <translation>%1 jetzt &amp;starten</translation>
     </message>
     <message>
-        <source>These files could not be copied:</source>
-        <translation>Diese Dateien konnten nicht kopiert werden:</translation>
-    </message>
-    <message>
         <source>Removing the previous version...</source>
         <translation>Vorherige Version wird entfernt...</translation>
     </message>
@@ -287,24 +339,16 @@
         <translation>%1 wurde deinstalliert</translation>
     </message>
     <message>
+        <source>The copy of %1 was deleted</source>
+        <translation>Die Kopie von %1 wurde gelöscht</translation>
+    </message>
+    <message>
         <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
         <translation>&lt;a href=&quot;survey&quot;&gt;Sagen Sie uns, warum Sie es deinstalliert haben&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 could not be uninstalled</source>
         <translation>%1 konnte nicht deinstalliert werden</translation>
-    </message>
-    <message>
-        <source>Welcome to %1</source>
-        <translation>Willkommen bei %1</translation>
-    </message>
-    <message>
-        <source>A few steps, and the program is ready to use.</source>
-        <translation>Nur wenige Schritte, dann ist das Programm einsatzbereit.</translation>
-    </message>
-    <message>
-        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
-        <translation>Diese oder eine neuere Version ist bereits installiert. Eine erneute Installation ersetzt sie und behält Ihre Einstellungen.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
@@ -338,24 +382,56 @@
         <translation>Das Programm ist für alle Benutzer installiert. Für die Deinstallation sind Administratorrechte nötig: Starten Sie das Deinstallationsprogramm als Administrator.</translation>
     </message>
     <message>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
+        <translation>%1 gehört nicht zum Programm und kann nicht beiseite verschoben werden: Es wurde nichts gelöscht. Schließen Sie das Programm, das die Datei verwendet, und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
         <source>Uninstall %1?</source>
         <translation>%1 deinstallieren?</translation>
     </message>
     <message>
-        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
-        <translation>Das Programm, seine Verknüpfungen und seine Einträge in Windows werden entfernt. Ihre Mediendateien bleiben erhalten.</translation>
+        <source>%1 is not installed here</source>
+        <translation>%1 ist hier nicht installiert</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</source>
+        <translation>Das Programm, seine Verknüpfungen und seine Einträge in Windows werden entfernt. Ihre eigenen Dateien bleiben.</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</source>
+        <translation>Das Programm, seine Verknüpfungen und seine Einträge in Windows werden entfernt, und der ganze Ordner.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder is known to be of the program.</source>
+        <translation>Von nichts in diesem Ordner ist bekannt, dass es zum Programm gehört.</translation>
+    </message>
+    <message>
+        <source>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</source>
+        <translation>In %1 ist eine Kopie des Programms: %2 Dateien. Sie können gelöscht werden. Andere Dateien im Ordner bleiben, und die Installation auch.</translation>
     </message>
     <message>
         <source>&amp;Delete my settings</source>
         <translation>&amp;Meine Einstellungen löschen</translation>
     </message>
     <message>
-        <source>Delete the files beside this program all the same?</source>
-        <translation>Die Dateien neben diesem Programm trotzdem löschen?</translation>
+        <source>Not of the program, and left in the folder:</source>
+        <translation>Nicht vom Programm, bleibt im Ordner:</translation>
+    </message>
+    <message>
+        <source>Not of the program, and deleted with the folder:</source>
+        <translation>Nicht vom Programm, wird mit dem Ordner gelöscht:</translation>
     </message>
     <message>
         <source>&amp;Uninstall</source>
         <translation>&amp;Deinstallieren</translation>
+    </message>
+    <message>
+        <source>&amp;Delete %1 files</source>
+        <translation>%1 Dateien &amp;löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall the installed one</source>
+        <translation>&amp;Installiertes deinstallieren</translation>
     </message>
     <message>
         <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
@@ -364,6 +440,10 @@
     <message>
         <source>Thank you for having used it.</source>
         <translation>Vielen Dank, dass Sie das Programm verwendet haben.</translation>
+    </message>
+    <message>
+        <source>Left in %1:</source>
+        <translation>In %1 bleiben:</translation>
     </message>
 </context>
 <context>

@@ -91,14 +91,6 @@
         <translation>The setup is damaged. Download it again.</translation>
     </message>
     <message>
-        <source>Where to install</source>
-        <translation>Where to install</translation>
-    </message>
-    <message>
-        <source>The program gets a folder of its own. You can keep the proposed place.</source>
-        <translation>The program gets a folder of its own. You can keep the proposed place.</translation>
-    </message>
-    <message>
         <source>&amp;Folder:</source>
         <translation>&amp;Folder:</translation>
     </message>
@@ -123,12 +115,48 @@
         <translation>Installing %1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Cancel</translation>
+        <source>Install %1</source>
+        <translation>Install %1</translation>
     </message>
     <message>
-        <source>&amp;Next</source>
-        <translation>&amp;Next</translation>
+        <source>Update %1 from %2 to %3</source>
+        <translation>Update %1 from %2 to %3</translation>
+    </message>
+    <message>
+        <source>%1 is installed already</source>
+        <translation>%1 is installed already</translation>
+    </message>
+    <message>
+        <source>The newer version %1 is installed</source>
+        <translation>The newer version %1 is installed</translation>
+    </message>
+    <message>
+        <source>You can install right away, or look at the options first.</source>
+        <translation>You can install right away, or look at the options first.</translation>
+    </message>
+    <message>
+        <source>Your settings and your own files are kept.</source>
+        <translation>Your settings and your own files are kept.</translation>
+    </message>
+    <message>
+        <source>For all users, in %1</source>
+        <translation>For all users, in %1</translation>
+    </message>
+    <message>
+        <source>For you, in %1</source>
+        <translation>For you, in %1</translation>
+    </message>
+    <message>
+        <source>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -137,6 +165,22 @@
     <message>
         <source>&amp;Install</source>
         <translation>&amp;Install</translation>
+    </message>
+    <message>
+        <source>U&amp;pdate</source>
+        <translation>U&amp;pdate</translation>
+    </message>
+    <message>
+        <source>R&amp;epair</source>
+        <translation>R&amp;epair</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Re&amp;place</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Options</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -163,12 +207,16 @@
         <translation>Cancelled: nothing was installed.</translation>
     </message>
     <message>
-        <source>The file %1 is missing. Put it back beside the setup program.</source>
-        <translation>The file %1 is missing. Put it back beside the setup program.</translation>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</source>
+        <translation>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</translation>
     </message>
     <message>
-        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
-        <translation>The folder %1 is still being removed. Wait a moment and try again.</translation>
+        <source>Replace the newer version %1 with version %2?</source>
+        <translation>Replace the newer version %1 with version %2?</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>The file %1 is missing. Put it back beside the setup program.</translation>
     </message>
     <message>
         <source>%1 is installed</source>
@@ -185,6 +233,14 @@
     <message>
         <source>Everything is in its place. You can begin right away.</source>
         <translation>Everything is in its place. You can begin right away.</translation>
+    </message>
+    <message>
+        <source>Please note:</source>
+        <translation>Please note:</translation>
+    </message>
+    <message>
+        <source>Your file was moved, because the program has one of that name: %1</source>
+        <translation>Your file was moved, because the program has one of that name: %1</translation>
     </message>
     <message>
         <source>How to install</source>
@@ -251,10 +307,6 @@
         <translation>&amp;Start %1 now</translation>
     </message>
     <message>
-        <source>These files could not be copied:</source>
-        <translation>These files could not be copied:</translation>
-    </message>
-    <message>
         <source>Removing the previous version...</source>
         <translation>Removing the previous version...</translation>
     </message>
@@ -287,24 +339,16 @@
         <translation>%1 was uninstalled</translation>
     </message>
     <message>
+        <source>The copy of %1 was deleted</source>
+        <translation>The copy of %1 was deleted</translation>
+    </message>
+    <message>
         <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
         <translation>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 could not be uninstalled</source>
         <translation>%1 could not be uninstalled</translation>
-    </message>
-    <message>
-        <source>Welcome to %1</source>
-        <translation>Welcome to %1</translation>
-    </message>
-    <message>
-        <source>A few steps, and the program is ready to use.</source>
-        <translation>A few steps, and the program is ready to use.</translation>
-    </message>
-    <message>
-        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
-        <translation>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
@@ -338,24 +382,56 @@
         <translation>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</translation>
     </message>
     <message>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
+        <translation>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</translation>
+    </message>
+    <message>
         <source>Uninstall %1?</source>
         <translation>Uninstall %1?</translation>
     </message>
     <message>
-        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
-        <translation>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</translation>
+        <source>%1 is not installed here</source>
+        <translation>%1 is not installed here</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</source>
+        <translation>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</source>
+        <translation>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder is known to be of the program.</source>
+        <translation>Nothing in this folder is known to be of the program.</translation>
+    </message>
+    <message>
+        <source>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</source>
+        <translation>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</translation>
     </message>
     <message>
         <source>&amp;Delete my settings</source>
         <translation>&amp;Delete my settings</translation>
     </message>
     <message>
-        <source>Delete the files beside this program all the same?</source>
-        <translation>Delete the files beside this program all the same?</translation>
+        <source>Not of the program, and left in the folder:</source>
+        <translation>Not of the program, and left in the folder:</translation>
+    </message>
+    <message>
+        <source>Not of the program, and deleted with the folder:</source>
+        <translation>Not of the program, and deleted with the folder:</translation>
     </message>
     <message>
         <source>&amp;Uninstall</source>
         <translation>&amp;Uninstall</translation>
+    </message>
+    <message>
+        <source>&amp;Delete %1 files</source>
+        <translation>&amp;Delete %1 files</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall the installed one</source>
+        <translation>&amp;Uninstall the installed one</translation>
     </message>
     <message>
         <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
@@ -364,6 +440,10 @@
     <message>
         <source>Thank you for having used it.</source>
         <translation>Thank you for having used it.</translation>
+    </message>
+    <message>
+        <source>Left in %1:</source>
+        <translation>Left in %1:</translation>
     </message>
 </context>
 <context>

@@ -91,16 +91,8 @@
         <translation>El instalador está dañado. Descárguelo de nuevo.</translation>
     </message>
     <message>
-        <source>Where to install</source>
-        <translation>Dónde instalar</translation>
-    </message>
-    <message>
-        <source>The program gets a folder of its own. You can keep the proposed place.</source>
-        <translation>El programa tendrá su propia carpeta. Puede conservar la ubicación propuesta.</translation>
-    </message>
-    <message>
         <source>&amp;Folder:</source>
-        <translation>&amp;Carpeta:</translation>
+        <translation>Car&amp;peta:</translation>
     </message>
     <message>
         <source>B&amp;rowse...</source>
@@ -123,12 +115,48 @@
         <translation>Instalando %1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
+        <source>Install %1</source>
+        <translation>Instalar %1</translation>
     </message>
     <message>
-        <source>&amp;Next</source>
-        <translation>&amp;Siguiente</translation>
+        <source>Update %1 from %2 to %3</source>
+        <translation>Actualizar %1 de %2 a %3</translation>
+    </message>
+    <message>
+        <source>%1 is installed already</source>
+        <translation>%1 ya está instalado</translation>
+    </message>
+    <message>
+        <source>The newer version %1 is installed</source>
+        <translation>Está instalada la versión más reciente %1</translation>
+    </message>
+    <message>
+        <source>You can install right away, or look at the options first.</source>
+        <translation>Puede instalar ahora mismo o ver antes las opciones.</translation>
+    </message>
+    <message>
+        <source>Your settings and your own files are kept.</source>
+        <translation>Se conservan sus ajustes y sus propios archivos.</translation>
+    </message>
+    <message>
+        <source>For all users, in %1</source>
+        <translation>Para todos los usuarios, en %1</translation>
+    </message>
+    <message>
+        <source>For you, in %1</source>
+        <translation>Para usted, en %1</translation>
+    </message>
+    <message>
+        <source>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>También puede &lt;a href=&quot;remove&quot;&gt;eliminarlo&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>Hay otra instalación en %1. Puede &lt;a href=&quot;remove&quot;&gt;eliminarla&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -136,7 +164,23 @@
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation>&amp;Instalar</translation>
+        <translation>I&amp;nstalar</translation>
+    </message>
+    <message>
+        <source>U&amp;pdate</source>
+        <translation>Actua&amp;lizar</translation>
+    </message>
+    <message>
+        <source>R&amp;epair</source>
+        <translation>&amp;Reparar</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Reempla&amp;zar</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opciones</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -163,12 +207,16 @@
         <translation>Cancelado: no se ha instalado nada.</translation>
     </message>
     <message>
-        <source>The file %1 is missing. Put it back beside the setup program.</source>
-        <translation>Falta el archivo %1. Vuelva a colocarlo junto al instalador.</translation>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</source>
+        <translation>%1 no forma parte del programa y no se puede apartar: no se ha cambiado nada. Cierre el programa que lo usa e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
-        <translation>La carpeta %1 todavía se está eliminando. Espere un momento e inténtelo de nuevo.</translation>
+        <source>Replace the newer version %1 with version %2?</source>
+        <translation>¿Reemplazar la versión más reciente %1 por la versión %2?</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>Falta el archivo %1. Vuelva a colocarlo junto al instalador.</translation>
     </message>
     <message>
         <source>%1 is installed</source>
@@ -185,6 +233,14 @@
     <message>
         <source>Everything is in its place. You can begin right away.</source>
         <translation>Todo está en su sitio. Puede empezar ahora mismo.</translation>
+    </message>
+    <message>
+        <source>Please note:</source>
+        <translation>Tenga en cuenta:</translation>
+    </message>
+    <message>
+        <source>Your file was moved, because the program has one of that name: %1</source>
+        <translation>Su archivo se movió porque el programa tiene uno con ese nombre: %1</translation>
     </message>
     <message>
         <source>How to install</source>
@@ -251,10 +307,6 @@
         <translation>Iniciar %1 a&amp;hora</translation>
     </message>
     <message>
-        <source>These files could not be copied:</source>
-        <translation>No se pudieron copiar estos archivos:</translation>
-    </message>
-    <message>
         <source>Removing the previous version...</source>
         <translation>Quitando la versión anterior...</translation>
     </message>
@@ -287,24 +339,16 @@
         <translation>%1 se ha desinstalado</translation>
     </message>
     <message>
+        <source>The copy of %1 was deleted</source>
+        <translation>Se eliminó la copia de %1</translation>
+    </message>
+    <message>
         <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
         <translation>&lt;a href=&quot;survey&quot;&gt;Cuéntenos por qué lo ha desinstalado&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 could not be uninstalled</source>
         <translation>No se pudo desinstalar %1</translation>
-    </message>
-    <message>
-        <source>Welcome to %1</source>
-        <translation>Bienvenido a %1</translation>
-    </message>
-    <message>
-        <source>A few steps, and the program is ready to use.</source>
-        <translation>Unos pocos pasos y el programa estará listo.</translation>
-    </message>
-    <message>
-        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
-        <translation>Esta versión o una más reciente ya está instalada. Al instalar de nuevo se sustituye y se conservan sus ajustes.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
@@ -338,24 +382,56 @@
         <translation>El programa está instalado para todos los usuarios. Para desinstalarlo se requieren permisos de administrador: inicie el desinstalador como administrador.</translation>
     </message>
     <message>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
+        <translation>%1 no forma parte del programa y no se puede apartar: no se ha eliminado nada. Cierre el programa que lo usa e inténtelo de nuevo.</translation>
+    </message>
+    <message>
         <source>Uninstall %1?</source>
         <translation>¿Desinstalar %1?</translation>
     </message>
     <message>
-        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
-        <translation>Se eliminarán el programa, sus accesos directos y sus entradas en Windows. Sus archivos multimedia se conservan.</translation>
+        <source>%1 is not installed here</source>
+        <translation>%1 no está instalado aquí</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</source>
+        <translation>Se eliminan el programa, sus accesos directos y sus entradas en Windows. Sus propios archivos se conservan.</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</source>
+        <translation>Se eliminan el programa, sus accesos directos y sus entradas en Windows, y toda la carpeta.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder is known to be of the program.</source>
+        <translation>No se sabe de nada en esta carpeta que sea del programa.</translation>
+    </message>
+    <message>
+        <source>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</source>
+        <translation>Hay una copia del programa en %1: %2 archivos. Se pueden eliminar. Los demás archivos de la carpeta y la instalación se conservan.</translation>
     </message>
     <message>
         <source>&amp;Delete my settings</source>
         <translation>&amp;Eliminar mis ajustes</translation>
     </message>
     <message>
-        <source>Delete the files beside this program all the same?</source>
-        <translation>¿Eliminar de todos modos los archivos que están junto a este programa?</translation>
+        <source>Not of the program, and left in the folder:</source>
+        <translation>No es del programa y se queda en la carpeta:</translation>
+    </message>
+    <message>
+        <source>Not of the program, and deleted with the folder:</source>
+        <translation>No es del programa y se elimina con la carpeta:</translation>
     </message>
     <message>
         <source>&amp;Uninstall</source>
         <translation>&amp;Desinstalar</translation>
+    </message>
+    <message>
+        <source>&amp;Delete %1 files</source>
+        <translation>&amp;Eliminar %1 archivos</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall the installed one</source>
+        <translation>&amp;Desinstalar el instalado</translation>
     </message>
     <message>
         <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
@@ -364,6 +440,10 @@
     <message>
         <source>Thank you for having used it.</source>
         <translation>Gracias por haberlo utilizado.</translation>
+    </message>
+    <message>
+        <source>Left in %1:</source>
+        <translation>Se queda en %1:</translation>
     </message>
 </context>
 <context>

@@ -91,14 +91,6 @@
         <translation>Le programme d&apos;installation est endommagé. Téléchargez-le à nouveau.</translation>
     </message>
     <message>
-        <source>Where to install</source>
-        <translation>Emplacement d&apos;installation</translation>
-    </message>
-    <message>
-        <source>The program gets a folder of its own. You can keep the proposed place.</source>
-        <translation>Le programme aura son propre dossier. Vous pouvez garder l&apos;emplacement proposé.</translation>
-    </message>
-    <message>
         <source>&amp;Folder:</source>
         <translation>&amp;Dossier :</translation>
     </message>
@@ -123,12 +115,48 @@
         <translation>Installation de %1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
+        <source>Install %1</source>
+        <translation>Installer %1</translation>
     </message>
     <message>
-        <source>&amp;Next</source>
-        <translation>&amp;Suivant</translation>
+        <source>Update %1 from %2 to %3</source>
+        <translation>Mettre à jour %1 de %2 vers %3</translation>
+    </message>
+    <message>
+        <source>%1 is installed already</source>
+        <translation>%1 est déjà installé</translation>
+    </message>
+    <message>
+        <source>The newer version %1 is installed</source>
+        <translation>La version plus récente %1 est installée</translation>
+    </message>
+    <message>
+        <source>You can install right away, or look at the options first.</source>
+        <translation>Vous pouvez installer tout de suite ou voir d&apos;abord les options.</translation>
+    </message>
+    <message>
+        <source>Your settings and your own files are kept.</source>
+        <translation>Vos paramètres et vos propres fichiers sont conservés.</translation>
+    </message>
+    <message>
+        <source>For all users, in %1</source>
+        <translation>Pour tous les utilisateurs, dans %1</translation>
+    </message>
+    <message>
+        <source>For you, in %1</source>
+        <translation>Pour vous, dans %1</translation>
+    </message>
+    <message>
+        <source>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>Vous pouvez aussi &lt;a href=&quot;remove&quot;&gt;le supprimer&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>Une autre installation se trouve dans %1. Vous pouvez &lt;a href=&quot;remove&quot;&gt;la supprimer&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -137,6 +165,22 @@
     <message>
         <source>&amp;Install</source>
         <translation>&amp;Installer</translation>
+    </message>
+    <message>
+        <source>U&amp;pdate</source>
+        <translation>Mettre à &amp;jour</translation>
+    </message>
+    <message>
+        <source>R&amp;epair</source>
+        <translation>Rép&amp;arer</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Remplac&amp;er</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Options</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -163,12 +207,16 @@
         <translation>Annulé : rien n&apos;a été installé.</translation>
     </message>
     <message>
-        <source>The file %1 is missing. Put it back beside the setup program.</source>
-        <translation>Le fichier %1 est manquant. Remettez-le à côté du programme d&apos;installation.</translation>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</source>
+        <translation>%1 ne fait pas partie du programme et ne peut pas être écarté : rien n&apos;a été modifié. Fermez le programme qui l&apos;utilise et réessayez.</translation>
     </message>
     <message>
-        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
-        <translation>Le dossier %1 est encore en cours de suppression. Patientez un instant et réessayez.</translation>
+        <source>Replace the newer version %1 with version %2?</source>
+        <translation>Remplacer la version plus récente %1 par la version %2 ?</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>Le fichier %1 est manquant. Remettez-le à côté du programme d&apos;installation.</translation>
     </message>
     <message>
         <source>%1 is installed</source>
@@ -185,6 +233,14 @@
     <message>
         <source>Everything is in its place. You can begin right away.</source>
         <translation>Tout est en place. Vous pouvez commencer tout de suite.</translation>
+    </message>
+    <message>
+        <source>Please note:</source>
+        <translation>Remarque :</translation>
+    </message>
+    <message>
+        <source>Your file was moved, because the program has one of that name: %1</source>
+        <translation>Votre fichier a été déplacé, car le programme en a un du même nom : %1</translation>
     </message>
     <message>
         <source>How to install</source>
@@ -251,10 +307,6 @@
         <translation>&amp;Démarrer %1 maintenant</translation>
     </message>
     <message>
-        <source>These files could not be copied:</source>
-        <translation>Ces fichiers n&apos;ont pas pu être copiés :</translation>
-    </message>
-    <message>
         <source>Removing the previous version...</source>
         <translation>Suppression de la version précédente...</translation>
     </message>
@@ -287,24 +339,16 @@
         <translation>%1 a été désinstallé</translation>
     </message>
     <message>
+        <source>The copy of %1 was deleted</source>
+        <translation>La copie de %1 a été supprimée</translation>
+    </message>
+    <message>
         <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
         <translation>&lt;a href=&quot;survey&quot;&gt;Dites-nous pourquoi vous l&apos;avez désinstallé&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 could not be uninstalled</source>
         <translation>%1 n&apos;a pas pu être désinstallé</translation>
-    </message>
-    <message>
-        <source>Welcome to %1</source>
-        <translation>Bienvenue dans %1</translation>
-    </message>
-    <message>
-        <source>A few steps, and the program is ready to use.</source>
-        <translation>Quelques étapes, et le programme est prêt.</translation>
-    </message>
-    <message>
-        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
-        <translation>Cette version ou une plus récente est déjà installée. Une nouvelle installation la remplace et conserve vos paramètres.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
@@ -338,24 +382,56 @@
         <translation>Le programme est installé pour tous les utilisateurs. Sa désinstallation nécessite des droits d&apos;administrateur : lancez le programme de désinstallation en tant qu&apos;administrateur.</translation>
     </message>
     <message>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
+        <translation>%1 ne fait pas partie du programme et ne peut pas être écarté : rien n&apos;a été supprimé. Fermez le programme qui l&apos;utilise et réessayez.</translation>
+    </message>
+    <message>
         <source>Uninstall %1?</source>
         <translation>Désinstaller %1 ?</translation>
     </message>
     <message>
-        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
-        <translation>Le programme, ses raccourcis et ses entrées dans Windows seront supprimés. Vos fichiers multimédias restent.</translation>
+        <source>%1 is not installed here</source>
+        <translation>%1 n&apos;est pas installé ici</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</source>
+        <translation>Le programme, ses raccourcis et ses entrées dans Windows sont supprimés. Vos propres fichiers restent.</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</source>
+        <translation>Le programme, ses raccourcis et ses entrées dans Windows sont supprimés, ainsi que tout le dossier.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder is known to be of the program.</source>
+        <translation>Rien dans ce dossier n&apos;est connu comme appartenant au programme.</translation>
+    </message>
+    <message>
+        <source>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</source>
+        <translation>Une copie du programme se trouve dans %1 : %2 fichiers. Ils peuvent être supprimés. Les autres fichiers du dossier restent, et l&apos;installation aussi.</translation>
     </message>
     <message>
         <source>&amp;Delete my settings</source>
         <translation>&amp;Supprimer mes paramètres</translation>
     </message>
     <message>
-        <source>Delete the files beside this program all the same?</source>
-        <translation>Supprimer quand même les fichiers situés à côté de ce programme ?</translation>
+        <source>Not of the program, and left in the folder:</source>
+        <translation>Hors du programme, laissé dans le dossier :</translation>
+    </message>
+    <message>
+        <source>Not of the program, and deleted with the folder:</source>
+        <translation>Hors du programme, supprimé avec le dossier :</translation>
     </message>
     <message>
         <source>&amp;Uninstall</source>
         <translation>&amp;Désinstaller</translation>
+    </message>
+    <message>
+        <source>&amp;Delete %1 files</source>
+        <translation>&amp;Supprimer %1 fichiers</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall the installed one</source>
+        <translation>&amp;Désinstaller le programme installé</translation>
     </message>
     <message>
         <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
@@ -364,6 +440,10 @@
     <message>
         <source>Thank you for having used it.</source>
         <translation>Merci de l&apos;avoir utilisé.</translation>
+    </message>
+    <message>
+        <source>Left in %1:</source>
+        <translation>Reste dans %1 :</translation>
     </message>
 </context>
 <context>

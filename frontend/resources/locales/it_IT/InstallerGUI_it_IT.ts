@@ -91,16 +91,8 @@
         <translation>Il programma di installazione è danneggiato. Scaricarlo di nuovo.</translation>
     </message>
     <message>
-        <source>Where to install</source>
-        <translation>Dove installare</translation>
-    </message>
-    <message>
-        <source>The program gets a folder of its own. You can keep the proposed place.</source>
-        <translation>Il programma avrà una cartella propria. È possibile mantenere la posizione proposta.</translation>
-    </message>
-    <message>
         <source>&amp;Folder:</source>
-        <translation>&amp;Cartella:</translation>
+        <translation>Carte&amp;lla:</translation>
     </message>
     <message>
         <source>B&amp;rowse...</source>
@@ -123,12 +115,48 @@
         <translation>Installazione di %1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
+        <source>Install %1</source>
+        <translation>Installa %1</translation>
     </message>
     <message>
-        <source>&amp;Next</source>
-        <translation>&amp;Avanti</translation>
+        <source>Update %1 from %2 to %3</source>
+        <translation>Aggiorna %1 da %2 a %3</translation>
+    </message>
+    <message>
+        <source>%1 is installed already</source>
+        <translation>%1 è già installato</translation>
+    </message>
+    <message>
+        <source>The newer version %1 is installed</source>
+        <translation>È installata la versione più recente %1</translation>
+    </message>
+    <message>
+        <source>You can install right away, or look at the options first.</source>
+        <translation>È possibile installare subito o vedere prima le opzioni.</translation>
+    </message>
+    <message>
+        <source>Your settings and your own files are kept.</source>
+        <translation>Le impostazioni e i file personali vengono conservati.</translation>
+    </message>
+    <message>
+        <source>For all users, in %1</source>
+        <translation>Per tutti gli utenti, in %1</translation>
+    </message>
+    <message>
+        <source>For you, in %1</source>
+        <translation>Per l&apos;utente corrente, in %1</translation>
+    </message>
+    <message>
+        <source>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>È anche possibile &lt;a href=&quot;remove&quot;&gt;rimuoverlo&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>C&apos;è un&apos;altra installazione in %1. È possibile &lt;a href=&quot;remove&quot;&gt;rimuoverla&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -137,6 +165,22 @@
     <message>
         <source>&amp;Install</source>
         <translation>I&amp;nstalla</translation>
+    </message>
+    <message>
+        <source>U&amp;pdate</source>
+        <translation>&amp;Aggiorna</translation>
+    </message>
+    <message>
+        <source>R&amp;epair</source>
+        <translation>&amp;Ripara</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Rimpia&amp;zza</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opzioni</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -163,12 +207,16 @@
         <translation>Annullato: nulla è stato installato.</translation>
     </message>
     <message>
-        <source>The file %1 is missing. Put it back beside the setup program.</source>
-        <translation>Il file %1 non è presente. Rimetterlo accanto al programma di installazione.</translation>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</source>
+        <translation>%1 non fa parte del programma e non può essere spostato: nulla è stato modificato. Chiudere il programma che lo usa e riprovare.</translation>
     </message>
     <message>
-        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
-        <translation>La cartella %1 è ancora in fase di rimozione. Attenda un momento e riprovi.</translation>
+        <source>Replace the newer version %1 with version %2?</source>
+        <translation>Sostituire la versione più recente %1 con la versione %2?</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>Il file %1 non è presente. Rimetterlo accanto al programma di installazione.</translation>
     </message>
     <message>
         <source>%1 is installed</source>
@@ -185,6 +233,14 @@
     <message>
         <source>Everything is in its place. You can begin right away.</source>
         <translation>Tutto è al suo posto. È possibile iniziare subito.</translation>
+    </message>
+    <message>
+        <source>Please note:</source>
+        <translation>Nota:</translation>
+    </message>
+    <message>
+        <source>Your file was moved, because the program has one of that name: %1</source>
+        <translation>Il file dell&apos;utente è stato spostato perché il programma ne ha uno con lo stesso nome: %1</translation>
     </message>
     <message>
         <source>How to install</source>
@@ -251,10 +307,6 @@
         <translation>&amp;Avvia %1 ora</translation>
     </message>
     <message>
-        <source>These files could not be copied:</source>
-        <translation>Non è stato possibile copiare questi file:</translation>
-    </message>
-    <message>
         <source>Removing the previous version...</source>
         <translation>Rimozione della versione precedente...</translation>
     </message>
@@ -287,24 +339,16 @@
         <translation>%1 è stato disinstallato</translation>
     </message>
     <message>
+        <source>The copy of %1 was deleted</source>
+        <translation>La copia di %1 è stata eliminata</translation>
+    </message>
+    <message>
         <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
         <translation>&lt;a href=&quot;survey&quot;&gt;Dicci perché lo hai disinstallato&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 could not be uninstalled</source>
         <translation>Non è stato possibile disinstallare %1</translation>
-    </message>
-    <message>
-        <source>Welcome to %1</source>
-        <translation>Benvenuti in %1</translation>
-    </message>
-    <message>
-        <source>A few steps, and the program is ready to use.</source>
-        <translation>Pochi passaggi e il programma è pronto.</translation>
-    </message>
-    <message>
-        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
-        <translation>Questa versione o una più recente è già installata. Una nuova installazione la sostituisce e mantiene le impostazioni.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
@@ -338,24 +382,56 @@
         <translation>Il programma è installato per tutti gli utenti. Per disinstallarlo servono i diritti di amministratore: avviare il programma di disinstallazione come amministratore.</translation>
     </message>
     <message>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
+        <translation>%1 non fa parte del programma e non può essere spostato: nulla è stato eliminato. Chiudere il programma che lo usa e riprovare.</translation>
+    </message>
+    <message>
         <source>Uninstall %1?</source>
         <translation>Disinstallare %1?</translation>
     </message>
     <message>
-        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
-        <translation>Il programma, i suoi collegamenti e le sue voci in Windows verranno rimossi. I file multimediali restano.</translation>
+        <source>%1 is not installed here</source>
+        <translation>%1 non è installato qui</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</source>
+        <translation>Vengono rimossi il programma, i suoi collegamenti e le sue voci in Windows. I file personali restano.</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</source>
+        <translation>Vengono rimossi il programma, i suoi collegamenti e le sue voci in Windows, e tutta la cartella.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder is known to be of the program.</source>
+        <translation>Nulla in questa cartella risulta appartenere al programma.</translation>
+    </message>
+    <message>
+        <source>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</source>
+        <translation>Una copia del programma è in %1: %2 file. Possono essere eliminati. Gli altri file della cartella e l&apos;installazione restano.</translation>
     </message>
     <message>
         <source>&amp;Delete my settings</source>
         <translation>&amp;Elimina le mie impostazioni</translation>
     </message>
     <message>
-        <source>Delete the files beside this program all the same?</source>
-        <translation>Eliminare comunque i file accanto a questo programma?</translation>
+        <source>Not of the program, and left in the folder:</source>
+        <translation>Non del programma, resta nella cartella:</translation>
+    </message>
+    <message>
+        <source>Not of the program, and deleted with the folder:</source>
+        <translation>Non del programma, eliminato con la cartella:</translation>
     </message>
     <message>
         <source>&amp;Uninstall</source>
         <translation>&amp;Disinstalla</translation>
+    </message>
+    <message>
+        <source>&amp;Delete %1 files</source>
+        <translation>&amp;Elimina %1 file</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall the installed one</source>
+        <translation>&amp;Disinstalla quello installato</translation>
     </message>
     <message>
         <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
@@ -364,6 +440,10 @@
     <message>
         <source>Thank you for having used it.</source>
         <translation>Grazie per averlo usato.</translation>
+    </message>
+    <message>
+        <source>Left in %1:</source>
+        <translation>Resta in %1:</translation>
     </message>
 </context>
 <context>

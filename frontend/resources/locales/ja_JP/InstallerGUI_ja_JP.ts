@@ -91,14 +91,6 @@
         <translation>セットアップが壊れています。もう一度ダウンロードしてください。</translation>
     </message>
     <message>
-        <source>Where to install</source>
-        <translation>インストール先</translation>
-    </message>
-    <message>
-        <source>The program gets a folder of its own. You can keep the proposed place.</source>
-        <translation>プログラム専用のフォルダーが作られます。提案された場所のままでもかまいません。</translation>
-    </message>
-    <message>
         <source>&amp;Folder:</source>
         <translation>フォルダー(&amp;F):</translation>
     </message>
@@ -123,12 +115,48 @@
         <translation>%1 をインストールしています</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>キャンセル</translation>
+        <source>Install %1</source>
+        <translation>%1 のインストール</translation>
     </message>
     <message>
-        <source>&amp;Next</source>
-        <translation>次へ(&amp;N)</translation>
+        <source>Update %1 from %2 to %3</source>
+        <translation>%1 を %2 から %3 に更新</translation>
+    </message>
+    <message>
+        <source>%1 is installed already</source>
+        <translation>%1 は既にインストールされています</translation>
+    </message>
+    <message>
+        <source>The newer version %1 is installed</source>
+        <translation>新しいバージョン %1 がインストールされています</translation>
+    </message>
+    <message>
+        <source>You can install right away, or look at the options first.</source>
+        <translation>すぐにインストールするか、先にオプションを確認できます。</translation>
+    </message>
+    <message>
+        <source>Your settings and your own files are kept.</source>
+        <translation>設定とご自身のファイルは保持されます。</translation>
+    </message>
+    <message>
+        <source>For all users, in %1</source>
+        <translation>すべてのユーザー用、%1</translation>
+    </message>
+    <message>
+        <source>For you, in %1</source>
+        <translation>現在のユーザー用、%1</translation>
+    </message>
+    <message>
+        <source>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>&lt;a href=&quot;remove&quot;&gt;削除する&lt;/a&gt;こともできます。</translation>
+    </message>
+    <message>
+        <source>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>%1 に別のインストールがあります。&lt;a href=&quot;remove&quot;&gt;削除する&lt;/a&gt;こともできます。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -137,6 +165,22 @@
     <message>
         <source>&amp;Install</source>
         <translation>インストール(&amp;I)</translation>
+    </message>
+    <message>
+        <source>U&amp;pdate</source>
+        <translation>更新(&amp;P)</translation>
+    </message>
+    <message>
+        <source>R&amp;epair</source>
+        <translation>修復(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>置き換え(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>オプション(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -163,12 +207,16 @@
         <translation>キャンセルしました。何もインストールされていません。</translation>
     </message>
     <message>
-        <source>The file %1 is missing. Put it back beside the setup program.</source>
-        <translation>ファイル %1 がありません。セットアップと同じ場所に戻してください。</translation>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</source>
+        <translation>%1 はプログラムの一部ではなく、移動できません。何も変更されていません。使用中のプログラムを閉じて、もう一度お試しください。</translation>
     </message>
     <message>
-        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
-        <translation>フォルダー %1 はまだ削除中です。しばらく待ってからもう一度お試しください。</translation>
+        <source>Replace the newer version %1 with version %2?</source>
+        <translation>新しいバージョン %1 をバージョン %2 に置き換えますか?</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>ファイル %1 がありません。セットアップと同じ場所に戻してください。</translation>
     </message>
     <message>
         <source>%1 is installed</source>
@@ -185,6 +233,14 @@
     <message>
         <source>Everything is in its place. You can begin right away.</source>
         <translation>準備が整いました。すぐに使い始められます。</translation>
+    </message>
+    <message>
+        <source>Please note:</source>
+        <translation>ご注意ください:</translation>
+    </message>
+    <message>
+        <source>Your file was moved, because the program has one of that name: %1</source>
+        <translation>プログラムに同じ名前のファイルがあるため、お客様のファイルを移動しました: %1</translation>
     </message>
     <message>
         <source>How to install</source>
@@ -251,10 +307,6 @@
         <translation>%1 を今すぐ起動する(&amp;S)</translation>
     </message>
     <message>
-        <source>These files could not be copied:</source>
-        <translation>次のファイルをコピーできませんでした:</translation>
-    </message>
-    <message>
         <source>Removing the previous version...</source>
         <translation>以前のバージョンを削除しています...</translation>
     </message>
@@ -287,24 +339,16 @@
         <translation>%1 をアンインストールしました</translation>
     </message>
     <message>
+        <source>The copy of %1 was deleted</source>
+        <translation>%1 のコピーを削除しました</translation>
+    </message>
+    <message>
         <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
         <translation>&lt;a href=&quot;survey&quot;&gt;アンインストールの理由をお聞かせください&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 could not be uninstalled</source>
         <translation>%1 をアンインストールできませんでした</translation>
-    </message>
-    <message>
-        <source>Welcome to %1</source>
-        <translation>%1 へようこそ</translation>
-    </message>
-    <message>
-        <source>A few steps, and the program is ready to use.</source>
-        <translation>あと少しの手順で、すぐに使えるようになります。</translation>
-    </message>
-    <message>
-        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
-        <translation>このバージョンまたはより新しいバージョンがすでにインストールされています。再インストールすると置き換えられ、設定は引き継がれます。</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
@@ -338,24 +382,56 @@
         <translation>プログラムはすべてのユーザー向けにインストールされています。アンインストールには管理者の権限が必要です。管理者としてアンインストーラーを起動してください。</translation>
     </message>
     <message>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
+        <translation>%1 はプログラムの一部ではなく、移動できません。何も削除されていません。使用中のプログラムを閉じて、もう一度お試しください。</translation>
+    </message>
+    <message>
         <source>Uninstall %1?</source>
         <translation>%1 をアンインストールしますか?</translation>
     </message>
     <message>
-        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
-        <translation>プログラム、ショートカット、Windows の登録情報が削除されます。メディアファイルは残ります。</translation>
+        <source>%1 is not installed here</source>
+        <translation>%1 はここにインストールされていません</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</source>
+        <translation>プログラム、ショートカット、Windows への登録を削除します。ご自身のファイルは残ります。</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</source>
+        <translation>プログラム、ショートカット、Windows への登録、およびフォルダー全体を削除します。</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder is known to be of the program.</source>
+        <translation>このフォルダーにプログラムのものと分かるファイルはありません。</translation>
+    </message>
+    <message>
+        <source>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</source>
+        <translation>%1 にプログラムのコピーがあります: %2 個のファイル。これらは削除できます。フォルダー内の他のファイルとインストールはそのまま残ります。</translation>
     </message>
     <message>
         <source>&amp;Delete my settings</source>
         <translation>自分の設定を削除する(&amp;D)</translation>
     </message>
     <message>
-        <source>Delete the files beside this program all the same?</source>
-        <translation>それでもこのプログラムと同じ場所のファイルを削除しますか?</translation>
+        <source>Not of the program, and left in the folder:</source>
+        <translation>プログラム以外で、フォルダーに残るもの:</translation>
+    </message>
+    <message>
+        <source>Not of the program, and deleted with the folder:</source>
+        <translation>プログラム以外で、フォルダーと一緒に削除されるもの:</translation>
     </message>
     <message>
         <source>&amp;Uninstall</source>
         <translation>アンインストール(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete %1 files</source>
+        <translation>%1 個のファイルを削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall the installed one</source>
+        <translation>インストール済みのものをアンインストール(&amp;U)</translation>
     </message>
     <message>
         <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
@@ -364,6 +440,10 @@
     <message>
         <source>Thank you for having used it.</source>
         <translation>ご利用ありがとうございました。</translation>
+    </message>
+    <message>
+        <source>Left in %1:</source>
+        <translation>%1 に残っているもの:</translation>
     </message>
 </context>
 <context>

@@ -91,14 +91,6 @@
         <translation>설치 프로그램이 손상되었습니다. 다시 다운로드하세요.</translation>
     </message>
     <message>
-        <source>Where to install</source>
-        <translation>설치 위치</translation>
-    </message>
-    <message>
-        <source>The program gets a folder of its own. You can keep the proposed place.</source>
-        <translation>프로그램 전용 폴더가 만들어집니다. 제안된 위치를 그대로 사용해도 됩니다.</translation>
-    </message>
-    <message>
         <source>&amp;Folder:</source>
         <translation>폴더(&amp;F):</translation>
     </message>
@@ -123,12 +115,48 @@
         <translation>%1 설치 중</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>취소</translation>
+        <source>Install %1</source>
+        <translation>%1 설치</translation>
     </message>
     <message>
-        <source>&amp;Next</source>
-        <translation>다음(&amp;N)</translation>
+        <source>Update %1 from %2 to %3</source>
+        <translation>%1을(를) %2에서 %3(으)로 업데이트</translation>
+    </message>
+    <message>
+        <source>%1 is installed already</source>
+        <translation>%1이(가) 이미 설치되어 있습니다</translation>
+    </message>
+    <message>
+        <source>The newer version %1 is installed</source>
+        <translation>더 새로운 버전 %1이(가) 설치되어 있습니다</translation>
+    </message>
+    <message>
+        <source>You can install right away, or look at the options first.</source>
+        <translation>바로 설치하거나 먼저 옵션을 볼 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Your settings and your own files are kept.</source>
+        <translation>설정과 사용자 파일은 유지됩니다.</translation>
+    </message>
+    <message>
+        <source>For all users, in %1</source>
+        <translation>모든 사용자용, %1</translation>
+    </message>
+    <message>
+        <source>For you, in %1</source>
+        <translation>현재 사용자용, %1</translation>
+    </message>
+    <message>
+        <source>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>&lt;a href=&quot;remove&quot;&gt;제거&lt;/a&gt;할 수도 있습니다.</translation>
+    </message>
+    <message>
+        <source>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>%1에 다른 설치가 있습니다. &lt;a href=&quot;remove&quot;&gt;제거&lt;/a&gt;할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -137,6 +165,22 @@
     <message>
         <source>&amp;Install</source>
         <translation>설치(&amp;I)</translation>
+    </message>
+    <message>
+        <source>U&amp;pdate</source>
+        <translation>업데이트(&amp;P)</translation>
+    </message>
+    <message>
+        <source>R&amp;epair</source>
+        <translation>복구(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>바꾸기(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>옵션(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -163,12 +207,16 @@
         <translation>취소되었습니다. 아무것도 설치되지 않았습니다.</translation>
     </message>
     <message>
-        <source>The file %1 is missing. Put it back beside the setup program.</source>
-        <translation>%1 파일이 없습니다. 설치 프로그램 옆에 다시 넣어 주세요.</translation>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</source>
+        <translation>%1은(는) 프로그램의 일부가 아니며 옮길 수 없습니다. 아무것도 변경되지 않았습니다. 이 파일을 사용하는 프로그램을 닫고 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
-        <translation>%1 폴더를 아직 제거하는 중입니다. 잠시 기다린 후 다시 시도하십시오.</translation>
+        <source>Replace the newer version %1 with version %2?</source>
+        <translation>더 새로운 버전 %1을(를) 버전 %2(으)로 바꾸시겠습니까?</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>%1 파일이 없습니다. 설치 프로그램 옆에 다시 넣어 주세요.</translation>
     </message>
     <message>
         <source>%1 is installed</source>
@@ -185,6 +233,14 @@
     <message>
         <source>Everything is in its place. You can begin right away.</source>
         <translation>모든 준비가 끝났습니다. 바로 시작할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Please note:</source>
+        <translation>참고하십시오:</translation>
+    </message>
+    <message>
+        <source>Your file was moved, because the program has one of that name: %1</source>
+        <translation>프로그램에 같은 이름의 파일이 있어 사용자의 파일을 옮겼습니다: %1</translation>
     </message>
     <message>
         <source>How to install</source>
@@ -251,10 +307,6 @@
         <translation>지금 %1 시작(&amp;S)</translation>
     </message>
     <message>
-        <source>These files could not be copied:</source>
-        <translation>다음 파일을 복사하지 못했습니다:</translation>
-    </message>
-    <message>
         <source>Removing the previous version...</source>
         <translation>이전 버전을 제거하는 중...</translation>
     </message>
@@ -287,24 +339,16 @@
         <translation>%1이(가) 제거되었습니다</translation>
     </message>
     <message>
+        <source>The copy of %1 was deleted</source>
+        <translation>%1의 복사본을 삭제했습니다</translation>
+    </message>
+    <message>
         <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
         <translation>&lt;a href=&quot;survey&quot;&gt;제거한 이유를 알려 주세요&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 could not be uninstalled</source>
         <translation>%1을(를) 제거하지 못했습니다</translation>
-    </message>
-    <message>
-        <source>Welcome to %1</source>
-        <translation>%1에 오신 것을 환영합니다</translation>
-    </message>
-    <message>
-        <source>A few steps, and the program is ready to use.</source>
-        <translation>몇 단계만 거치면 바로 사용할 수 있습니다.</translation>
-    </message>
-    <message>
-        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
-        <translation>이 버전 또는 더 새로운 버전이 이미 설치되어 있습니다. 다시 설치하면 교체되며 설정은 유지됩니다.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
@@ -338,24 +382,56 @@
         <translation>프로그램이 모든 사용자를 위해 설치되어 있습니다. 제거하려면 관리자 권한이 필요합니다. 관리자 권한으로 제거 프로그램을 시작하세요.</translation>
     </message>
     <message>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
+        <translation>%1은(는) 프로그램의 일부가 아니며 옮길 수 없습니다. 아무것도 삭제되지 않았습니다. 이 파일을 사용하는 프로그램을 닫고 다시 시도하십시오.</translation>
+    </message>
+    <message>
         <source>Uninstall %1?</source>
         <translation>%1을(를) 제거할까요?</translation>
     </message>
     <message>
-        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
-        <translation>프로그램, 바로 가기 및 Windows의 등록 정보가 제거됩니다. 미디어 파일은 그대로 유지됩니다.</translation>
+        <source>%1 is not installed here</source>
+        <translation>%1은(는) 여기에 설치되어 있지 않습니다</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</source>
+        <translation>프로그램, 바로 가기 및 Windows 항목이 제거됩니다. 사용자 파일은 남습니다.</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</source>
+        <translation>프로그램, 바로 가기, Windows 항목 및 폴더 전체가 제거됩니다.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder is known to be of the program.</source>
+        <translation>이 폴더에는 프로그램의 것으로 알려진 파일이 없습니다.</translation>
+    </message>
+    <message>
+        <source>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</source>
+        <translation>%1에 프로그램의 복사본이 있습니다: 파일 %2개. 이 파일은 삭제할 수 있습니다. 폴더의 다른 파일과 설치는 그대로 남습니다.</translation>
     </message>
     <message>
         <source>&amp;Delete my settings</source>
         <translation>내 설정 삭제(&amp;D)</translation>
     </message>
     <message>
-        <source>Delete the files beside this program all the same?</source>
-        <translation>그래도 이 프로그램 옆의 파일을 삭제할까요?</translation>
+        <source>Not of the program, and left in the folder:</source>
+        <translation>프로그램의 것이 아니며 폴더에 남음:</translation>
+    </message>
+    <message>
+        <source>Not of the program, and deleted with the folder:</source>
+        <translation>프로그램의 것이 아니며 폴더와 함께 삭제됨:</translation>
     </message>
     <message>
         <source>&amp;Uninstall</source>
         <translation>제거(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete %1 files</source>
+        <translation>파일 %1개 삭제(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall the installed one</source>
+        <translation>설치된 프로그램 제거(&amp;U)</translation>
     </message>
     <message>
         <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
@@ -364,6 +440,10 @@
     <message>
         <source>Thank you for having used it.</source>
         <translation>이용해 주셔서 감사합니다.</translation>
+    </message>
+    <message>
+        <source>Left in %1:</source>
+        <translation>%1에 남은 항목:</translation>
     </message>
 </context>
 <context>

@@ -91,16 +91,8 @@
         <translation>Het installatieprogramma is beschadigd. Download het opnieuw.</translation>
     </message>
     <message>
-        <source>Where to install</source>
-        <translation>Installatielocatie</translation>
-    </message>
-    <message>
-        <source>The program gets a folder of its own. You can keep the proposed place.</source>
-        <translation>Het programma krijgt een eigen map. U kunt de voorgestelde plaats behouden.</translation>
-    </message>
-    <message>
         <source>&amp;Folder:</source>
-        <translation>&amp;Map:</translation>
+        <translation>Ma&amp;p:</translation>
     </message>
     <message>
         <source>B&amp;rowse...</source>
@@ -123,12 +115,48 @@
         <translation>%1 wordt geïnstalleerd</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Annuleren</translation>
+        <source>Install %1</source>
+        <translation>%1 installeren</translation>
     </message>
     <message>
-        <source>&amp;Next</source>
-        <translation>V&amp;olgende</translation>
+        <source>Update %1 from %2 to %3</source>
+        <translation>%1 bijwerken van %2 naar %3</translation>
+    </message>
+    <message>
+        <source>%1 is installed already</source>
+        <translation>%1 is al geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>The newer version %1 is installed</source>
+        <translation>De nieuwere versie %1 is geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>You can install right away, or look at the options first.</source>
+        <translation>U kunt direct installeren of eerst de opties bekijken.</translation>
+    </message>
+    <message>
+        <source>Your settings and your own files are kept.</source>
+        <translation>Uw instellingen en eigen bestanden blijven behouden.</translation>
+    </message>
+    <message>
+        <source>For all users, in %1</source>
+        <translation>Voor alle gebruikers, in %1</translation>
+    </message>
+    <message>
+        <source>For you, in %1</source>
+        <translation>Voor u, in %1</translation>
+    </message>
+    <message>
+        <source>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>U kunt het ook &lt;a href=&quot;remove&quot;&gt;verwijderen&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>Er is nog een installatie in %1. U kunt &lt;a href=&quot;remove&quot;&gt;die verwijderen&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -137,6 +165,22 @@
     <message>
         <source>&amp;Install</source>
         <translation>&amp;Installeren</translation>
+    </message>
+    <message>
+        <source>U&amp;pdate</source>
+        <translation>Bij&amp;werken</translation>
+    </message>
+    <message>
+        <source>R&amp;epair</source>
+        <translation>&amp;Repareren</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>V&amp;ervangen</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>O&amp;pties</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -163,12 +207,16 @@
         <translation>Geannuleerd: er is niets geïnstalleerd.</translation>
     </message>
     <message>
-        <source>The file %1 is missing. Put it back beside the setup program.</source>
-        <translation>Het bestand %1 ontbreekt. Zet het terug naast het installatieprogramma.</translation>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</source>
+        <translation>%1 hoort niet bij het programma en kan niet worden verplaatst: er is niets gewijzigd. Sluit het programma dat het gebruikt en probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
-        <translation>De map %1 wordt nog verwijderd. Wacht even en probeer het opnieuw.</translation>
+        <source>Replace the newer version %1 with version %2?</source>
+        <translation>De nieuwere versie %1 vervangen door versie %2?</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>Het bestand %1 ontbreekt. Zet het terug naast het installatieprogramma.</translation>
     </message>
     <message>
         <source>%1 is installed</source>
@@ -185,6 +233,14 @@
     <message>
         <source>Everything is in its place. You can begin right away.</source>
         <translation>Alles staat op zijn plaats. U kunt meteen beginnen.</translation>
+    </message>
+    <message>
+        <source>Please note:</source>
+        <translation>Let op:</translation>
+    </message>
+    <message>
+        <source>Your file was moved, because the program has one of that name: %1</source>
+        <translation>Uw bestand is verplaatst, omdat het programma een bestand met die naam heeft: %1</translation>
     </message>
     <message>
         <source>How to install</source>
@@ -251,10 +307,6 @@
         <translation>%1 nu &amp;starten</translation>
     </message>
     <message>
-        <source>These files could not be copied:</source>
-        <translation>Deze bestanden konden niet worden gekopieerd:</translation>
-    </message>
-    <message>
         <source>Removing the previous version...</source>
         <translation>Vorige versie wordt verwijderd...</translation>
     </message>
@@ -287,24 +339,16 @@
         <translation>%1 is verwijderd</translation>
     </message>
     <message>
+        <source>The copy of %1 was deleted</source>
+        <translation>De kopie van %1 is verwijderd</translation>
+    </message>
+    <message>
         <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
         <translation>&lt;a href=&quot;survey&quot;&gt;Vertel ons waarom u het hebt verwijderd&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 could not be uninstalled</source>
         <translation>%1 kon niet worden verwijderd</translation>
-    </message>
-    <message>
-        <source>Welcome to %1</source>
-        <translation>Welkom bij %1</translation>
-    </message>
-    <message>
-        <source>A few steps, and the program is ready to use.</source>
-        <translation>Een paar stappen en het programma is klaar voor gebruik.</translation>
-    </message>
-    <message>
-        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
-        <translation>Deze versie of een nieuwere is al geïnstalleerd. Opnieuw installeren vervangt die en behoudt uw instellingen.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
@@ -338,24 +382,56 @@
         <translation>Het programma is voor alle gebruikers geïnstalleerd. Voor het verwijderen zijn beheerdersrechten nodig: start het verwijderprogramma als beheerder.</translation>
     </message>
     <message>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
+        <translation>%1 hoort niet bij het programma en kan niet worden verplaatst: er is niets verwijderd. Sluit het programma dat het gebruikt en probeer het opnieuw.</translation>
+    </message>
+    <message>
         <source>Uninstall %1?</source>
         <translation>%1 verwijderen?</translation>
     </message>
     <message>
-        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
-        <translation>Het programma, de snelkoppelingen en de vermeldingen in Windows worden verwijderd. Uw mediabestanden blijven.</translation>
+        <source>%1 is not installed here</source>
+        <translation>%1 is hier niet geïnstalleerd</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</source>
+        <translation>Het programma, de snelkoppelingen en de vermeldingen in Windows worden verwijderd. Uw eigen bestanden blijven.</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</source>
+        <translation>Het programma, de snelkoppelingen en de vermeldingen in Windows worden verwijderd, en de hele map.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder is known to be of the program.</source>
+        <translation>Van niets in deze map is bekend dat het bij het programma hoort.</translation>
+    </message>
+    <message>
+        <source>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</source>
+        <translation>In %1 staat een kopie van het programma: %2 bestanden. Die kunnen worden verwijderd. Andere bestanden in de map blijven, en de installatie ook.</translation>
     </message>
     <message>
         <source>&amp;Delete my settings</source>
         <translation>&amp;Mijn instellingen verwijderen</translation>
     </message>
     <message>
-        <source>Delete the files beside this program all the same?</source>
-        <translation>De bestanden naast dit programma toch verwijderen?</translation>
+        <source>Not of the program, and left in the folder:</source>
+        <translation>Niet van het programma, blijft in de map:</translation>
+    </message>
+    <message>
+        <source>Not of the program, and deleted with the folder:</source>
+        <translation>Niet van het programma, wordt met de map verwijderd:</translation>
     </message>
     <message>
         <source>&amp;Uninstall</source>
         <translation>&amp;Verwijderen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete %1 files</source>
+        <translation>%1 bestanden &amp;wissen</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall the installed one</source>
+        <translation>&amp;Geïnstalleerde verwijderen</translation>
     </message>
     <message>
         <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
@@ -364,6 +440,10 @@
     <message>
         <source>Thank you for having used it.</source>
         <translation>Bedankt voor het gebruik.</translation>
+    </message>
+    <message>
+        <source>Left in %1:</source>
+        <translation>Blijft in %1:</translation>
     </message>
 </context>
 <context>

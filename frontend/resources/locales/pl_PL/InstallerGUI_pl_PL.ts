@@ -91,14 +91,6 @@
         <translation>Instalator jest uszkodzony. Pobierz go ponownie.</translation>
     </message>
     <message>
-        <source>Where to install</source>
-        <translation>Miejsce instalacji</translation>
-    </message>
-    <message>
-        <source>The program gets a folder of its own. You can keep the proposed place.</source>
-        <translation>Program otrzyma własny folder. Możesz zachować proponowane miejsce.</translation>
-    </message>
-    <message>
         <source>&amp;Folder:</source>
         <translation>&amp;Folder:</translation>
     </message>
@@ -123,12 +115,48 @@
         <translation>Instalowanie %1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Anuluj</translation>
+        <source>Install %1</source>
+        <translation>Zainstaluj %1</translation>
     </message>
     <message>
-        <source>&amp;Next</source>
-        <translation>&amp;Dalej</translation>
+        <source>Update %1 from %2 to %3</source>
+        <translation>Zaktualizuj %1 z %2 do %3</translation>
+    </message>
+    <message>
+        <source>%1 is installed already</source>
+        <translation>%1 jest już zainstalowany</translation>
+    </message>
+    <message>
+        <source>The newer version %1 is installed</source>
+        <translation>Zainstalowana jest nowsza wersja %1</translation>
+    </message>
+    <message>
+        <source>You can install right away, or look at the options first.</source>
+        <translation>Możesz zainstalować od razu lub najpierw obejrzeć opcje.</translation>
+    </message>
+    <message>
+        <source>Your settings and your own files are kept.</source>
+        <translation>Twoje ustawienia i własne pliki zostaną zachowane.</translation>
+    </message>
+    <message>
+        <source>For all users, in %1</source>
+        <translation>Dla wszystkich użytkowników, w %1</translation>
+    </message>
+    <message>
+        <source>For you, in %1</source>
+        <translation>Dla Ciebie, w %1</translation>
+    </message>
+    <message>
+        <source>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>Możesz go też &lt;a href=&quot;remove&quot;&gt;usunąć&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>Inna instalacja znajduje się w %1. Możesz &lt;a href=&quot;remove&quot;&gt;ją usunąć&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -137,6 +165,22 @@
     <message>
         <source>&amp;Install</source>
         <translation>&amp;Zainstaluj</translation>
+    </message>
+    <message>
+        <source>U&amp;pdate</source>
+        <translation>Ak&amp;tualizuj</translation>
+    </message>
+    <message>
+        <source>R&amp;epair</source>
+        <translation>&amp;Napraw</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Zas&amp;tąp</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opcje</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -163,12 +207,16 @@
         <translation>Anulowano: niczego nie zainstalowano.</translation>
     </message>
     <message>
-        <source>The file %1 is missing. Put it back beside the setup program.</source>
-        <translation>Brakuje pliku %1. Umieść go z powrotem obok instalatora.</translation>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</source>
+        <translation>%1 nie należy do programu i nie można go przenieść: nic nie zostało zmienione. Zamknij program, który go używa, i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
-        <translation>Folder %1 jest jeszcze usuwany. Poczekaj chwilę i spróbuj ponownie.</translation>
+        <source>Replace the newer version %1 with version %2?</source>
+        <translation>Zastąpić nowszą wersję %1 wersją %2?</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>Brakuje pliku %1. Umieść go z powrotem obok instalatora.</translation>
     </message>
     <message>
         <source>%1 is installed</source>
@@ -185,6 +233,14 @@
     <message>
         <source>Everything is in its place. You can begin right away.</source>
         <translation>Wszystko jest na swoim miejscu. Możesz od razu zacząć.</translation>
+    </message>
+    <message>
+        <source>Please note:</source>
+        <translation>Uwaga:</translation>
+    </message>
+    <message>
+        <source>Your file was moved, because the program has one of that name: %1</source>
+        <translation>Twój plik został przeniesiony, ponieważ program ma plik o tej nazwie: %1</translation>
     </message>
     <message>
         <source>How to install</source>
@@ -251,10 +307,6 @@
         <translation>&amp;Uruchom teraz %1</translation>
     </message>
     <message>
-        <source>These files could not be copied:</source>
-        <translation>Nie udało się skopiować tych plików:</translation>
-    </message>
-    <message>
         <source>Removing the previous version...</source>
         <translation>Usuwanie poprzedniej wersji...</translation>
     </message>
@@ -287,24 +339,16 @@
         <translation>Odinstalowano %1</translation>
     </message>
     <message>
+        <source>The copy of %1 was deleted</source>
+        <translation>Kopia %1 została usunięta</translation>
+    </message>
+    <message>
         <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
         <translation>&lt;a href=&quot;survey&quot;&gt;Powiedz nam, dlaczego go odinstalowano&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 could not be uninstalled</source>
         <translation>Nie udało się odinstalować %1</translation>
-    </message>
-    <message>
-        <source>Welcome to %1</source>
-        <translation>Witamy w %1</translation>
-    </message>
-    <message>
-        <source>A few steps, and the program is ready to use.</source>
-        <translation>Kilka kroków i program będzie gotowy do użycia.</translation>
-    </message>
-    <message>
-        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
-        <translation>Ta lub nowsza wersja jest już zainstalowana. Ponowna instalacja zastąpi ją i zachowa ustawienia.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
@@ -338,24 +382,56 @@
         <translation>Program jest zainstalowany dla wszystkich użytkowników. Odinstalowanie wymaga uprawnień administratora: uruchom program odinstalowujący jako administrator.</translation>
     </message>
     <message>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
+        <translation>%1 nie należy do programu i nie można go przenieść: nic nie zostało usunięte. Zamknij program, który go używa, i spróbuj ponownie.</translation>
+    </message>
+    <message>
         <source>Uninstall %1?</source>
         <translation>Odinstalować %1?</translation>
     </message>
     <message>
-        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
-        <translation>Program, jego skróty i wpisy w systemie Windows zostaną usunięte. Twoje pliki multimedialne pozostaną.</translation>
+        <source>%1 is not installed here</source>
+        <translation>%1 nie jest tu zainstalowany</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</source>
+        <translation>Program, jego skróty i wpisy w Windows zostaną usunięte. Twoje własne pliki pozostaną.</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</source>
+        <translation>Program, jego skróty i wpisy w Windows oraz cały folder zostaną usunięte.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder is known to be of the program.</source>
+        <translation>W tym folderze nie ma nic, o czym wiadomo, że należy do programu.</translation>
+    </message>
+    <message>
+        <source>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</source>
+        <translation>W %1 jest kopia programu, liczba plików: %2. Można je usunąć. Inne pliki w folderze pozostaną, podobnie jak instalacja.</translation>
     </message>
     <message>
         <source>&amp;Delete my settings</source>
         <translation>Usuń &amp;moje ustawienia</translation>
     </message>
     <message>
-        <source>Delete the files beside this program all the same?</source>
-        <translation>Czy mimo to usunąć pliki obok tego programu?</translation>
+        <source>Not of the program, and left in the folder:</source>
+        <translation>Nie należy do programu, pozostanie w folderze:</translation>
+    </message>
+    <message>
+        <source>Not of the program, and deleted with the folder:</source>
+        <translation>Nie należy do programu, zostanie usunięte z folderem:</translation>
     </message>
     <message>
         <source>&amp;Uninstall</source>
         <translation>&amp;Odinstaluj</translation>
+    </message>
+    <message>
+        <source>&amp;Delete %1 files</source>
+        <translation>&amp;Usuń pliki (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall the installed one</source>
+        <translation>&amp;Odinstaluj zainstalowany</translation>
     </message>
     <message>
         <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
@@ -364,6 +440,10 @@
     <message>
         <source>Thank you for having used it.</source>
         <translation>Dziękujemy za korzystanie z programu.</translation>
+    </message>
+    <message>
+        <source>Left in %1:</source>
+        <translation>Pozostaje w %1:</translation>
     </message>
 </context>
 <context>

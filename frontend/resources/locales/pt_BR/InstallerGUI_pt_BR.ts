@@ -91,14 +91,6 @@
         <translation>O instalador está danificado. Baixe-o novamente.</translation>
     </message>
     <message>
-        <source>Where to install</source>
-        <translation>Onde instalar</translation>
-    </message>
-    <message>
-        <source>The program gets a folder of its own. You can keep the proposed place.</source>
-        <translation>O programa terá uma pasta própria. Você pode manter o local proposto.</translation>
-    </message>
-    <message>
         <source>&amp;Folder:</source>
         <translation>&amp;Pasta:</translation>
     </message>
@@ -123,12 +115,48 @@
         <translation>Instalando %1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Cancelar</translation>
+        <source>Install %1</source>
+        <translation>Instalar %1</translation>
     </message>
     <message>
-        <source>&amp;Next</source>
-        <translation>&amp;Avançar</translation>
+        <source>Update %1 from %2 to %3</source>
+        <translation>Atualizar %1 de %2 para %3</translation>
+    </message>
+    <message>
+        <source>%1 is installed already</source>
+        <translation>%1 já está instalado</translation>
+    </message>
+    <message>
+        <source>The newer version %1 is installed</source>
+        <translation>A versão mais recente %1 está instalada</translation>
+    </message>
+    <message>
+        <source>You can install right away, or look at the options first.</source>
+        <translation>Você pode instalar agora mesmo ou ver antes as opções.</translation>
+    </message>
+    <message>
+        <source>Your settings and your own files are kept.</source>
+        <translation>Suas configurações e seus arquivos são mantidos.</translation>
+    </message>
+    <message>
+        <source>For all users, in %1</source>
+        <translation>Para todos os usuários, em %1</translation>
+    </message>
+    <message>
+        <source>For you, in %1</source>
+        <translation>Para você, em %1</translation>
+    </message>
+    <message>
+        <source>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>Você também pode &lt;a href=&quot;remove&quot;&gt;removê-lo&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>Há outra instalação em %1. Você pode &lt;a href=&quot;remove&quot;&gt;removê-la&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -136,7 +164,23 @@
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation>&amp;Instalar</translation>
+        <translation>I&amp;nstalar</translation>
+    </message>
+    <message>
+        <source>U&amp;pdate</source>
+        <translation>Atuali&amp;zar</translation>
+    </message>
+    <message>
+        <source>R&amp;epair</source>
+        <translation>R&amp;eparar</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Su&amp;bstituir</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opções</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -163,12 +207,16 @@
         <translation>Cancelado: nada foi instalado.</translation>
     </message>
     <message>
-        <source>The file %1 is missing. Put it back beside the setup program.</source>
-        <translation>O arquivo %1 não foi encontrado. Coloque-o de volta ao lado do instalador.</translation>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</source>
+        <translation>%1 não faz parte do programa e não pode ser movido: nada foi alterado. Feche o programa que o usa e tente novamente.</translation>
     </message>
     <message>
-        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
-        <translation>A pasta %1 ainda está sendo removida. Aguarde um momento e tente novamente.</translation>
+        <source>Replace the newer version %1 with version %2?</source>
+        <translation>Substituir a versão mais recente %1 pela versão %2?</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>O arquivo %1 não foi encontrado. Coloque-o de volta ao lado do instalador.</translation>
     </message>
     <message>
         <source>%1 is installed</source>
@@ -185,6 +233,14 @@
     <message>
         <source>Everything is in its place. You can begin right away.</source>
         <translation>Tudo está no lugar. Você já pode começar.</translation>
+    </message>
+    <message>
+        <source>Please note:</source>
+        <translation>Observe:</translation>
+    </message>
+    <message>
+        <source>Your file was moved, because the program has one of that name: %1</source>
+        <translation>Seu arquivo foi movido, porque o programa tem um com esse nome: %1</translation>
     </message>
     <message>
         <source>How to install</source>
@@ -251,10 +307,6 @@
         <translation>&amp;Iniciar %1 agora</translation>
     </message>
     <message>
-        <source>These files could not be copied:</source>
-        <translation>Não foi possível copiar estes arquivos:</translation>
-    </message>
-    <message>
         <source>Removing the previous version...</source>
         <translation>Removendo a versão anterior...</translation>
     </message>
@@ -287,24 +339,16 @@
         <translation>%1 foi desinstalado</translation>
     </message>
     <message>
+        <source>The copy of %1 was deleted</source>
+        <translation>A cópia do %1 foi excluída</translation>
+    </message>
+    <message>
         <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
         <translation>&lt;a href=&quot;survey&quot;&gt;Conte-nos por que você o desinstalou&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 could not be uninstalled</source>
         <translation>Não foi possível desinstalar %1</translation>
-    </message>
-    <message>
-        <source>Welcome to %1</source>
-        <translation>Bem-vindo ao %1</translation>
-    </message>
-    <message>
-        <source>A few steps, and the program is ready to use.</source>
-        <translation>Poucos passos e o programa estará pronto para usar.</translation>
-    </message>
-    <message>
-        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
-        <translation>Esta versão ou uma mais recente já está instalada. Instalar novamente a substitui e mantém suas configurações.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
@@ -338,24 +382,56 @@
         <translation>O programa está instalado para todos os usuários. A desinstalação exige direitos de administrador: inicie o desinstalador como administrador.</translation>
     </message>
     <message>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
+        <translation>%1 não faz parte do programa e não pode ser movido: nada foi excluído. Feche o programa que o usa e tente novamente.</translation>
+    </message>
+    <message>
         <source>Uninstall %1?</source>
         <translation>Desinstalar %1?</translation>
     </message>
     <message>
-        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
-        <translation>O programa, seus atalhos e suas entradas no Windows serão removidos. Seus arquivos de mídia permanecem.</translation>
+        <source>%1 is not installed here</source>
+        <translation>%1 não está instalado aqui</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</source>
+        <translation>O programa, seus atalhos e suas entradas no Windows são removidos. Seus próprios arquivos permanecem.</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</source>
+        <translation>O programa, seus atalhos e suas entradas no Windows são removidos, e toda a pasta.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder is known to be of the program.</source>
+        <translation>Não se sabe de nada nesta pasta que seja do programa.</translation>
+    </message>
+    <message>
+        <source>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</source>
+        <translation>Há uma cópia do programa em %1: %2 arquivos. Eles podem ser excluídos. Os outros arquivos da pasta e a instalação permanecem.</translation>
     </message>
     <message>
         <source>&amp;Delete my settings</source>
         <translation>&amp;Excluir minhas configurações</translation>
     </message>
     <message>
-        <source>Delete the files beside this program all the same?</source>
-        <translation>Excluir mesmo assim os arquivos ao lado deste programa?</translation>
+        <source>Not of the program, and left in the folder:</source>
+        <translation>Não é do programa e fica na pasta:</translation>
+    </message>
+    <message>
+        <source>Not of the program, and deleted with the folder:</source>
+        <translation>Não é do programa e será excluído com a pasta:</translation>
     </message>
     <message>
         <source>&amp;Uninstall</source>
         <translation>&amp;Desinstalar</translation>
+    </message>
+    <message>
+        <source>&amp;Delete %1 files</source>
+        <translation>&amp;Excluir %1 arquivos</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall the installed one</source>
+        <translation>&amp;Desinstalar o instalado</translation>
     </message>
     <message>
         <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
@@ -364,6 +440,10 @@
     <message>
         <source>Thank you for having used it.</source>
         <translation>Obrigado por ter usado o programa.</translation>
+    </message>
+    <message>
+        <source>Left in %1:</source>
+        <translation>Permanece em %1:</translation>
     </message>
 </context>
 <context>

@@ -91,14 +91,6 @@
         <translation>Программа установки повреждена. Загрузите её ещё раз.</translation>
     </message>
     <message>
-        <source>Where to install</source>
-        <translation>Куда установить</translation>
-    </message>
-    <message>
-        <source>The program gets a folder of its own. You can keep the proposed place.</source>
-        <translation>Программа получит собственную папку. Можно оставить предложенное место.</translation>
-    </message>
-    <message>
         <source>&amp;Folder:</source>
         <translation>&amp;Папка:</translation>
     </message>
@@ -123,12 +115,48 @@
         <translation>Установка %1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Отмена</translation>
+        <source>Install %1</source>
+        <translation>Установка %1</translation>
     </message>
     <message>
-        <source>&amp;Next</source>
-        <translation>&amp;Далее</translation>
+        <source>Update %1 from %2 to %3</source>
+        <translation>Обновление %1 с %2 до %3</translation>
+    </message>
+    <message>
+        <source>%1 is installed already</source>
+        <translation>Программа %1 уже установлена</translation>
+    </message>
+    <message>
+        <source>The newer version %1 is installed</source>
+        <translation>Установлена более новая версия %1</translation>
+    </message>
+    <message>
+        <source>You can install right away, or look at the options first.</source>
+        <translation>Можно установить сразу или сначала посмотреть параметры.</translation>
+    </message>
+    <message>
+        <source>Your settings and your own files are kept.</source>
+        <translation>Ваши настройки и файлы сохраняются.</translation>
+    </message>
+    <message>
+        <source>For all users, in %1</source>
+        <translation>Для всех пользователей, в %1</translation>
+    </message>
+    <message>
+        <source>For you, in %1</source>
+        <translation>Для вас, в %1</translation>
+    </message>
+    <message>
+        <source>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>Её также можно &lt;a href=&quot;remove&quot;&gt;удалить&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>Ещё одна установка находится в %1. Её можно &lt;a href=&quot;remove&quot;&gt;удалить&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -137,6 +165,22 @@
     <message>
         <source>&amp;Install</source>
         <translation>&amp;Установить</translation>
+    </message>
+    <message>
+        <source>U&amp;pdate</source>
+        <translation>О&amp;бновить</translation>
+    </message>
+    <message>
+        <source>R&amp;epair</source>
+        <translation>&amp;Исправить</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>&amp;Заменить</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>Па&amp;раметры</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -163,12 +207,16 @@
         <translation>Отменено: ничего не установлено.</translation>
     </message>
     <message>
-        <source>The file %1 is missing. Put it back beside the setup program.</source>
-        <translation>Файл %1 отсутствует. Верните его в папку программы установки.</translation>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</source>
+        <translation>%1 не относится к программе, и его не удаётся переместить: ничего не изменено. Закройте программу, которая его использует, и повторите попытку.</translation>
     </message>
     <message>
-        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
-        <translation>Папка %1 ещё удаляется. Подождите немного и повторите попытку.</translation>
+        <source>Replace the newer version %1 with version %2?</source>
+        <translation>Заменить более новую версию %1 версией %2?</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>Файл %1 отсутствует. Верните его в папку программы установки.</translation>
     </message>
     <message>
         <source>%1 is installed</source>
@@ -185,6 +233,14 @@
     <message>
         <source>Everything is in its place. You can begin right away.</source>
         <translation>Всё на своих местах. Можно начинать.</translation>
+    </message>
+    <message>
+        <source>Please note:</source>
+        <translation>Обратите внимание:</translation>
+    </message>
+    <message>
+        <source>Your file was moved, because the program has one of that name: %1</source>
+        <translation>Ваш файл перемещён, так как у программы есть файл с таким именем: %1</translation>
     </message>
     <message>
         <source>How to install</source>
@@ -251,10 +307,6 @@
         <translation>&amp;Запустить %1 сейчас</translation>
     </message>
     <message>
-        <source>These files could not be copied:</source>
-        <translation>Не удалось скопировать эти файлы:</translation>
-    </message>
-    <message>
         <source>Removing the previous version...</source>
         <translation>Удаление предыдущей версии...</translation>
     </message>
@@ -287,24 +339,16 @@
         <translation>Программа %1 удалена</translation>
     </message>
     <message>
+        <source>The copy of %1 was deleted</source>
+        <translation>Копия %1 удалена</translation>
+    </message>
+    <message>
         <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
         <translation>&lt;a href=&quot;survey&quot;&gt;Расскажите, почему вы её удалили&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 could not be uninstalled</source>
         <translation>Не удалось удалить %1</translation>
-    </message>
-    <message>
-        <source>Welcome to %1</source>
-        <translation>Добро пожаловать в %1</translation>
-    </message>
-    <message>
-        <source>A few steps, and the program is ready to use.</source>
-        <translation>Несколько шагов, и программа готова к работе.</translation>
-    </message>
-    <message>
-        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
-        <translation>Эта или более новая версия уже установлена. При повторной установке она заменяется, настройки сохраняются.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
@@ -338,24 +382,56 @@
         <translation>Программа установлена для всех пользователей. Для её удаления нужны права администратора: запустите программу удаления от имени администратора.</translation>
     </message>
     <message>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
+        <translation>%1 не относится к программе, и его не удаётся переместить: ничего не удалено. Закройте программу, которая его использует, и повторите попытку.</translation>
+    </message>
+    <message>
         <source>Uninstall %1?</source>
         <translation>Удалить %1?</translation>
     </message>
     <message>
-        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
-        <translation>Программа, её ярлыки и записи в Windows будут удалены. Ваши медиафайлы останутся.</translation>
+        <source>%1 is not installed here</source>
+        <translation>Программа %1 установлена не здесь</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</source>
+        <translation>Будут удалены программа, её ярлыки и записи в Windows. Ваши файлы останутся.</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</source>
+        <translation>Будут удалены программа, её ярлыки и записи в Windows, а также вся папка.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder is known to be of the program.</source>
+        <translation>В этой папке нет файлов, о которых известно, что они относятся к программе.</translation>
+    </message>
+    <message>
+        <source>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</source>
+        <translation>В %1 находится копия программы, файлов: %2. Их можно удалить. Другие файлы в папке и сама установка остаются.</translation>
     </message>
     <message>
         <source>&amp;Delete my settings</source>
         <translation>Удалить &amp;мои настройки</translation>
     </message>
     <message>
-        <source>Delete the files beside this program all the same?</source>
-        <translation>Всё равно удалить файлы рядом с этой программой?</translation>
+        <source>Not of the program, and left in the folder:</source>
+        <translation>Не относится к программе и останется в папке:</translation>
+    </message>
+    <message>
+        <source>Not of the program, and deleted with the folder:</source>
+        <translation>Не относится к программе и будет удалено вместе с папкой:</translation>
     </message>
     <message>
         <source>&amp;Uninstall</source>
         <translation>&amp;Удалить</translation>
+    </message>
+    <message>
+        <source>&amp;Delete %1 files</source>
+        <translation>&amp;Стереть файлы (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall the installed one</source>
+        <translation>&amp;Удалить установленную</translation>
     </message>
     <message>
         <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
@@ -364,6 +440,10 @@
     <message>
         <source>Thank you for having used it.</source>
         <translation>Спасибо, что пользовались программой.</translation>
+    </message>
+    <message>
+        <source>Left in %1:</source>
+        <translation>Осталось в %1:</translation>
     </message>
 </context>
 <context>

@@ -91,16 +91,8 @@
         <translation>Kurulum programı bozuk. Yeniden indirin.</translation>
     </message>
     <message>
-        <source>Where to install</source>
-        <translation>Yükleme konumu</translation>
-    </message>
-    <message>
-        <source>The program gets a folder of its own. You can keep the proposed place.</source>
-        <translation>Programın kendi klasörü olur. Önerilen konumu kullanabilirsiniz.</translation>
-    </message>
-    <message>
         <source>&amp;Folder:</source>
-        <translation>&amp;Klasör:</translation>
+        <translation>K&amp;lasör:</translation>
     </message>
     <message>
         <source>B&amp;rowse...</source>
@@ -123,12 +115,48 @@
         <translation>%1 yükleniyor</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>İptal</translation>
+        <source>Install %1</source>
+        <translation>%1 kurulumu</translation>
     </message>
     <message>
-        <source>&amp;Next</source>
-        <translation>İ&amp;leri</translation>
+        <source>Update %1 from %2 to %3</source>
+        <translation>%1: %2 sürümünden %3 sürümüne güncelle</translation>
+    </message>
+    <message>
+        <source>%1 is installed already</source>
+        <translation>%1 zaten yüklü</translation>
+    </message>
+    <message>
+        <source>The newer version %1 is installed</source>
+        <translation>Daha yeni olan %1 sürümü yüklü</translation>
+    </message>
+    <message>
+        <source>You can install right away, or look at the options first.</source>
+        <translation>Hemen yükleyebilir veya önce seçeneklere bakabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>Your settings and your own files are kept.</source>
+        <translation>Ayarlarınız ve kendi dosyalarınız korunur.</translation>
+    </message>
+    <message>
+        <source>For all users, in %1</source>
+        <translation>Tüm kullanıcılar için, %1</translation>
+    </message>
+    <message>
+        <source>For you, in %1</source>
+        <translation>Sizin için, %1</translation>
+    </message>
+    <message>
+        <source>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>İsterseniz &lt;a href=&quot;remove&quot;&gt;kaldırabilirsiniz&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>%1 içinde başka bir kurulum var. &lt;a href=&quot;remove&quot;&gt;Kaldırabilirsiniz&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -137,6 +165,22 @@
     <message>
         <source>&amp;Install</source>
         <translation>&amp;Yükle</translation>
+    </message>
+    <message>
+        <source>U&amp;pdate</source>
+        <translation>Gü&amp;ncelle</translation>
+    </message>
+    <message>
+        <source>R&amp;epair</source>
+        <translation>&amp;Onar</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>Değişti&amp;r</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Seçenekler</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -163,12 +207,16 @@
         <translation>İptal edildi: hiçbir şey yüklenmedi.</translation>
     </message>
     <message>
-        <source>The file %1 is missing. Put it back beside the setup program.</source>
-        <translation>%1 dosyası yok. Dosyayı kurulum programının yanına geri koyun.</translation>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</source>
+        <translation>%1 programın parçası değil ve taşınamıyor: hiçbir şey değiştirilmedi. Onu kullanan programı kapatıp yeniden deneyin.</translation>
     </message>
     <message>
-        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
-        <translation>%1 klasörü hâlâ kaldırılıyor. Biraz bekleyip yeniden deneyin.</translation>
+        <source>Replace the newer version %1 with version %2?</source>
+        <translation>Daha yeni olan %1 sürümü %2 sürümüyle değiştirilsin mi?</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>%1 dosyası yok. Dosyayı kurulum programının yanına geri koyun.</translation>
     </message>
     <message>
         <source>%1 is installed</source>
@@ -185,6 +233,14 @@
     <message>
         <source>Everything is in its place. You can begin right away.</source>
         <translation>Her şey yerinde. Hemen başlayabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>Please note:</source>
+        <translation>Lütfen dikkat edin:</translation>
+    </message>
+    <message>
+        <source>Your file was moved, because the program has one of that name: %1</source>
+        <translation>Programın aynı adlı bir dosyası olduğu için dosyanız taşındı: %1</translation>
     </message>
     <message>
         <source>How to install</source>
@@ -251,10 +307,6 @@
         <translation>%1 programını şimdi &amp;başlat</translation>
     </message>
     <message>
-        <source>These files could not be copied:</source>
-        <translation>Bu dosyalar kopyalanamadı:</translation>
-    </message>
-    <message>
         <source>Removing the previous version...</source>
         <translation>Önceki sürüm kaldırılıyor...</translation>
     </message>
@@ -287,24 +339,16 @@
         <translation>%1 kaldırıldı</translation>
     </message>
     <message>
+        <source>The copy of %1 was deleted</source>
+        <translation>%1 kopyası silindi</translation>
+    </message>
+    <message>
         <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
         <translation>&lt;a href=&quot;survey&quot;&gt;Neden kaldırdığınızı bize anlatın&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 could not be uninstalled</source>
         <translation>%1 kaldırılamadı</translation>
-    </message>
-    <message>
-        <source>Welcome to %1</source>
-        <translation>%1 kurulumuna hoş geldiniz</translation>
-    </message>
-    <message>
-        <source>A few steps, and the program is ready to use.</source>
-        <translation>Birkaç adım sonra program kullanıma hazır.</translation>
-    </message>
-    <message>
-        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
-        <translation>Bu sürüm veya daha yenisi zaten yüklü. Yeniden yükleme onun yerini alır ve ayarlarınızı korur.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
@@ -338,24 +382,56 @@
         <translation>Program tüm kullanıcılar için yüklü. Kaldırmak için yönetici hakları gerekir: kaldırma programını yönetici olarak başlatın.</translation>
     </message>
     <message>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
+        <translation>%1 programın parçası değil ve taşınamıyor: hiçbir şey silinmedi. Onu kullanan programı kapatıp yeniden deneyin.</translation>
+    </message>
+    <message>
         <source>Uninstall %1?</source>
         <translation>%1 kaldırılsın mı?</translation>
     </message>
     <message>
-        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
-        <translation>Program, kısayolları ve Windows&apos;taki kayıtları kaldırılır. Ortam dosyalarınız kalır.</translation>
+        <source>%1 is not installed here</source>
+        <translation>%1 burada yüklü değil</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</source>
+        <translation>Program, kısayolları ve Windows kayıtları kaldırılır. Kendi dosyalarınız kalır.</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</source>
+        <translation>Program, kısayolları ve Windows kayıtları ile klasörün tamamı kaldırılır.</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder is known to be of the program.</source>
+        <translation>Bu klasörde programa ait olduğu bilinen bir şey yok.</translation>
+    </message>
+    <message>
+        <source>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</source>
+        <translation>%1 içinde programın bir kopyası var: %2 dosya. Bunlar silinebilir. Klasördeki diğer dosyalar ve kurulum kalır.</translation>
     </message>
     <message>
         <source>&amp;Delete my settings</source>
         <translation>A&amp;yarlarımı sil</translation>
     </message>
     <message>
-        <source>Delete the files beside this program all the same?</source>
-        <translation>Yine de bu programın yanındaki dosyalar silinsin mi?</translation>
+        <source>Not of the program, and left in the folder:</source>
+        <translation>Programa ait değil, klasörde kalır:</translation>
+    </message>
+    <message>
+        <source>Not of the program, and deleted with the folder:</source>
+        <translation>Programa ait değil, klasörle birlikte silinir:</translation>
     </message>
     <message>
         <source>&amp;Uninstall</source>
         <translation>&amp;Kaldır</translation>
+    </message>
+    <message>
+        <source>&amp;Delete %1 files</source>
+        <translation>%1 dosyayı &amp;sil</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall the installed one</source>
+        <translation>&amp;Yüklü olanı kaldır</translation>
     </message>
     <message>
         <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
@@ -364,6 +440,10 @@
     <message>
         <source>Thank you for having used it.</source>
         <translation>Kullandığınız için teşekkür ederiz.</translation>
+    </message>
+    <message>
+        <source>Left in %1:</source>
+        <translation>%1 içinde kalanlar:</translation>
     </message>
 </context>
 <context>

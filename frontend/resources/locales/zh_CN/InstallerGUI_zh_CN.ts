@@ -91,14 +91,6 @@
         <translation>安装程序已损坏。请重新下载。</translation>
     </message>
     <message>
-        <source>Where to install</source>
-        <translation>安装位置</translation>
-    </message>
-    <message>
-        <source>The program gets a folder of its own. You can keep the proposed place.</source>
-        <translation>程序会有自己的文件夹。您可以保留建议的位置。</translation>
-    </message>
-    <message>
         <source>&amp;Folder:</source>
         <translation>文件夹(&amp;F):</translation>
     </message>
@@ -123,12 +115,48 @@
         <translation>正在安装 %1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
+        <source>Install %1</source>
+        <translation>安装 %1</translation>
     </message>
     <message>
-        <source>&amp;Next</source>
-        <translation>下一步(&amp;N)</translation>
+        <source>Update %1 from %2 to %3</source>
+        <translation>将 %1 从 %2 更新到 %3</translation>
+    </message>
+    <message>
+        <source>%1 is installed already</source>
+        <translation>%1 已经安装</translation>
+    </message>
+    <message>
+        <source>The newer version %1 is installed</source>
+        <translation>已安装较新的版本 %1</translation>
+    </message>
+    <message>
+        <source>You can install right away, or look at the options first.</source>
+        <translation>您可以立即安装，或先查看选项。</translation>
+    </message>
+    <message>
+        <source>Your settings and your own files are kept.</source>
+        <translation>您的设置和您自己的文件将会保留。</translation>
+    </message>
+    <message>
+        <source>For all users, in %1</source>
+        <translation>所有用户，位于 %1</translation>
+    </message>
+    <message>
+        <source>For you, in %1</source>
+        <translation>仅您自己，位于 %1</translation>
+    </message>
+    <message>
+        <source>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>您也可以&lt;a href=&quot;remove&quot;&gt;将其移除&lt;/a&gt;。</translation>
+    </message>
+    <message>
+        <source>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>%1 中还有另一个安装。您可以&lt;a href=&quot;remove&quot;&gt;将其移除&lt;/a&gt;。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -137,6 +165,22 @@
     <message>
         <source>&amp;Install</source>
         <translation>安装(&amp;I)</translation>
+    </message>
+    <message>
+        <source>U&amp;pdate</source>
+        <translation>更新(&amp;P)</translation>
+    </message>
+    <message>
+        <source>R&amp;epair</source>
+        <translation>修复(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>替换(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>选项(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -163,12 +207,16 @@
         <translation>已取消：没有安装任何内容。</translation>
     </message>
     <message>
-        <source>The file %1 is missing. Put it back beside the setup program.</source>
-        <translation>缺少文件 %1。请把它放回安装程序旁边。</translation>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</source>
+        <translation>%1 不属于本程序，且无法移开: 未做任何更改。请关闭使用它的程序，然后重试。</translation>
     </message>
     <message>
-        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
-        <translation>仍在移除文件夹 %1。请稍候重试。</translation>
+        <source>Replace the newer version %1 with version %2?</source>
+        <translation>是否用版本 %2 替换较新的版本 %1?</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>缺少文件 %1。请把它放回安装程序旁边。</translation>
     </message>
     <message>
         <source>%1 is installed</source>
@@ -185,6 +233,14 @@
     <message>
         <source>Everything is in its place. You can begin right away.</source>
         <translation>一切就绪。您可以马上开始使用。</translation>
+    </message>
+    <message>
+        <source>Please note:</source>
+        <translation>请注意:</translation>
+    </message>
+    <message>
+        <source>Your file was moved, because the program has one of that name: %1</source>
+        <translation>您的文件已被移动，因为程序有同名文件: %1</translation>
     </message>
     <message>
         <source>How to install</source>
@@ -251,10 +307,6 @@
         <translation>立即启动 %1(&amp;S)</translation>
     </message>
     <message>
-        <source>These files could not be copied:</source>
-        <translation>以下文件无法复制:</translation>
-    </message>
-    <message>
         <source>Removing the previous version...</source>
         <translation>正在删除以前的版本...</translation>
     </message>
@@ -287,24 +339,16 @@
         <translation>%1 已卸载</translation>
     </message>
     <message>
+        <source>The copy of %1 was deleted</source>
+        <translation>%1 的副本已删除</translation>
+    </message>
+    <message>
         <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
         <translation>&lt;a href=&quot;survey&quot;&gt;请告诉我们卸载的原因&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 could not be uninstalled</source>
         <translation>无法卸载 %1</translation>
-    </message>
-    <message>
-        <source>Welcome to %1</source>
-        <translation>欢迎使用 %1</translation>
-    </message>
-    <message>
-        <source>A few steps, and the program is ready to use.</source>
-        <translation>只需几步，即可开始使用。</translation>
-    </message>
-    <message>
-        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
-        <translation>此版本或更新的版本已经安装。重新安装会替换它，并保留您的设置。</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
@@ -338,24 +382,56 @@
         <translation>程序是为所有用户安装的。卸载需要管理员权限：请以管理员身份启动卸载程序。</translation>
     </message>
     <message>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
+        <translation>%1 不属于本程序，且无法移开: 未删除任何内容。请关闭使用它的程序，然后重试。</translation>
+    </message>
+    <message>
         <source>Uninstall %1?</source>
         <translation>要卸载 %1 吗？</translation>
     </message>
     <message>
-        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
-        <translation>程序、快捷方式以及它在 Windows 中的记录将被删除。您的媒体文件会保留。</translation>
+        <source>%1 is not installed here</source>
+        <translation>%1 未安装在此处</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</source>
+        <translation>将移除程序、其快捷方式和在 Windows 中的条目。您自己的文件会保留。</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</source>
+        <translation>将移除程序、其快捷方式和在 Windows 中的条目，以及整个文件夹。</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder is known to be of the program.</source>
+        <translation>此文件夹中没有已知属于本程序的内容。</translation>
+    </message>
+    <message>
+        <source>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</source>
+        <translation>%1 中有本程序的副本: %2 个文件。可以将其删除。文件夹中的其他文件和已安装的程序会保留。</translation>
     </message>
     <message>
         <source>&amp;Delete my settings</source>
         <translation>删除我的设置(&amp;D)</translation>
     </message>
     <message>
-        <source>Delete the files beside this program all the same?</source>
-        <translation>仍要删除此程序旁边的文件吗？</translation>
+        <source>Not of the program, and left in the folder:</source>
+        <translation>不属于本程序，将保留在文件夹中:</translation>
+    </message>
+    <message>
+        <source>Not of the program, and deleted with the folder:</source>
+        <translation>不属于本程序，将随文件夹一起删除:</translation>
     </message>
     <message>
         <source>&amp;Uninstall</source>
         <translation>卸载(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete %1 files</source>
+        <translation>删除 %1 个文件(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall the installed one</source>
+        <translation>卸载已安装的程序(&amp;U)</translation>
     </message>
     <message>
         <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
@@ -364,6 +440,10 @@
     <message>
         <source>Thank you for having used it.</source>
         <translation>感谢您的使用。</translation>
+    </message>
+    <message>
+        <source>Left in %1:</source>
+        <translation>保留在 %1 中:</translation>
     </message>
 </context>
 <context>

@@ -91,14 +91,6 @@
         <translation>安裝程式已損毀。請重新下載。</translation>
     </message>
     <message>
-        <source>Where to install</source>
-        <translation>安裝位置</translation>
-    </message>
-    <message>
-        <source>The program gets a folder of its own. You can keep the proposed place.</source>
-        <translation>程式會有自己的資料夾。您可以保留建議的位置。</translation>
-    </message>
-    <message>
         <source>&amp;Folder:</source>
         <translation>資料夾(&amp;F):</translation>
     </message>
@@ -123,12 +115,48 @@
         <translation>正在安裝 %1</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
+        <source>Install %1</source>
+        <translation>安裝 %1</translation>
     </message>
     <message>
-        <source>&amp;Next</source>
-        <translation>下一步(&amp;N)</translation>
+        <source>Update %1 from %2 to %3</source>
+        <translation>將 %1 從 %2 更新到 %3</translation>
+    </message>
+    <message>
+        <source>%1 is installed already</source>
+        <translation>%1 已經安裝</translation>
+    </message>
+    <message>
+        <source>The newer version %1 is installed</source>
+        <translation>已安裝較新的版本 %1</translation>
+    </message>
+    <message>
+        <source>You can install right away, or look at the options first.</source>
+        <translation>您可以立即安裝，或先檢視選項。</translation>
+    </message>
+    <message>
+        <source>Your settings and your own files are kept.</source>
+        <translation>您的設定和您自己的檔案會保留。</translation>
+    </message>
+    <message>
+        <source>For all users, in %1</source>
+        <translation>所有使用者，位於 %1</translation>
+    </message>
+    <message>
+        <source>For you, in %1</source>
+        <translation>僅您自己，位於 %1</translation>
+    </message>
+    <message>
+        <source>You can also &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>您也可以&lt;a href=&quot;remove&quot;&gt;將其移除&lt;/a&gt;。</translation>
+    </message>
+    <message>
+        <source>There is another installation in %1. You can &lt;a href=&quot;remove&quot;&gt;remove it&lt;/a&gt;.</source>
+        <translation>%1 中還有另一個安裝。您可以&lt;a href=&quot;remove&quot;&gt;將其移除&lt;/a&gt;。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
     <message>
         <source>&amp;Back</source>
@@ -137,6 +165,22 @@
     <message>
         <source>&amp;Install</source>
         <translation>安裝(&amp;I)</translation>
+    </message>
+    <message>
+        <source>U&amp;pdate</source>
+        <translation>更新(&amp;P)</translation>
+    </message>
+    <message>
+        <source>R&amp;epair</source>
+        <translation>修復(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Re&amp;place</source>
+        <translation>取代(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>選項(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
@@ -163,12 +207,16 @@
         <translation>已取消：沒有安裝任何內容。</translation>
     </message>
     <message>
-        <source>The file %1 is missing. Put it back beside the setup program.</source>
-        <translation>缺少檔案 %1。請將它放回安裝程式旁邊。</translation>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was changed. Close the program that uses it and try again.</source>
+        <translation>%1 不屬於本程式，且無法移開: 未做任何變更。請關閉使用它的程式，然後重試。</translation>
     </message>
     <message>
-        <source>The folder %1 is still being removed. Wait a moment and try again.</source>
-        <translation>仍在移除資料夾 %1。請稍候再試一次。</translation>
+        <source>Replace the newer version %1 with version %2?</source>
+        <translation>要以版本 %2 取代較新的版本 %1 嗎?</translation>
+    </message>
+    <message>
+        <source>The file %1 is missing. Put it back beside the setup program.</source>
+        <translation>缺少檔案 %1。請將它放回安裝程式旁邊。</translation>
     </message>
     <message>
         <source>%1 is installed</source>
@@ -185,6 +233,14 @@
     <message>
         <source>Everything is in its place. You can begin right away.</source>
         <translation>一切就緒。您可以立即開始使用。</translation>
+    </message>
+    <message>
+        <source>Please note:</source>
+        <translation>請注意:</translation>
+    </message>
+    <message>
+        <source>Your file was moved, because the program has one of that name: %1</source>
+        <translation>您的檔案已移動，因為程式有同名的檔案: %1</translation>
     </message>
     <message>
         <source>How to install</source>
@@ -251,10 +307,6 @@
         <translation>立即啟動 %1(&amp;S)</translation>
     </message>
     <message>
-        <source>These files could not be copied:</source>
-        <translation>無法複製下列檔案:</translation>
-    </message>
-    <message>
         <source>Removing the previous version...</source>
         <translation>正在移除先前的版本...</translation>
     </message>
@@ -287,24 +339,16 @@
         <translation>%1 已解除安裝</translation>
     </message>
     <message>
+        <source>The copy of %1 was deleted</source>
+        <translation>%1 的複本已刪除</translation>
+    </message>
+    <message>
         <source>&lt;a href=&quot;survey&quot;&gt;Tell us why you uninstalled it&lt;/a&gt;</source>
         <translation>&lt;a href=&quot;survey&quot;&gt;請告訴我們解除安裝的原因&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 could not be uninstalled</source>
         <translation>無法解除安裝 %1</translation>
-    </message>
-    <message>
-        <source>Welcome to %1</source>
-        <translation>歡迎使用 %1</translation>
-    </message>
-    <message>
-        <source>A few steps, and the program is ready to use.</source>
-        <translation>只需幾個步驟，即可開始使用。</translation>
-    </message>
-    <message>
-        <source>This version or a newer one is installed already. Installing again replaces it and keeps your settings.</source>
-        <translation>此版本或更新的版本已經安裝。重新安裝會取代它，並保留您的設定。</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
@@ -338,24 +382,56 @@
         <translation>程式是為所有使用者安裝的。解除安裝需要系統管理員權限：請以系統管理員身分啟動解除安裝程式。</translation>
     </message>
     <message>
+        <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
+        <translation>%1 不屬於本程式，且無法移開: 未刪除任何內容。請關閉使用它的程式，然後重試。</translation>
+    </message>
+    <message>
         <source>Uninstall %1?</source>
         <translation>要解除安裝 %1 嗎？</translation>
     </message>
     <message>
-        <source>The program, its shortcuts and its entries in Windows are removed. Your media files stay.</source>
-        <translation>程式、捷徑以及它在 Windows 中的記錄將被移除。您的媒體檔案會保留。</translation>
+        <source>%1 is not installed here</source>
+        <translation>%1 未安裝在此處</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed. Your own files stay.</source>
+        <translation>將移除程式、其捷徑和在 Windows 中的項目。您自己的檔案會保留。</translation>
+    </message>
+    <message>
+        <source>The program, its shortcuts and its entries in Windows are removed, and the whole folder.</source>
+        <translation>將移除程式、其捷徑和在 Windows 中的項目，以及整個資料夾。</translation>
+    </message>
+    <message>
+        <source>Nothing in this folder is known to be of the program.</source>
+        <translation>此資料夾中沒有已知屬於本程式的內容。</translation>
+    </message>
+    <message>
+        <source>A copy of the program is in %1: %2 files. They can be deleted. Other files in the folder stay, and so does the installation.</source>
+        <translation>%1 中有本程式的複本: %2 個檔案。可以將其刪除。資料夾中的其他檔案和已安裝的程式會保留。</translation>
     </message>
     <message>
         <source>&amp;Delete my settings</source>
         <translation>刪除我的設定(&amp;D)</translation>
     </message>
     <message>
-        <source>Delete the files beside this program all the same?</source>
-        <translation>仍要刪除此程式旁邊的檔案嗎？</translation>
+        <source>Not of the program, and left in the folder:</source>
+        <translation>不屬於本程式，將保留在資料夾中:</translation>
+    </message>
+    <message>
+        <source>Not of the program, and deleted with the folder:</source>
+        <translation>不屬於本程式，將隨資料夾一起刪除:</translation>
     </message>
     <message>
         <source>&amp;Uninstall</source>
         <translation>解除安裝(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete %1 files</source>
+        <translation>刪除 %1 個檔案(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Uninstall the installed one</source>
+        <translation>解除安裝已安裝的程式(&amp;U)</translation>
     </message>
     <message>
         <source>The uninstallation cannot be stopped now: files and settings are being removed. It ends in a moment.</source>
@@ -364,6 +440,10 @@
     <message>
         <source>Thank you for having used it.</source>
         <translation>感謝您的使用。</translation>
+    </message>
+    <message>
+        <source>Left in %1:</source>
+        <translation>保留在 %1 中:</translation>
     </message>
 </context>
 <context>

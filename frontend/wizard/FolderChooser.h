@@ -1,31 +1,39 @@
 #pragma once
 
-#include "wizard/Page.h"
+#include "base/InstallationSettings.h"
 
+#include <QWidget>
+
+#include <functional>
+
+class QLabel;
 class QLineEdit;
 class QPushButton;
 
 namespace Vorlan::FrontEnd
 {
 
-// Page with the installation folder. The engine validates the text while it is edited; its error
-// text is shown below the field.
-class DestinationPage : public Page
+// The choice of the installation folder. The engine validates the text while it is edited; its
+// error text is shown below the field.
+class FolderChooser : public QWidget
 {
 public:
     // Proposes the folder of the settings, and shows their required space.
-    explicit DestinationPage(const InstallationSettings& settings);
+    FolderChooser(const InstallationSettings& settings, QWidget* parent);
 
-    void Retranslate(const QString& locale) override;
-    void Apply(InstallationSettings& settings) const override;
-    bool IsComplete() const override { return isValid; }
-    QWidget* FirstControl() const override;
+    void Retranslate(const QString& locale);
+    bool IsValid() const { return isValid; }
 
+    // Proposes another folder, unless the user has changed the one before.
+    void Propose(const QString& folder);
     // Validates the folder again, because the disk may have changed.
     void Check();
 
     // The installation folder for the typed text.
     QString Folder() const;
+
+    // Called after each validation.
+    std::function<void()> checked = [] {};
 
 private:
     void Browse();
@@ -34,8 +42,6 @@ private:
     InstallationSettings settings;
     QString locale;
     bool isValid = false;
-    QLabel* heading;
-    QLabel* intro;
     QLabel* folderLabel;
     QLineEdit* folder;
     QPushButton* browse;

@@ -1,6 +1,6 @@
-#include "wizard/DestinationPage.h"
+#include "wizard/FolderChooser.h"
 
-#include "widgets/MultiLayerBackgroundFrame.h"
+#include "wizard/ElidedLabel.h"
 #include "wizard/Texts.h"
 
 #include <QDir>
@@ -35,64 +35,64 @@ QString WithoutEnd(const QString& folder)
 
 } // namespace
 
-DestinationPage::DestinationPage(const InstallationSettings& proposal)
-    : Page("destinationPage", LayerSets::installerWithTaglines, Shape::Form),
+FolderChooser::FolderChooser(const InstallationSettings& proposal, QWidget* parent)
+    : QWidget(parent),
       settings(proposal),
-      heading(AddHeading()),
-      intro(AddText("intro")),
       folderLabel(new QLabel(this)),
       folder(new QLineEdit(WithoutEnd(proposal.installDir), this)),
-      browse(new QPushButton(this))
+      browse(new QPushButton(this)),
+      error(new QLabel(this)),
+      target(new ElidedLabel(this)),
+      space(new QLabel(this))
 {
     folder->setObjectName("folder");
     folder->setMaxLength(longestPath);
+    folderLabel->setObjectName("group");
     folderLabel->setBuddy(folder);
     browse->setObjectName("browse");
     browse->setAutoDefault(false);
+    error->setObjectName("error");
+    error->setWordWrap(true);
+    target->setObjectName("target");
+    space->setObjectName("space");
+    space->setWordWrap(true);
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
     row->addWidget(folder, 1);
     row->addWidget(browse);
-    Body()->addSpacing(16);
-    Body()->addWidget(folderLabel);
-    Body()->addLayout(row);
-    error = AddText("error");
-    target = AddLine("target");
-    Body()->addSpacing(8);
-    space = AddText("space");
-    Body()->addStretch();
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(folderLabel);
+    column->addLayout(row);
+    for (QWidget* line : {error, static_cast<QLabel*>(target), space})
+        column->addWidget(line);
     connect(folder, &QLineEdit::textChanged, this, [this] { Check(); });
     connect(browse, &QPushButton::clicked, this, [this] { Browse(); });
 }
 
-void DestinationPage::Retranslate(const QString& newLocale)
+void FolderChooser::Retranslate(const QString& newLocale)
 {
     locale = newLocale;
-    heading->setText(WizardText("Where to install"));
-    intro->setText(
-        WizardText("The program gets a folder of its own. You can keep the proposed place."));
     folderLabel->setText(WizardText("&Folder:"));
     folder->setAccessibleName(QString(folderLabel->text()).remove('&').remove(':'));
     browse->setText(WizardText("B&rowse..."));
     Check();
 }
 
-void DestinationPage::Apply(InstallationSettings& chosen) const
+void FolderChooser::Propose(const QString& proposed)
 {
-    chosen.installDir = Folder();
+    const bool isUnchanged = folder->text() == WithoutEnd(settings.installDir);
+    settings.installDir = proposed;
+    if (isUnchanged)
+        folder->setText(WithoutEnd(proposed));
 }
 
-QWidget* DestinationPage::FirstControl() const
-{
-    return folder;
-}
-
-QString DestinationPage::Folder() const
+QString FolderChooser::Folder() const
 {
     return settings.GetFilteredDirectory(folder->text().trimmed());
 }
 
-void DestinationPage::Browse()
+void FolderChooser::Browse()
 {
     const QString chosen =
         QFileDialog::getExistingDirectory(this, WizardText("Choose a folder"), folder->text());
@@ -100,7 +100,7 @@ void DestinationPage::Browse()
         folder->setText(WithoutEnd(settings.GetFilteredDirectory(chosen)));
 }
 
-void DestinationPage::Check()
+void FolderChooser::Check()
 {
     QString objection;
     isValid = InstallationSettings::IsValidPath(
@@ -115,10 +115,10 @@ void DestinationPage::Check()
     target->setText(WizardText("Will be installed in: %1").arg(PathText(place)));
     target->setToolTip(place);
     ShowSpace();
-    completenessChanged();
+    checked();
 }
 
-void DestinationPage::ShowSpace()
+void FolderChooser::ShowSpace()
 {
     const auto needed = static_cast<qint64>(settings.requiredSpace);
     space->setText(WizardText("Space needed: %1. Free there: %2.")
