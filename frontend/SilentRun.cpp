@@ -28,8 +28,10 @@ Outcome Failure(const QString& error)
 }
 
 // A run with a window has the rights confirmed; one without does not ask.
-Outcome RunWithoutRights(const CommandLine& options, const QString& refusal, const EventSink& sink)
+Outcome RunWithoutRights(CommandLine options, const QString& refusal, const EventSink& sink)
 {
+    options.allUsers = true; // found here, perhaps not by another user
+    options.currentUser = false;
     const auto outcome = options.passive
                              ? RunElevated(QCoreApplication::applicationFilePath(), options, sink)
                              : std::nullopt;
