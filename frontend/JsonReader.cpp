@@ -89,7 +89,7 @@ std::optional<Outcome> ReadJsonOutcome(const QByteArray& line)
     }
     Outcome outcome{static_cast<ExitCode>(object["exitCode"].toInt()), Text(object, "error"),
         Text(object, "logFile")};
-    for (const QJsonValue& file : object["files"].toArray())
+    for (const auto& file : object["files"].toArray())
     {
         outcome.files << file.toString();
     }
