@@ -18,6 +18,17 @@ namespace
 
 using State = PlacedFiles::State;
 
+// Everything that is not listed, except links to folders in place of folders of ours: a user may
+// have moved these to another drive, and the engine places files through them.
+QStringList ForeignIn(const QString& folder, const PlacedFiles& own)
+{
+    QStringList foreign = SortContent(folder, own).foreign;
+    const auto isMovedFolder = [&](const QString& path)
+    { return own.IsAround(path) && QFileInfo(QDir(folder).filePath(path)).isDir(); };
+    foreign.erase(std::remove_if(foreign.begin(), foreign.end(), isMovedFolder), foreign.end());
+    return foreign;
+}
+
 // The engine would write over these.
 QStringList InTheWayOf(const PlacedFiles& payload, const QStringList& foreign)
 {
@@ -42,7 +53,7 @@ std::vector<PlacedFiles::File> KnownFiles(const std::vector<PlacedFiles::File>& 
 
 bool IsSamePlace(const QString& left, const QString& right)
 {
-    return QDir(left) == QDir(right);
+    return !left.isEmpty() && QDir(left) == QDir(right);
 }
 
 } // namespace
@@ -66,8 +77,8 @@ QString FolderUpdate::Begin()
 {
     if (!former.isEmpty())
     {
-        const QStringList foreign = SortContent(former, formerList.value_or(payload)).foreign;
-        const QString stuck = KeepFiles(former, foreign, KeepingPlace::Beside);
+        const QString stuck = KeepFiles(
+            former, ForeignIn(former, formerList.value_or(payload)), KeepingPlace::Beside);
         if (stuck.isEmpty() && !formerList)
             payload.Write(former); // for its uninstaller
         if (IsInPlace() || !stuck.isEmpty())
@@ -78,8 +89,8 @@ QString FolderUpdate::Begin()
     // Without a list, the rest of an installation that was cut off.
     const PlacedFiles own =
         PlacedFiles::Read(folder).value_or(PlacedFiles(State::Unfinished, payloadFiles));
-    const QString stuck = KeepFiles(
-        folder, InTheWayOf(payload, SortContent(folder, own).foreign), KeepingPlace::Inside);
+    const QString stuck =
+        KeepFiles(folder, InTheWayOf(payload, ForeignIn(folder, own)), KeepingPlace::Inside);
     return stuck.isEmpty() ? QString() : QDir(folder).filePath(stuck);
 }
 

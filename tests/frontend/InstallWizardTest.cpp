@@ -225,7 +225,6 @@ TEST_F(InstallWizardTest, TheFolderIsValidatedWhileItIsEdited)
     EXPECT_EQ(ErrorFor("relative"), refused);
     driver->Find<QLineEdit>("folder")->setText(machine.Path(QString("long/").repeated(3000)));
     EXPECT_FALSE(driver->Find<QLabel>("error")->isVisible());
-    EXPECT_LE(driver->Find<QLabel>("target")->width(), 670) << "a long path is shortened";
     const QString rightToLeft = machine.Path(QString::fromUtf8("תיקייה ותוכנה"));
     EXPECT_EQ(ErrorFor(rightToLeft), QString());
     EXPECT_TRUE(driver->Find<QLabel>("target")->text().contains(

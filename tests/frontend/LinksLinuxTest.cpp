@@ -85,6 +85,7 @@ TEST_F(LinksTest, TargetsArePreserved)
     Install();
     ExpectThatTargetsStay();
     EXPECT_EQ(ReadFile(product + "/libs/codec.dll"), "codec");
+    EXPECT_EQ(ReadFile(targets[product + "/libs/more"] + "/data.bin"), "data") << "moved by a user";
     EXPECT_EQ(ReadFile(allUsers + "/fonts.conf"), "fonts");
 
     // Links next to files that the uninstallation deletes.

@@ -88,9 +88,9 @@ protected:
     }
 
     // Waits for the script that deletes what was in use, and returns what lies beside the folder.
-    QStringList LeftBesideProduct() const
+    static QStringList LeftBeside(const QString& folder)
     {
-        const QDir parent = QFileInfo(product).dir();
+        const QDir parent = QFileInfo(folder).dir();
         const auto left = [&parent]
         { return parent.entryList({"Vorlan Quillax*"}, QDir::AllEntries | QDir::Hidden); };
         const QDeadlineTimer deadline(timeLimitMs);
@@ -98,6 +98,7 @@ protected:
             std::this_thread::yield();
         return left();
     }
+    QStringList LeftBesideProduct() const { return LeftBeside(product); }
 
     Machine machine{Machine::Registry::OfStartedPrograms};
     SetupRun setup;

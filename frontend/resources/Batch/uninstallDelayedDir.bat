@@ -21,6 +21,8 @@ if not defined identity goto refuse
 for %%d in ("%folder%") do set "parent=%%~dpd"
 for %%d in ("%folder%.%identity%") do (set "aside=%%~fd" & set "asideParent=%%~dpd" & set "attributes=%%~ad")
 if /i not "%asideParent%"=="%parent%" goto refuse
+rem Windows drops dots at the end of a name.
+if /i "%aside%"=="%folder%" goto refuse
 if not defined attributes goto refuse
 if not "%attributes:~0,1%"=="d" goto refuse
 if not "%attributes:l=%"=="%attributes%" goto refuse
