@@ -1,7 +1,8 @@
 // Uninstalls the product in its own folder with the front end's windows, as a person who presses
 // the main button of each page; Cancel, where the first argument is "no" or the page has no such
-// button. With "everything" the whole folder is removed. Prints a line for each page, with the
-// files that it lists, and for each box, and at last the exit code.
+// button. Programs that are in the way are ended. With "everything" the whole folder is removed.
+// Prints a line for each page, with the files that it lists, and for each box, and at last the exit
+// code.
 #include "WindowedRun.h"
 #include "wizard/Page.h"
 #include "wizard/WizardWindow.h"
@@ -62,7 +63,10 @@ public:
 private:
     void Answer(QWidget& box)
     {
-        Print(box.findChild<QLabel*>("message")->text());
+        const QString text = box.findChild<QLabel*>("message")->text();
+        Print(text);
+        if (isAgreeing && text.startsWith("Not closed:"))
+            return Click(box, "confirmationButton");
         isAgreeing = false;
         lastPage.clear();
         QTest::keyClick(&box, Qt::Key_Escape);
