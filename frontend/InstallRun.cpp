@@ -3,6 +3,7 @@
 #include "FolderUpdate.h"
 #include "FoundInstallations.h"
 #include "MediatorRun.h"
+#include "RemovalGuard.h"
 
 #include "base/ProductProfile.h"
 #include "installer/InstallerMediator.h"
@@ -40,11 +41,19 @@ void ChooseFormerVersion(InstallationSettings& settings)
     }
 }
 
-// Where the uninstaller is that the engine will run; empty if there is none.
+// Where the uninstaller is that the engine will run; empty if there is none, or if the folder may
+// not be the product's: nothing is moved or deleted there then.
 QString FormerFolder(const InstallationSettings& settings)
 {
     const QString uninstaller = SettingsManager::GetUninstallerPath(settings.previousFolderName);
-    return QFileInfo(uninstaller).isFile() ? QFileInfo(uninstaller).absolutePath() : QString();
+    const QDir folder = QFileInfo(uninstaller).absoluteDir();
+    const bool isProducts =
+        PlacedFiles::IsIn(folder.path()) ||
+        folder.dirName().compare(settings.productFolderName, Qt::CaseInsensitive) == 0;
+    return QFileInfo(uninstaller).isFile() && isProducts &&
+                   FindRemovalObjection(folder.path()).isEmpty()
+               ? folder.path()
+               : QString();
 }
 
 Outcome FileInTheWay(const QString& path)

@@ -1,4 +1,5 @@
 #include "wizard/InstallWizard.h"
+#include "registry/RegistrySettings.h"
 #include "support/ArchiveBesideProgram.h"
 #include "support/ChildProgram.h"
 #include "support/Machine.h"
@@ -16,6 +17,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QProgressBar>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
@@ -95,6 +97,52 @@ protected:
     std::unique_ptr<InstallWizard> wizard;
     std::unique_ptr<WizardDriver> driver;
 };
+
+TEST_F(InstallWizardTest, TheFirstPageSaysWhatWillHappenToWhatIsInstalled)
+{
+    options.folder.clear();
+    const QString folder = machine.Path("My Media/Vorlan Quillax");
+    QDir().mkpath(folder);
+    const struct
+    {
+        const char* version;
+        const char* heading;
+        const char* button;
+    } rows[] = {
+        {"24-4-0", "Update Vorlan Quillax from 24.4.0 to 24.5.1", "U&pdate"},
+        {"24-5-1", "Vorlan Quillax 24.5.1 is installed already", "R&epair"},
+        {"24-6-0", "The newer version 24.6.0 is installed", "Re&place"},
+    };
+    for (const auto& row : rows)
+    {
+        RegistrySettings key(QSettings::SystemScope, "Vorlan", "Quillax24");
+        key.setValue("Path", QDir::toNativeSeparators(folder + '/'));
+        key.setValue("VersionByInstaller", row.version);
+        key.sync();
+        driver.reset();
+        wizard.reset();
+        archive.reset();
+        Start();
+        EXPECT_EQ(driver->Find<QLabel>("heading")->text(), row.heading);
+        EXPECT_EQ(driver->Find<QLabel>("buttonLabel")->text(), row.button);
+        EXPECT_TRUE(driver->Find<QLabel>("target")->text().contains(
+            "For all users, in " + QString(QChar(0x2066)) + QDir::toNativeSeparators(folder)));
+    }
+    const QString question =
+        driver->WithBox([this] { driver->Press(Qt::Key_Return); }); // closed as No
+    EXPECT_EQ(question, "Replace the newer version 24.6.0 with version 24.5.1?");
+    EXPECT_TRUE(events.empty());
+
+    // For this user alone nothing is installed, and another folder is proposed.
+    GoToOptions();
+    EXPECT_EQ(QDir::fromNativeSeparators(driver->Find<QLineEdit>("folder")->text()), folder);
+    driver->Find<QRadioButton>("currentUser")->click();
+    EXPECT_EQ(driver->Find<QLabel>("buttonLabel")->text(), "&Install");
+    EXPECT_NE(QDir::fromNativeSeparators(driver->Find<QLineEdit>("folder")->text()), folder);
+    driver->Click("back");
+    EXPECT_TRUE(driver->Find<QLabel>("removal")->text().contains("There is another installation"));
+    RegistrySettings(QSettings::SystemScope, "Vorlan", "Quillax24").remove(QString());
+}
 
 TEST_F(InstallWizardTest, IsOperatedWithTheKeyboardAlone)
 {

@@ -318,6 +318,24 @@ TEST_F(UninstallTest, AnotherProgramInTheRegisteredFolderIsNotChanged)
     RegistrySettings(entry).remove(QString());
 }
 
+// The entry of the product's name leads to another program's folder: its uninstaller is run, but
+// nothing is moved or deleted there.
+TEST_F(UninstallTest, AnotherProgramInTheFolderOfTheFormerUninstallerIsNotChanged)
+{
+    const QString foo = machine.Path("Foo");
+    const ChildProgram uninstaller(foo + "/unins.exe", "exit 0");
+    WriteFile(foo + "/libs/codec.dll", "of another program");
+    RegistrySettings entry("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\"
+                           "Uninstall\\Vorlan Quillax");
+    entry.setValue("UninstallString", '"' + foo + "/unins.exe\"");
+    entry.sync();
+    Install(FRONTEND_FOLDER, "new", {"/LOG=" + machine.Path("run.log")});
+    EXPECT_TRUE(uninstaller.WasRun());
+    EXPECT_FALSE(ReadFile(machine.Path("run.log")).contains("kept in"));
+    EXPECT_EQ(ReadFile(foo + "/libs/codec.dll"), "of another program");
+    EXPECT_EQ(Files(), installedFiles);
+}
+
 TEST_F(UninstallTest, IsRefusedBecauseOfDependentPrograms)
 {
     InstallCurrent();
