@@ -19,8 +19,6 @@
 
 #include <QDebug>
 #include <QDir>
-#include <QFutureWatcher>
-#include <QtConcurrent>
 
 namespace Vorlan::FrontEnd
 {
@@ -292,12 +290,7 @@ QString InstallWizard::AskForWebUid() const
             return {};
         }
     };
-    QFutureWatcher<QString> answer;
-    QEventLoop waiting;
-    QObject::connect(&answer, &QFutureWatcher<QString>::finished, &waiting, &QEventLoop::quit);
-    answer.setFuture(QtConcurrent::run(ask));
-    waiting.exec();
-    return answer.result();
+    return Await(ask);
 }
 
 void InstallWizard::CheckFilesInUse()
