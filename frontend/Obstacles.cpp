@@ -1,5 +1,6 @@
 #include "Obstacles.h"
 
+#include "Await.h"
 #include "FileHolders.h"
 #include "base/ProductProfile.h"
 
@@ -28,7 +29,7 @@ bool IsEndedByEngine(const FileHolder& holder, const ObstacleRules& rules)
 
 std::vector<FileHolder> FindOthers(const ObstacleRules& rules)
 {
-    std::vector<FileHolder> holders = FindObstacles(rules);
+    std::vector<FileHolder> holders = Await([rules] { return FindObstacles(rules); });
     const auto isEnded = [&](const FileHolder& holder) { return IsEndedByEngine(holder, rules); };
     holders.erase(std::remove_if(holders.begin(), holders.end(), isEnded), holders.end());
     return holders;

@@ -32,7 +32,7 @@ std::vector<FileHolder> FindObstacles(const ObstacleRules& rules);
 
 // Before an unattended run: done if no program but those that the engine ends is in the way.
 // With `mayClose` they are asked to close and after ten seconds ended. Else, or if that fails, the
-// outcome names them.
+// outcome names them. On the GUI thread; processes events.
 Outcome RemoveObstacles(const ObstacleRules& rules, bool mayClose, const ProcessAccess& access);
 
 } // namespace Vorlan::FrontEnd

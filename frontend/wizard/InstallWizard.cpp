@@ -148,7 +148,7 @@ void InstallWizard::GoForward()
     }
     else if (step == Step::InUse)
     {
-        CloseWithConsent(window, *inUse, ProcessesOfAnActiveWindow());
+        CloseWithConsent(window, *inUse, SystemProcesses());
         CheckFilesInUse();
     }
     else if (step != Step::Running)
