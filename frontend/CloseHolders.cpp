@@ -3,10 +3,11 @@
 #include "HolderProcess.h"
 
 #include <QDebug>
+#include <QEventLoop>
+#include <QTimer>
 
 #include <algorithm>
 #include <iterator>
-#include <thread>
 
 namespace Vorlan::FrontEnd
 {
@@ -14,7 +15,14 @@ namespace
 {
 
 constexpr std::chrono::seconds waitLimit(10);
-constexpr std::chrono::milliseconds pauseLength(50);
+constexpr int pauseMs = 50;
+
+void ProcessEventsForAMoment()
+{
+    QEventLoop loop;
+    QTimer::singleShot(pauseMs, &loop, &QEventLoop::quit);
+    loop.exec();
+}
 
 std::vector<FileHolder> Running(const std::vector<FileHolder>& holders, const ProcessAccess& access)
 {
@@ -42,7 +50,7 @@ std::vector<FileHolder> WaitForEnd(std::vector<FileHolder> holders, const Proces
 ProcessAccess SystemProcesses()
 {
     return {OwnProcessIds, StartTimeOf, AskToEnd, EndAtOnce, std::chrono::steady_clock::now,
-        [] { std::this_thread::sleep_for(pauseLength); }};
+        ProcessEventsForAMoment};
 }
 
 bool MayBeClosed(const FileHolder& holder, const ProcessAccess& access)

@@ -18,10 +18,10 @@ struct ProcessAccess
     std::function<bool(const FileHolder&)> ask; // false if it cannot be asked
     std::function<bool(const FileHolder&)> end;
     std::function<std::chrono::steady_clock::time_point()> now;
-    std::function<void()> pause; // for some milliseconds; may process events
+    std::function<void()> pause; // for some milliseconds
 };
 
-// That of this machine. The pause processes no events.
+// That of this machine, for a thread with an event loop: the pause processes events.
 ProcessAccess SystemProcesses();
 
 // Whether the program may be closed: it still runs, is no part of the system, and neither this

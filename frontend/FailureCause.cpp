@@ -192,7 +192,7 @@ QString FindBlockedFile(const QString& folder)
     QDirIterator file(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (file.hasNext())
     {
-        const QString path = file.next();
+        QString path = file.next();
         if (file.fileInfo().path() != own &&
             !QFile(path).open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
             return path;

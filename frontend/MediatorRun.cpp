@@ -29,7 +29,7 @@ ExitCode CodeOf(const QString& errorText)
 
 FailedRun DescribeRun(const InstallerMediator& mediator, void (InstallerMediator::*start)())
 {
-    const InstallationSettings settings = mediator.GetSettings();
+    const InstallationSettings& settings = mediator.GetSettings();
     FailedRun run;
     run.isUninstallation = start == &InstallerMediator::StartUninstall;
     run.folder = QDir::fromNativeSeparators(

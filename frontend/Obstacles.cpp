@@ -1,6 +1,6 @@
 #include "Obstacles.h"
 
-#include "FileHolders.h"
+#include "Await.h"
 #include "base/ProductProfile.h"
 
 #include <QDebug>
@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <chrono>
 #include <map>
 
 namespace Vorlan::FrontEnd
@@ -16,6 +17,7 @@ namespace
 {
 
 constexpr char companionProgram[] = "RouterApplication.exe";
+constexpr std::chrono::seconds systemLimit(10);
 
 bool IsEndedByEngine(const FileHolder& holder, const ObstacleRules& rules)
 {
@@ -26,12 +28,18 @@ bool IsEndedByEngine(const FileHolder& holder, const ObstacleRules& rules)
                           rules.endedPrograms.contains(image.fileName(), Qt::CaseInsensitive));
 }
 
-std::vector<FileHolder> FindOthers(const ObstacleRules& rules)
+std::vector<FileHolder> FindOthers(const ObstacleRules& rules, const FindHolders& find)
 {
-    std::vector<FileHolder> holders = FindObstacles(rules);
+    std::vector<FileHolder> holders = Await([rules, find] { return FindObstacles(rules, find); });
     const auto isEnded = [&](const FileHolder& holder) { return IsEndedByEngine(holder, rules); };
     holders.erase(std::remove_if(holders.begin(), holders.end(), isEnded), holders.end());
     return holders;
+}
+
+bool AreAllOfTheSystem(const std::vector<FileHolder>& holders)
+{
+    return !holders.empty() && std::all_of(holders.begin(), holders.end(),
+                                   [](const FileHolder& holder) { return holder.isCritical; });
 }
 
 QString InUseText(const std::vector<FileHolder>& holders, bool mayClose)
@@ -59,12 +67,12 @@ ObstacleRules UninstallationRules(const QString& folder)
     return {QStringList(folder), folder, QStringList(companionProgram)};
 }
 
-std::vector<FileHolder> FindObstacles(const ObstacleRules& rules)
+std::vector<FileHolder> FindObstacles(const ObstacleRules& rules, const FindHolders& find)
 {
     std::map<qint64, FileHolder> found;
     for (const QString& folder : rules.folders)
     {
-        for (const FileHolder& holder : FindFileHolders(folder))
+        for (const FileHolder& holder : find(folder))
             found.emplace(holder.processId, holder);
     }
     std::vector<FileHolder> holders;
@@ -77,13 +85,20 @@ std::vector<FileHolder> FindObstacles(const ObstacleRules& rules)
     return holders;
 }
 
-Outcome RemoveObstacles(const ObstacleRules& rules, bool mayClose, const ProcessAccess& access)
+Outcome RemoveObstacles(
+    const ObstacleRules& rules, bool mayClose, const ProcessAccess& access, const FindHolders& find)
 {
-    std::vector<FileHolder> holders = FindOthers(rules);
+    std::vector<FileHolder> holders = FindOthers(rules, find);
     if (mayClose && !holders.empty())
     {
         EndHolders(AskToClose(holders, access), access);
-        holders = FindOthers(rules);
+        holders = FindOthers(rules, find);
+    }
+    const auto start = access.now();
+    while (AreAllOfTheSystem(holders) && access.now() - start < systemLimit)
+    {
+        access.pause();
+        holders = FindOthers(rules, find);
     }
     return holders.empty() ? Outcome()
                            : Outcome{ExitCode::FilesInUse, InUseText(holders, mayClose)};

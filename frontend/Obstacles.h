@@ -1,11 +1,14 @@
 #pragma once
 
 #include "CloseHolders.h"
-#include "FileHolder.h"
+#include "FileHolders.h"
 #include "Outcome.h"
 
 #include <QString>
 #include <QStringList>
+
+#include <functional>
+#include <vector>
 
 namespace Vorlan::FrontEnd
 {
@@ -28,11 +31,15 @@ ObstacleRules UninstallationRules(const QString& folder);
 
 // All programs in the way of a run that is attended: the user is asked also about those that the
 // engine would end. Takes up to seconds, on any thread.
-std::vector<FileHolder> FindObstacles(const ObstacleRules& rules);
+using FindHolders = std::function<std::vector<FileHolder>(const QString& folder)>;
+std::vector<FileHolder> FindObstacles(
+    const ObstacleRules& rules, const FindHolders& find = FindFileHolders);
 
 // Before an unattended run: done if no program but those that the engine ends is in the way.
-// With `mayClose` they are asked to close and after ten seconds ended. Else, or if that fails, the
-// outcome names them.
-Outcome RemoveObstacles(const ObstacleRules& rules, bool mayClose, const ProcessAccess& access);
+// With `mayClose` they are asked to close and after ten seconds ended. Parts of the system, such as
+// a search index, have ten seconds to release the files. Else the outcome names the programs. On
+// the GUI thread; processes events.
+Outcome RemoveObstacles(const ObstacleRules& rules, bool mayClose, const ProcessAccess& access,
+    const FindHolders& find = FindFileHolders);
 
 } // namespace Vorlan::FrontEnd

@@ -150,7 +150,7 @@ Outcome UninstallSilently(const CommandLine& options, const EventSink& sink)
     }
     const auto mediator = MakeUninstaller(own.scope, options, true);
     const auto translator = InstallTranslation(mediator->GetSettings().locale);
-    const Outcome refusal =
+    Outcome refusal =
         RemoveObstacles(UninstallationRules(folder), options.closeApps, SystemProcesses());
     if (refusal.code != ExitCode::Done)
     {

@@ -5,9 +5,6 @@
 #include "wizard/Texts.h"
 #include "wizard/WizardWindow.h"
 
-#include <QEventLoop>
-#include <QTimer>
-
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -17,15 +14,7 @@ namespace Vorlan::FrontEnd
 namespace
 {
 
-constexpr int pauseMs = 50;
 constexpr std::size_t mostNames = 5; // that fit into a box
-
-void ProcessEventsForAMoment()
-{
-    QEventLoop loop;
-    QTimer::singleShot(pauseMs, &loop, &QEventLoop::quit);
-    loop.exec();
-}
 
 std::vector<FileHolder> ThoseThatMayBeClosed(
     const std::vector<FileHolder>& holders, const ProcessAccess& access)
@@ -48,13 +37,6 @@ QString Question(const std::vector<FileHolder>& programs)
 }
 
 } // namespace
-
-ProcessAccess ProcessesOfAnActiveWindow()
-{
-    ProcessAccess access = SystemProcesses();
-    access.pause = ProcessEventsForAMoment;
-    return access;
-}
 
 void CloseWithConsent(WizardWindow& window, InUsePage& page, const ProcessAccess& access)
 {

@@ -13,7 +13,4 @@ class WizardWindow;
 // caller looks again who holds files. On the GUI thread only.
 void CloseWithConsent(WizardWindow& window, InUsePage& page, const ProcessAccess& access);
 
-// The processes of this machine, with pauses that process events.
-ProcessAccess ProcessesOfAnActiveWindow();
-
 } // namespace Vorlan::FrontEnd

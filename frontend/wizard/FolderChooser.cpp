@@ -24,13 +24,18 @@ QString WithoutEnd(const QString& folder)
     return QDir::toNativeSeparators(QDir::cleanPath(folder));
 }
 
+FolderCheck::Examine ExamineFor(quint64 neededBytes)
+{
+    return [neededBytes](const QString& folder) { return ExamineFolder(folder, neededBytes); };
+}
+
 } // namespace
 
-FolderChooser::FolderChooser(const InstallationSettings& proposal, QWidget* parent)
+FolderChooser::FolderChooser(
+    const InstallationSettings& proposal, QWidget* parent, FolderCheck::Examine examine)
     : QWidget(parent),
       settings(proposal),
-      check([needed = proposal.requiredSpace](const QString& path)
-          { return ExamineFolder(path, needed); }),
+      check(examine ? std::move(examine) : ExamineFor(proposal.requiredSpace)),
       folderLabel(new QLabel(this)),
       folder(new QLineEdit(WithoutEnd(proposal.installDir), this)),
       browse(new QPushButton(this)),

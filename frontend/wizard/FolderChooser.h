@@ -20,8 +20,10 @@ namespace Vorlan::FrontEnd
 class FolderChooser : public QWidget
 {
 public:
-    // Proposes the folder of the settings, and shows their required space.
-    FolderChooser(const InstallationSettings& settings, QWidget* parent);
+    // Proposes the folder of the settings, and shows their required space. `examine` replaces
+    // ExamineFolder.
+    FolderChooser(
+        const InstallationSettings& settings, QWidget* parent, FolderCheck::Examine examine = {});
 
     void Retranslate(const QString& locale);
     // As long as the folder is examined, it counts as usable: see WhenExamined.

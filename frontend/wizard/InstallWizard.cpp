@@ -19,8 +19,6 @@
 
 #include <QDebug>
 #include <QDir>
-#include <QFutureWatcher>
-#include <QtConcurrent>
 
 namespace Vorlan::FrontEnd
 {
@@ -156,7 +154,7 @@ void InstallWizard::GoForward()
     }
     else if (step == Step::InUse)
     {
-        CloseWithConsent(window, *inUse, ProcessesOfAnActiveWindow());
+        CloseWithConsent(window, *inUse, SystemProcesses());
         CheckFilesInUse();
     }
     else if (step != Step::Running)
@@ -290,12 +288,7 @@ QString InstallWizard::AskForWebUid() const
             return {};
         }
     };
-    QFutureWatcher<QString> answer;
-    QEventLoop waiting;
-    QObject::connect(&answer, &QFutureWatcher<QString>::finished, &waiting, &QEventLoop::quit);
-    answer.setFuture(QtConcurrent::run(ask));
-    waiting.exec();
-    return answer.result();
+    return Await(ask);
 }
 
 void InstallWizard::CheckFilesInUse()

@@ -111,7 +111,7 @@ void UninstallWizard::GoForward()
     case Step::OtherFolder:
         return DeleteCopy();
     case Step::InUse:
-        CloseWithConsent(window, *inUse, ProcessesOfAnActiveWindow());
+        CloseWithConsent(window, *inUse, SystemProcesses());
         return CheckFilesInUse();
     case Step::Start:
         return CheckFilesInUse();

@@ -1,6 +1,9 @@
 #include "wizard/FolderCheck.h"
 #include "support/Machine.h"
+#include "wizard/FolderChooser.h"
 
+#include <QLabel>
+#include <QLineEdit>
 #include <QMutex>
 #include <QSemaphore>
 #include <QTest>
@@ -85,6 +88,33 @@ TEST_F(FolderCheckTest, AHangingDiskHoldsAtMostFourThreadsAndTheLatestFolderIsNe
     }
     for (const char* folder : {"1", "2", "4"})
         disk->Answer(folder);
+}
+
+TEST_F(FolderCheckTest, TypingDoesNotWaitForADiskThatHangs)
+{
+    Vorlan::InstallationSettings settings;
+    settings.installDir = "start";
+    FolderChooser chooser(settings, nullptr,
+        [disk = disk](const QString& folder)
+        {
+            disk->Gate(folder).acquire();
+            return FolderState{folder.contains("ab") ? "not there" : "", {}};
+        });
+    chooser.Retranslate("en_US");
+    auto* folder = chooser.findChild<QLineEdit*>("folder");
+    const auto* error = chooser.findChild<QLabel*>("error");
+    folder->clear();
+    QTest::keyClicks(folder, "ab"); // nothing has answered yet
+    EXPECT_EQ(folder->text(), "ab");
+    EXPECT_TRUE(chooser.IsValid()) << "the button can be pressed";
+    std::optional<bool> isUsable;
+    chooser.WhenExamined([&](bool usable) { isUsable = usable; });
+    EXPECT_FALSE(isUsable) << "the press waits without holding up the window";
+    disk->Answer(chooser.Folder());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isUsable.has_value(); }, timeLimitMs));
+    EXPECT_FALSE(*isUsable || chooser.IsValid() || error->isHidden());
+    EXPECT_EQ(error->text(), "not there");
+    EXPECT_EQ(chooser.findChild<QLabel*>("space")->text(), "Space needed: 0 bytes.");
 }
 
 TEST(ExamineFolderTest, AMissingDriveAndUnknownSpaceAreSaidAsTheyAre)

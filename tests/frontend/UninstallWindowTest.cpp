@@ -48,7 +48,7 @@ TEST_F(UninstallWindowTest, ProgramsThatUseTheFilesAreClosedFirst)
     InstallCurrent();
     ChildProgram player(product + "/libs/player.exe", "wait");
     player.Start();
-    const QStringList seen = PressButtons(product, {"yes"});
+    const QStringList seen = PressButtons(product);
     EXPECT_EQ(seen.count("inUsePage"), 1) << qPrintable(seen.join('|'));
     EXPECT_EQ(seen.filter(QRegularExpression("^resultPage")).size(), 1);
     EXPECT_EQ(seen.last(), "0");
