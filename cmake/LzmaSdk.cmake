@@ -13,7 +13,7 @@ add_library(LzmaSdk STATIC ${lzma_sources})
 add_library(LzmaSdk::LzmaSdk ALIAS LzmaSdk)
 target_include_directories(LzmaSdk SYSTEM PUBLIC "${LZMA_SDK_DIR}")
 target_compile_definitions(LzmaSdk PUBLIC Z7_PPMD_SUPPORT)
-target_compile_options(LzmaSdk PRIVATE -w $<$<NOT:$<CONFIG:Debug>>:-O3>)
+target_compile_options(LzmaSdk PRIVATE $<$<COMPILE_LANGUAGE:C>:-w $<$<NOT:$<CONFIG:Debug>>:-O3>>)
 if(VORLAN_SANITIZE)
     # The SDK reads unaligned numbers on processors that allow it, and adds 0 to a null pointer where
     # there is nothing to read.
@@ -23,6 +23,8 @@ if(NOT WIN32)
     # The SDK knows wide file names only with Windows file calls: it gets those of our own layer,
     # so that injected faults reach its reads and writes as well.
     target_compile_definitions(LzmaSdk PUBLIC USE_WINDOWS_FILE)
-    target_compile_options(LzmaSdk PRIVATE -include windows.h)
+    target_compile_options(LzmaSdk PRIVATE "$<$<COMPILE_LANGUAGE:C>:SHELL:-include windows.h>")
     target_link_libraries(LzmaSdk PUBLIC Pal)
 endif()
+
+include(cmake/DecoderAssembler.cmake)

@@ -1,0 +1,71 @@
+# Builds the decoder's inner loop from the SDK's assembler source where that is possible, and sets
+# VORLAN_DECODER_ASM_USED. The source is for MASM; for other assemblers it is translated when CMake configures.
+set(decoder_source "${LZMA_SDK_DIR}/../Asm/x86/LzmaDecOpt.asm")
+set(decoder_translator "${CMAKE_CURRENT_LIST_DIR}/masm-to-gas.py")
+
+# Sets ${reason} to what is against the assembler here, or to an empty text.
+function(FindObstacle reason)
+    set(${reason} "" PARENT_SCOPE)
+    if(NOT CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64)$" OR NOT CMAKE_SIZEOF_VOID_P EQUAL 8)
+        set(${reason} "it is for x86-64 only" PARENT_SCOPE)
+    elseif(VORLAN_SANITIZE)
+        set(${reason} "sanitisers cannot check it" PARENT_SCOPE)
+    elseif(NOT EXISTS "${decoder_source}")
+        set(${reason} "there is no ${decoder_source}" PARENT_SCOPE)
+    endif()
+endfunction()
+
+# Translates the source to ${output} and assembles it for a trial. Sets ${reason} if that fails.
+function(TranslateDecoder output reason)
+    find_package(Python3 COMPONENTS Interpreter)
+    if(NOT Python3_FOUND)
+        set(${reason} "the translator needs Python 3" PARENT_SCOPE)
+        return()
+    endif()
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
+        "${decoder_source}" "${decoder_translator}")
+    set(convention system-v)
+    if(WIN32)
+        set(convention win64)
+    endif()
+    execute_process(
+        COMMAND "${Python3_EXECUTABLE}" "${decoder_translator}" ${convention} "${decoder_source}" "${output}"
+        RESULT_VARIABLE failed ERROR_VARIABLE message)
+    if(NOT failed)
+        execute_process(
+            COMMAND "${CMAKE_C_COMPILER}" -c "${output}" -o "${output}.trial"
+            RESULT_VARIABLE failed ERROR_VARIABLE message)
+        file(REMOVE "${output}.trial")
+    endif()
+    if(failed)
+        set(${reason} "${message}" PARENT_SCOPE)
+    endif()
+endfunction()
+
+set(VORLAN_DECODER_ASM_USED OFF)
+set(decoder_obstacle "VORLAN_DECODER_ASM is OFF")
+if(VORLAN_DECODER_ASM)
+    FindObstacle(decoder_obstacle)
+    if(NOT decoder_obstacle AND NOT MSVC)
+        set(decoder_translation "${PROJECT_BINARY_DIR}/LzmaDecOpt.s")
+        TranslateDecoder("${decoder_translation}" decoder_obstacle)
+    endif()
+    if(decoder_obstacle AND NOT VORLAN_DECODER_ASM STREQUAL AUTO)
+        message(FATAL_ERROR "The decoder cannot be built in assembler: ${decoder_obstacle}")
+    endif()
+endif()
+if(decoder_obstacle)
+    message(STATUS "LZMA decoder: C (${decoder_obstacle})")
+    return()
+endif()
+
+set(VORLAN_DECODER_ASM_USED ON)
+message(STATUS "LZMA decoder: assembler")
+if(MSVC)
+    enable_language(ASM_MASM)
+    target_sources(LzmaSdk PRIVATE "${decoder_source}")
+else()
+    enable_language(ASM)
+    target_sources(LzmaSdk PRIVATE "${decoder_translation}")
+endif()
+target_compile_definitions(LzmaSdk PRIVATE $<$<COMPILE_LANGUAGE:C>:Z7_LZMA_DEC_OPT>)
