@@ -24,7 +24,7 @@ namespace
 
 using Bytes = std::vector<Byte>;
 constexpr ISzAlloc heap = {SzAlloc, SzFree};
-constexpr std::size_t contentSize = 60'000;
+constexpr std::size_t contentSize = 60'000, headerSize = LZMA_PROPS_SIZE;
 
 struct Decoder
 {
@@ -36,12 +36,6 @@ struct Decoder
 constexpr Decoder linked = {LzmaDec_Allocate, LzmaDec_Init, LzmaDec_DecodeToBuf, LzmaDec_Free};
 constexpr Decoder plain = {
     PlainLzmaDec_Allocate, PlainLzmaDec_Init, PlainLzmaDec_DecodeToBuf, PlainLzmaDec_Free};
-
-struct Stream
-{
-    Byte properties[LZMA_PROPS_SIZE];
-    Bytes data;
-};
 
 // Noise, and copies of earlier bytes from near and far, some of them changed: every kind of symbol.
 Bytes MakeContent(std::mt19937& random)
@@ -60,7 +54,8 @@ Bytes MakeContent(std::mt19937& random)
     return content;
 }
 
-Stream Compress(const Bytes& content, int lc, int lp, int pb, UInt32 dictionary, bool hasEndMark)
+// The properties of the stream and its data.
+Bytes Compress(const Bytes& content, int lc, int lp, int pb, UInt32 dictionary, bool hasEndMark)
 {
     CLzmaEncProps settings;
     LzmaEncProps_Init(&settings);
@@ -68,39 +63,38 @@ Stream Compress(const Bytes& content, int lc, int lp, int pb, UInt32 dictionary,
     settings.lp = lp;
     settings.pb = pb;
     settings.dictSize = dictionary;
-    Stream stream{{}, Bytes(2 * contentSize)};
-    SizeT size = stream.data.size();
-    SizeT sizeOfProperties = LZMA_PROPS_SIZE;
-    EXPECT_EQ(LzmaEncode(stream.data.data(), &size, content.data(), contentSize, &settings,
-                  stream.properties, &sizeOfProperties, hasEndMark, nullptr, &heap, &heap),
+    Bytes stream(2 * contentSize);
+    SizeT size = stream.size() - headerSize, sizeOfHeader = headerSize;
+    EXPECT_EQ(LzmaEncode(stream.data() + headerSize, &size, content.data(), contentSize, &settings,
+                  stream.data(), &sizeOfHeader, hasEndMark, nullptr, &heap, &heap),
         SZ_OK);
-    stream.data.resize(size);
+    stream.resize(headerSize + size);
     return stream;
 }
 
 // The decoded bytes; result and positions of each call, and the decoder's state in the end. The
 // sizes of the pieces depend on the seed alone.
 std::pair<Bytes, std::vector<std::uint64_t>> Decode(
-    const Decoder& decoder, const Stream& stream, unsigned seed)
+    const Decoder& decoder, const Bytes& stream, unsigned seed)
 {
     CLzmaDec state{};
-    EXPECT_EQ(decoder.allocate(&state, stream.properties, LZMA_PROPS_SIZE, &heap), SZ_OK);
+    EXPECT_EQ(decoder.allocate(&state, stream.data(), headerSize, &heap), SZ_OK);
     decoder.init(&state);
     std::fill_n(state.dic, state.dicBufSize, Byte{0});
     std::fill_n(state.probs, state.numProbs, CLzmaProb{0});
     std::mt19937 random(seed);
     Bytes bytes;
     std::vector<std::uint64_t> trace;
-    SizeT position = 0, consumed = 1, produced = 0;
+    SizeT position = headerSize, consumed = 1, produced = 0;
     for (SRes result = SZ_OK;
          result == SZ_OK && consumed + produced > 0 && bytes.size() < contentSize;)
     {
         Byte piece[3000];
         produced = std::min<SizeT>(1 + random() % sizeof piece, contentSize - bytes.size());
-        consumed = std::min<SizeT>(1 + random() % 2000, stream.data.size() - position);
+        consumed = std::min<SizeT>(1 + random() % 2000, stream.size() - position);
         const bool isLast = bytes.size() + produced == contentSize;
         ELzmaStatus status = LZMA_STATUS_NOT_SPECIFIED;
-        result = decoder.decode(&state, piece, &produced, stream.data.data() + position, &consumed,
+        result = decoder.decode(&state, piece, &produced, stream.data() + position, &consumed,
             isLast ? LZMA_FINISH_END : LZMA_FINISH_ANY, &status);
         bytes.insert(bytes.end(), piece, piece + produced);
         position += consumed;
@@ -125,7 +119,7 @@ protected:
     std::mt19937 random{20};
     const Bytes content = MakeContent(random);
     // The smallest dictionary makes matches cross the end of the decoder's buffer.
-    const std::vector<Stream> streams = {
+    const std::vector<Bytes> streams = {
         Compress(content, 3, 0, 2, 1 << 16, false),
         Compress(content, 3, 0, 2, 1 << 12, true),
         Compress(content, 0, 4, 4, 1 << 12, false),
@@ -136,7 +130,7 @@ protected:
 
 TEST_F(LzmaDecoder, AssemblerDecodesWholeStreams)
 {
-    for (const Stream& stream : streams)
+    for (const Bytes& stream : streams)
         for (unsigned seed = 0; seed < 20; ++seed)
         {
             const auto outcome = Decode(linked, stream, seed);
@@ -147,15 +141,15 @@ TEST_F(LzmaDecoder, AssemblerDecodesWholeStreams)
 
 TEST_F(LzmaDecoder, AssemblerDecodesDamagedAndCutStreamsAsCDoes)
 {
-    for (const Stream& whole : streams)
+    for (const Bytes& whole : streams)
         for (unsigned seed = 0; seed < 100; ++seed)
         {
-            Stream cut = whole;
-            cut.data.resize(1 + random() % whole.data.size());
+            Bytes cut = whole;
+            cut.resize(headerSize + random() % (whole.size() - headerSize));
             ASSERT_EQ(Decode(linked, cut, seed), Decode(plain, cut, seed)) << seed;
-            Stream damaged = whole;
+            Bytes damaged = whole;
             for (unsigned i = 0; i <= seed % 4; ++i)
-                damaged.data[random() % damaged.data.size()] ^=
+                damaged[headerSize + random() % (damaged.size() - headerSize)] ^=
                     static_cast<Byte>(1 << random() % 8);
             ASSERT_EQ(Decode(linked, damaged, seed), Decode(plain, damaged, seed)) << seed;
         }
