@@ -73,6 +73,8 @@ class Translator:
                 self.statement(text, lines)
             except Unknown as error:
                 raise Unknown(f"{place}: {error}") from None
+            except (LookupError, TypeError):
+                raise Unknown(f"{place}: {text}") from None
 
     def statement(self, text, lines):
         words = text.split()
@@ -241,7 +243,7 @@ def main(convention, source, target):
     translator = Translator(convention, source.parent)
     try:
         translator.translate(statements(source))
-    except Unknown as error:
+    except (Unknown, OSError) as error:
         sys.exit(f"masm-to-gas.py: {error}")
     lines = [".intel_syntax noprefix", ".text", ".p2align 6"] + translator.output
     pathlib.Path(target).write_text("\n".join(lines) + "\n", encoding="ascii")
