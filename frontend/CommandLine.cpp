@@ -56,6 +56,8 @@ constexpr std::array allOptions{
     Flag("S", &CommandLine::silent, "run without any window"),
     Flag("VERYSILENT", &CommandLine::silent),
     Flag("quiet", &CommandLine::silent),
+    Flag("PASSIVE", &CommandLine::passive,
+        "run with a window that shows the progress, and ask nothing"),
     Flag("UNINSTALL", &CommandLine::uninstall, "uninstall instead of install"),
     Value("D", &CommandLine::folder, "<folder>", "install into this folder"),
     Value("DIR", &CommandLine::folder, "<folder>"),
@@ -71,12 +73,16 @@ constexpr std::array allOptions{
     YesNo("AUTOLAUNCH", &CommandLine::autoLaunch, "start the program at logon"),
     Answers("AUTOLAUNCH", &CommandLine::autoLaunch, true),
     YesNo("STATISTICS", &CommandLine::statistics, "send anonymous usage statistics"),
+    Value("LOADINF", &CommandLine::loadFile, "<file>", "read choices from this response file"),
+    Value("SAVEINF", &CommandLine::saveFile, "<file>", "write the choices to this response file"),
     Value("WEBUID", &CommandLine::webUid, "<id>", "web user id to store"),
     Flag("DOWNGRADE", &CommandLine::downgrade, "replace a newer version without a question"),
     Flag("REMOVEALL", &CommandLine::removeAll, "uninstall: remove additional modules and all data"),
     Flag("DELETESETTINGS", &CommandLine::deleteSettings, "uninstall: delete the user's settings"),
     Flag("CLOSEAPPS", &CommandLine::closeApps, "silent: close programs that use the files"),
     Flag("IGNORE_MUTEX", &CommandLine::ignoreMutex, "run even beside another setup"),
+    Value("ELEVATED", &CommandLine::elevated, "<id>",
+        "from the program itself when it restarts itself with administrator rights"),
     Flag("PROGRESS", &CommandLine::progress, "silent: show stages and a progress bar"),
     Flag("JSON", &CommandLine::json, "silent: print one line of JSON per event"),
     Flag("?", &CommandLine::help, "show this text"),
@@ -174,6 +180,37 @@ private:
     QString value;
 };
 
+// The word for what is stored; empty if it is not given.
+class WordMaker
+{
+public:
+    WordMaker(const CommandLine& source, const Option& described)
+        : options(source), option(described)
+    {
+    }
+
+    QString operator()(Switch flag) const { return options.*flag ? Word({}) : QString(); }
+    QString operator()(const Answer&) const { return {}; } // see Choice
+    QString operator()(Text text) const
+    {
+        return (options.*text).isEmpty() ? QString() : Word('=' + options.*text);
+    }
+    QString operator()(Choice choice) const
+    {
+        if (!(options.*choice))
+        {
+            return {};
+        }
+        return Word(*(options.*choice) ? "=yes" : "=no");
+    }
+
+private:
+    QString Word(const QString& value) const { return '/' + QString(option.name) + value; }
+
+    const CommandLine& options;
+    const Option& option;
+};
+
 // Applies one word to the options; returns an error text, or an empty text.
 QString ApplyWord(const QString& word, CommandLine& options)
 {
@@ -265,6 +302,22 @@ ParsedCommandLine ParseCommandLine(const QStringList& arguments)
     return parsed;
 }
 
+QStringList WordsFor(const CommandLine& options)
+{
+    QStringList words;
+    for (const Option& option : allOptions)
+    {
+        const bool isFirstName = option.help != nullptr;
+        const QString word =
+            isFirstName ? std::visit(WordMaker(options, option), option.target) : QString();
+        if (!word.isEmpty())
+        {
+            words << word;
+        }
+    }
+    return words;
+}
+
 CommandLine WithAbsolutePaths(CommandLine options, const QDir& startFolder)
 {
     for (QString* path : {&options.folder, &options.logFile, &options.loadFile, &options.saveFile})
@@ -274,6 +327,7 @@ CommandLine WithAbsolutePaths(CommandLine options, const QDir& startFolder)
             *path = QDir::cleanPath(startFolder.absoluteFilePath(*path));
         }
     }
+    options.isLogChosen = !options.logFile.isEmpty();
     return options;
 }
 

@@ -34,6 +34,7 @@ struct CommandLine
     bool json = false;
     bool help = false;
     bool version = false;
+    bool isLogChosen = false; // else logFile is the default of this process
     std::optional<bool> shortcuts;
     std::optional<bool> contextMenu;
     std::optional<bool> autoLaunch;
@@ -44,6 +45,7 @@ struct CommandLine
     QString webUid;
     QString loadFile; // response file to read
     QString saveFile; // response file to write
+    QString elevated; // the identity of this process's protected folder, from RunElevated
 
     bool HasScope() const { return allUsers || currentUser; }
     QSettings::Scope Scope() const
@@ -66,6 +68,9 @@ QStringList DropProgramPath(const QStringList& words, const QString& programPath
 // Names of options ignore case and begin with "/" or "--"; a value follows after "=". The last
 // value of a repeated option is used. Paths are not changed.
 ParsedCommandLine ParseCommandLine(const QStringList& arguments);
+
+// The words from which ParseCommandLine makes these options.
+QStringList WordsFor(const CommandLine& options);
 
 // The options with relative paths resolved against `startFolder`.
 CommandLine WithAbsolutePaths(CommandLine options, const QDir& startFolder);

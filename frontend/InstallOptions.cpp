@@ -1,5 +1,6 @@
 #include "InstallOptions.h"
 
+#include "ResponseFile.h"
 #include "base/TriState.h"
 
 namespace Vorlan::FrontEnd
@@ -8,15 +9,11 @@ namespace Vorlan::FrontEnd
 namespace
 {
 
-// "/NAME=yes" or "/NAME=no"; empty if nobody was asked.
-QString Word(const char* name, int answer)
+// No value if nobody was asked.
+std::optional<bool> AnswerOf(int setting)
 {
-    const QString word = '/' + QString(name) + '=';
-    if (answer == TriState::notAsked)
-    {
-        return {};
-    }
-    return word + (answer == TriState::chosen ? "yes" : "no");
+    return setting == TriState::notAsked ? std::nullopt
+                                         : std::optional(setting == TriState::chosen);
 }
 
 } // namespace
@@ -47,20 +44,25 @@ InstallationSettings ApplyOptions(InstallationSettings settings, const CommandLi
     return settings;
 }
 
-QStringList WordsFor(const InstallationSettings& settings)
+CommandLine OptionsFor(const InstallationSettings& settings, CommandLine options)
 {
-    QStringList words{"/D=" + QDir::toNativeSeparators(QDir::cleanPath(settings.installDir)),
-        "/LANG=" + settings.locale,
-        settings.scope == QSettings::SystemScope ? "/ALLUSERS" : "/CURRENTUSER"};
-    words << Word("SHORTCUTS", settings.createShortcuts ? TriState::chosen : TriState::declined)
-          << Word("CONTEXTMENU", settings.contextMenuConvert)
-          << Word("AUTOLAUNCH", settings.autoLaunch) << Word("STATISTICS", settings.sendStatistics);
-    words.removeAll({}); // what was not asked
-    if (!settings.userInfo.webUid.isEmpty())
-    {
-        words << "/WEBUID=" + settings.userInfo.webUid;
-    }
-    return words;
+    options.folder = QDir::cleanPath(settings.installDir);
+    options.language = settings.locale;
+    options.allUsers = settings.scope == QSettings::SystemScope;
+    options.currentUser = !options.allUsers;
+    options.shortcuts = settings.createShortcuts;
+    options.contextMenu = AnswerOf(settings.contextMenuConvert);
+    options.autoLaunch = AnswerOf(settings.autoLaunch);
+    options.statistics = AnswerOf(settings.sendStatistics);
+    options.webUid = settings.userInfo.webUid;
+    return options;
+}
+
+QString SaveChoices(const InstallationSettings& settings, const CommandLine& options)
+{
+    return options.saveFile.isEmpty()
+               ? QString()
+               : ResponseFile(options.saveFile).Save(OptionsFor(settings, options));
 }
 
 } // namespace Vorlan::FrontEnd

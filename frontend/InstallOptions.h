@@ -13,7 +13,11 @@ QSettings::Scope ChooseScope(const FoundInstallations& found, const CommandLine&
 // The proposed settings, changed by the options.
 InstallationSettings ApplyOptions(InstallationSettings settings, const CommandLine& options);
 
-// The words of a command line that passes these settings to another process.
-QStringList WordsFor(const InstallationSettings& settings);
+// The options, changed so that they ask for these settings.
+CommandLine OptionsFor(const InstallationSettings& settings, CommandLine options);
+
+// Writes the response file that the options ask for. Returns one line for the user, or an empty
+// text.
+QString SaveChoices(const InstallationSettings& settings, const CommandLine& options);
 
 } // namespace Vorlan::FrontEnd

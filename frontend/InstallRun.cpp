@@ -1,9 +1,12 @@
 #include "InstallRun.h"
 
+#include "ElevatedRun.h"
 #include "FolderUpdate.h"
 #include "FoundInstallations.h"
+#include "InstallOptions.h"
 #include "MediatorRun.h"
 #include "RemovalGuard.h"
+#include "UninstallEntryExtras.h"
 
 #include "base/ProductProfile.h"
 #include "installer/InstallerMediator.h"
@@ -115,8 +118,22 @@ InstallResult InstallWith(
     };
     const Outcome outcome = RunToTheEnd(mediator, &InstallerMediator::StartInstallation, watch);
     if (outcome.code == ExitCode::Done)
+    {
         update.Complete();
+        UninstallEntryExtras::Write(settings.scope, settings.installDir);
+    }
     return {outcome, update.End()};
+}
+
+std::optional<InstallResult> InstallElevated(InstallerMediator& mediator,
+    const InstallationSettings& settings, const CommandLine& options, const EventSink& sink)
+{
+    mediator.SetSettings(settings);
+    CommandLine chosen = OptionsFor(settings, options);
+    chosen.saveFile.clear(); // this process has written it
+    chosen.downgrade = true; // and has asked about that
+    const auto outcome = RunElevated(QCoreApplication::applicationFilePath(), chosen, sink);
+    return outcome ? std::optional(InstallResult{*outcome, outcome->files}) : std::nullopt;
 }
 
 } // namespace Vorlan::FrontEnd

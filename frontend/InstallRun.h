@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CommandLine.h"
 #include "Obstacles.h"
 #include "Outcome.h"
 #include "RunEvent.h"
@@ -10,6 +11,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 
 namespace Vorlan
 {
@@ -43,5 +45,10 @@ struct InstallResult
 // product's stay as they are.
 InstallResult InstallWith(
     InstallerMediator& mediator, InstallationSettings settings, const EventSink& sink);
+
+// The same in another process with administrator rights. No value if the user refuses them. The
+// mediator then has these settings, as after a run of its own.
+std::optional<InstallResult> InstallElevated(InstallerMediator& mediator,
+    const InstallationSettings& settings, const CommandLine& options, const EventSink& sink);
 
 } // namespace Vorlan::FrontEnd

@@ -1,5 +1,6 @@
 #include "JsonReport.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -96,6 +97,18 @@ void WriteJsonOutcome(std::ostream& out, const Outcome& outcome)
     if (!outcome.error.isEmpty())
     {
         line.insert("error", outcome.error);
+    }
+    if (!outcome.explanation.state.isEmpty())
+    {
+        line.insert("state", outcome.explanation.state);
+    }
+    if (!outcome.logFile.isEmpty())
+    {
+        line.insert("logFile", outcome.logFile);
+    }
+    if (!outcome.files.isEmpty())
+    {
+        line.insert("files", QJsonArray::fromStringList(outcome.files));
     }
     WriteLine(out, line);
 }

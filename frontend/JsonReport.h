@@ -11,7 +11,7 @@ namespace Vorlan::FrontEnd
 // One line of JSON for scripts: {"signal":"ProcessStarted","process":"EXTRACT_FILES"}.
 void WriteJsonEvent(std::ostream& out, const RunEvent& event);
 
-// The last line: {"exitCode":0}, or {"error":"...","exitCode":1603}.
+// The last line: {"exitCode":0}, or {"error":"...","exitCode":1603,"logFile":"..."}.
 void WriteJsonOutcome(std::ostream& out, const Outcome& outcome);
 
 } // namespace Vorlan::FrontEnd

@@ -4,9 +4,6 @@
 #include "base/ProductProfile.h"
 
 #include <QCoreApplication>
-#include <QDir>
-
-#include <shellapi.h>
 
 namespace Vorlan::FrontEnd
 {
@@ -35,27 +32,11 @@ QString MachineRightsMissing()
         "one.");
 }
 
-bool RelaunchElevated(const QStringList& arguments)
+QString UninstallRightsMissing()
 {
-    QStringList quoted = {
-        "/IGNORE_MUTEX"}; // this process still holds the lock when the other one starts
-    for (const QString& argument : arguments)
-    {
-        quoted += '"' + argument + '"';
-    }
-    const std::wstring program =
-        QDir::toNativeSeparators(QCoreApplication::applicationFilePath()).toStdWString();
-    const std::wstring parameters = quoted.join(' ').toStdWString();
-    SHELLEXECUTEINFOW info = {};
-    info.cbSize = sizeof info;
-    info.fMask = SEE_MASK_NOCLOSEPROCESS;
-    info.lpVerb = L"runas";
-    info.lpFile = program.c_str();
-    info.lpParameters = parameters.c_str();
-    info.nShow = SW_SHOW;
-    const BOOL isStarted = ShellExecuteExW(&info);
-    const Platform::UniqueProcess process(info.hProcess);
-    return isStarted;
+    return QCoreApplication::translate("Uninstaller",
+        "The program is installed for all users. Uninstalling it needs the rights of an "
+        "administrator: start the uninstaller as one.");
 }
 
 struct SetupLock::State

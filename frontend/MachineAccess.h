@@ -11,12 +11,9 @@ namespace Vorlan::FrontEnd
 // Whether this process may write the records of all users.
 bool CanChangeMachine();
 
-// The error text for a user without that right.
+// The error texts for a user without that right.
 QString MachineRightsMissing();
-
-// Starts this program again with these arguments and administrator rights, after the system's
-// confirmation dialog; false if the user has refused.
-bool RelaunchElevated(const QStringList& arguments);
+QString UninstallRightsMissing();
 
 // Lock that allows one setup at a time on a machine: held by the first process that constructs it,
 // until the object is destroyed or the process ends.

@@ -1,9 +1,13 @@
 #include "CommandLine.h"
+#include "ElevatedRun.h"
 #include "JsonReport.h"
 #include "LogFile.h"
 #include "MachineAccess.h"
 #include "Outcome.h"
+#include "PassiveRun.h"
 #include "ProgressReport.h"
+#include "ProtectedTempFolder.h"
+#include "ResponseFile.h"
 #include "SilentRun.h"
 #include "Terminal.h"
 #include "WindowedRun.h"
@@ -13,6 +17,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSysInfo>
+#include <QUuid>
 
 #include <iostream>
 #include <memory>
@@ -42,6 +47,11 @@ Invocation ReadInvocation(int argc, char** argv)
 
 EventSink MakeSink(const CommandLine& options)
 {
+    if (!options.elevated.isEmpty())
+    {
+        const auto report = std::make_shared<ElevatedReport>(QDir::tempPath());
+        return [report](const RunEvent& event) { report->Write(event); };
+    }
     if (options.json)
     {
         return [](const RunEvent& event) { WriteJsonEvent(std::cout, event); };
@@ -65,6 +75,15 @@ Outcome RunSilently(Role role, const CommandLine& options, int argc, char** argv
                                      : InstallSilently(options, MakeSink(options));
 }
 
+Outcome RunPassively(Role role, const CommandLine& options, int argc, char** argv)
+{
+    EnableHighDpi();
+    QApplication application(argc, argv);
+    ApplyStyle(application);
+    return role == Role::Uninstaller ? UninstallPassively(options, MakeSink(options))
+                                     : InstallPassively(options, MakeSink(options));
+}
+
 Outcome RunWithWindow(
     Role role, const CommandLine& options, bool isOnlySetup, int argc, char** argv)
 {
@@ -83,18 +102,36 @@ Outcome RunWithWindow(
 Outcome RunRole(Role role, const CommandLine& options, int argc, char** argv)
 {
     const SetupLock lock;
-    const bool isOnlySetup = lock.IsHeld() || options.ignoreMutex;
-    if (!options.silent)
+    // The process that waits for an elevated one holds the lock.
+    const bool isOnlySetup = lock.IsHeld() || options.ignoreMutex || !options.elevated.isEmpty();
+    if (!options.silent && !options.passive)
     {
         return RunWithWindow(role, options, isOnlySetup, argc, argv);
     }
-    return isOnlySetup ? RunSilently(role, options, argc, argv) : anotherSetup;
+    if (!isOnlySetup)
+    {
+        return anotherSetup;
+    }
+    return options.silent ? RunSilently(role, options, argc, argv)
+                          : RunPassively(role, options, argc, argv);
+}
+
+// Administrators run nothing from a folder that other programs of the user may change.
+std::unique_ptr<ProtectedTempFolder> ProtectTemporaryFiles(const CommandLine& options)
+{
+    if (!options.elevated.isEmpty())
+    {
+        return std::make_unique<ProtectedTempFolder>(options.elevated);
+    }
+    const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    return CanChangeMachine() ? std::make_unique<ProtectedTempFolder>(id) : nullptr;
 }
 
 // Writes a log during the run; a failure names its path. Throws std::runtime_error if it cannot be
 // opened.
 Outcome RunLogged(Role role, CommandLine options, int argc, char** argv)
 {
+    const auto protection = ProtectTemporaryFiles(options);
     const QString action = role == Role::Uninstaller ? "uninstall" : "install";
     if (options.logFile.isEmpty())
     {
@@ -105,13 +142,21 @@ Outcome RunLogged(Role role, CommandLine options, int argc, char** argv)
     if (outcome.code != ExitCode::Done)
     {
         qCritical("%s", qUtf8Printable(outcome.error));
-        outcome.error += " (log file: " + log.Path() + ")";
+        outcome.logFile = outcome.logFile.isEmpty() ? log.Path() : outcome.logFile;
+    }
+    if (!options.elevated.isEmpty())
+    {
+        ElevatedReport(QDir::tempPath()).Write(outcome);
     }
     return outcome;
 }
 
-int Finish(const Outcome& outcome, const CommandLine& options)
+int Finish(Outcome outcome, const CommandLine& options)
 {
+    if (!outcome.logFile.isEmpty())
+    {
+        outcome.error += " (log file: " + outcome.logFile + ")";
+    }
     if (options.json)
     {
         WriteJsonOutcome(std::cout, outcome);
@@ -127,17 +172,27 @@ int Finish(const Outcome& outcome, const CommandLine& options)
 int ShowText(const QString& text, const CommandLine& options, bool isConnected)
 {
     std::cout << text.toStdString() << std::flush;
-    if (!isConnected && !options.silent)
+    if (!isConnected && !options.silent && !options.passive)
     {
         ShowBox(text);
     }
     return static_cast<int>(ExitCode::Done);
 }
 
+// The words of the command line, and what the response file has beyond them.
+ParsedCommandLine ReadOptions(const Invocation& invocation)
+{
+    ParsedCommandLine parsed =
+        ParseCommandLine(DropProgramPath(invocation.words, invocation.programPath));
+    const QString file = WithAbsolutePaths(parsed.options, QDir::current()).loadFile;
+    return parsed.error.isEmpty() && !file.isEmpty() ? ResponseFile(file).Complete(parsed.options)
+                                                     : parsed;
+}
+
 // Ends the program without a run; without a console the text is shown in a box.
 int Refuse(const Outcome& outcome, const CommandLine& options, bool isConnected)
 {
-    if (!isConnected && !options.silent)
+    if (!isConnected && !options.silent && !options.passive)
     {
         ShowBox(outcome.error);
     }
@@ -150,8 +205,7 @@ int main(int argc, char** argv)
 {
     const bool isConnected = ConnectToConsole();
     const Invocation invocation = ReadInvocation(argc, argv);
-    const ParsedCommandLine parsed =
-        ParseCommandLine(DropProgramPath(invocation.words, invocation.programPath));
+    const ParsedCommandLine parsed = ReadOptions(invocation);
     if (!parsed.error.isEmpty())
     {
         return Refuse({ExitCode::BadCommandLine, parsed.error}, parsed.options, isConnected);

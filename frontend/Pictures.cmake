@@ -35,7 +35,7 @@ foreach(icon IN ITEMS error info question)
 endforeach()
 vorlan_draw_picture("${picture_sources}/icons/logo.svg" "Icons/vorlan/logo")
 foreach(icon IN ITEMS arrow-down box-off box-on close close-dark done failed minimize next radio-off
-    radio-on)
+    radio-on shield)
     vorlan_draw_picture("${picture_sources}/icons/${icon}.svg" "Icons/${icon}")
 endforeach()
 foreach(icon IN ITEMS quill uninstall)

@@ -1,5 +1,6 @@
 #include "SilentRun.h"
 
+#include "ElevatedRun.h"
 #include "InstallOptions.h"
 #include "InstallRun.h"
 #include "MachineAccess.h"
@@ -25,6 +26,17 @@ namespace
 Outcome Failure(const QString& error)
 {
     return {ExitCode::Failed, error};
+}
+
+// A run with a window has the rights confirmed; one without does not ask.
+Outcome RunWithoutRights(CommandLine options, const QString& refusal, const EventSink& sink)
+{
+    options.allUsers = true; // found here, perhaps not by another user
+    options.currentUser = false;
+    const auto outcome = options.passive
+                             ? RunElevated(QCoreApplication::applicationFilePath(), options, sink)
+                             : std::nullopt;
+    return outcome.value_or(Failure(refusal));
 }
 
 // The engine reports a missing archive in a modal box, which an unattended run must not open.
@@ -68,6 +80,7 @@ Outcome CheckVersion(const Installation* installed, const CommandLine& options)
 Outcome InstallWithOptions(InstallerMediator& mediator, const FoundInstallations& found,
     const CommandLine& options, const EventSink& sink)
 {
+    mediator.NotifyExtractorOnReady();
     InstallationSettings settings =
         ApplyOptions(ProposeSettings(mediator.GetSettings(), found), options);
     const auto translator = InstallTranslation(settings.locale);
@@ -81,8 +94,16 @@ Outcome InstallWithOptions(InstallerMediator& mediator, const FoundInstallations
     {
         return refusal;
     }
+    const QString problem = SaveChoices(settings, options);
+    if (!problem.isEmpty())
+    {
+        return Failure(problem);
+    }
     settings.userInfo.webUid = FindWebUid(mediator, options);
-    return InstallWith(mediator, settings, sink).outcome;
+    const InstallResult result = InstallWith(mediator, settings, sink);
+    Outcome outcome = result.outcome;
+    outcome.files = result.movedFiles;
+    return outcome;
 }
 
 } // namespace
@@ -96,14 +117,14 @@ Outcome InstallSilently(const CommandLine& options, const EventSink& sink)
     }
     const FoundInstallations found = FindInstallations();
     const QSettings::Scope scope = ChooseScope(found, options);
-    if (scope == QSettings::SystemScope && !CanChangeMachine())
-    {
-        return Failure(MachineRightsMissing());
-    }
     refusal = CheckVersion(found.Of(scope), options);
     if (refusal.code != ExitCode::Done)
     {
         return refusal;
+    }
+    if (scope == QSettings::SystemScope && !CanChangeMachine())
+    {
+        return RunWithoutRights(options, MachineRightsMissing(), sink);
     }
     try
     {
@@ -125,7 +146,7 @@ Outcome UninstallSilently(const CommandLine& options, const EventSink& sink)
     }
     if (own.scope == QSettings::SystemScope && !CanChangeMachine())
     {
-        return Failure(MachineRightsMissing());
+        return RunWithoutRights(options, UninstallRightsMissing(), sink);
     }
     const auto mediator = MakeUninstaller(own.scope, options, true);
     const auto translator = InstallTranslation(mediator->GetSettings().locale);
@@ -135,7 +156,10 @@ Outcome UninstallSilently(const CommandLine& options, const EventSink& sink)
     {
         return refusal;
     }
-    return UninstallWith(*mediator, folder, options, sink).outcome;
+    const UninstallResult result = UninstallWith(*mediator, folder, options, sink);
+    Outcome outcome = result.outcome;
+    outcome.files = result.staying;
+    return outcome;
 }
 
 } // namespace Vorlan::FrontEnd

@@ -7,7 +7,8 @@
 namespace Vorlan::FrontEnd
 {
 
-// Install or uninstall without windows and questions, and return after the run. They need a
+// Install or uninstall without windows and questions, and return after the run. With /PASSIVE a run
+// that needs administrator rights is performed by an elevated process. They need a
 // QApplication, the program's own folder as current folder, and absolute paths in the options.
 Outcome InstallSilently(const CommandLine& options, const EventSink& sink);
 

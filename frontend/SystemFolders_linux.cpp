@@ -11,8 +11,8 @@ SystemFolders FindSystemFolders()
     SystemFolders folders;
     folders.closed = QStringList{"/bin", "/boot", "/dev", "/etc", "/lib", "/lib32", "/lib64",
         "/proc", "/run", "/sbin", "/sys", "/usr"};
-    folders.shared = QStringList{
-        "/home", "/media", "/mnt", "/opt", "/srv", "/tmp", "/var/tmp", QDir::tempPath()};
+    folders.shared = QStringList{"/home", "/media", "/mnt", "/opt", "/srv", "/tmp", "/var/tmp",
+        QDir::tempPath(), qEnvironmentVariable("VORLAN_FORMER_TEMP")};
     folders.homes = QStringList(QDir::homePath());
     for (const char* name : {".config", ".local/share", "Desktop", "Documents", "Downloads",
              "Music", "Pictures", "Videos"})

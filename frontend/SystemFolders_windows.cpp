@@ -8,8 +8,9 @@ SystemFolders FindSystemFolders()
 {
     SystemFolders folders;
     folders.closed = QStringList(qEnvironmentVariable("SystemRoot"));
-    for (const char* name : {"ProgramFiles", "ProgramFiles(x86)", "ProgramW6432",
-             "CommonProgramFiles", "CommonProgramFiles(x86)", "CommonProgramW6432", "TEMP", "TMP"})
+    for (const char* name :
+        {"ProgramFiles", "ProgramFiles(x86)", "ProgramW6432", "CommonProgramFiles",
+            "CommonProgramFiles(x86)", "CommonProgramW6432", "TEMP", "TMP", "VORLAN_FORMER_TEMP"})
         folders.shared += qEnvironmentVariable(name);
     const QString programData = qEnvironmentVariable("ProgramData");
     if (!programData.isEmpty())

@@ -1,5 +1,6 @@
 #include "UninstallRun.h"
 
+#include "ElevatedRun.h"
 #include "FolderRemoval.h"
 #include "KeptFiles.h"
 #include "MediatorRun.h"
@@ -125,6 +126,14 @@ UninstallResult UninstallWith(InstallerMediator& mediator, const QString& folder
     if (outcome.code != ExitCode::Done)
         return {outcome, {}};
     return RemoveFiles(folder, placed, options.removeAll);
+}
+
+std::optional<UninstallResult> UninstallElevated(CommandLine options, const EventSink& sink)
+{
+    options.uninstall = true;
+    options.allUsers = true;
+    const auto outcome = RunElevated(QCoreApplication::applicationFilePath(), options, sink);
+    return outcome ? std::optional(UninstallResult{*outcome, outcome->files}) : std::nullopt;
 }
 
 UninstallResult RemoveCopy(const QString& folder, const PlacedFiles& placed)

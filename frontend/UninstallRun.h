@@ -6,6 +6,7 @@
 #include "RunEvent.h"
 
 #include <memory>
+#include <optional>
 
 namespace Vorlan
 {
@@ -36,6 +37,10 @@ PlacedFiles FilesToRemove(const InstallerMediator& mediator, const QString& fold
 // stay, except with /REMOVEALL. The caller has checked that the folder is the product's.
 UninstallResult UninstallWith(InstallerMediator& mediator, const QString& folder,
     const CommandLine& options, const EventSink& sink);
+
+// Uninstalls the product of all users in another process with administrator rights. No value if the
+// user refuses them.
+std::optional<UninstallResult> UninstallElevated(CommandLine options, const EventSink& sink);
 
 // Deletes the listed files of a folder in which no installation is registered, and nothing else on
 // the machine: no records and no shortcuts.

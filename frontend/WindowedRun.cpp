@@ -1,7 +1,6 @@
 #include "WindowedRun.h"
 
 #include "InstallRun.h"
-#include "MachineAccess.h"
 #include "MediatorRun.h"
 #include "OwnFolder.h"
 #include "base/ProductProfile.h"
@@ -21,7 +20,14 @@ namespace Vorlan::FrontEnd
 namespace
 {
 
-// The language before a mediator proposes one: that of the options, or the system's.
+Outcome ShowFailure(const QString& error)
+{
+    AlertBox::error(nullptr, error, false);
+    return {ExitCode::Failed, error};
+}
+
+} // namespace
+
 QString FirstLanguage(const CommandLine& options)
 {
     const QString system = QLocale(QLocale().uiLanguages().value(0)).name();
@@ -30,14 +36,6 @@ QString FirstLanguage(const CommandLine& options)
                ? language
                : QString(ProductProfile::defaultLocale);
 }
-
-Outcome ShowFailure(const QString& error)
-{
-    AlertBox::error(nullptr, error, false);
-    return {ExitCode::Failed, error};
-}
-
-} // namespace
 
 Outcome InstallWithWindow(const CommandLine& options, const EventSink& sink)
 {
@@ -63,12 +61,6 @@ Outcome UninstallWithWindow(const CommandLine& options, const EventSink& sink)
     const auto translator = InstallTranslation(FirstLanguage(options));
     const QString folder = QCoreApplication::applicationDirPath();
     const OwnFolder own = ExamineOwnFolder(folder, options.Scope());
-    if (own.scope == QSettings::SystemScope && !CanChangeMachine())
-    {
-        return RelaunchElevated(QCoreApplication::arguments().mid(1))
-                   ? Outcome{}
-                   : ShowFailure(MachineRightsMissing());
-    }
     return UninstallWizard(folder, own, options, sink).Run();
 }
 

@@ -7,12 +7,14 @@
 namespace Vorlan::FrontEnd
 {
 
-// Install or uninstall with a window, and return after it is closed. Without the rights for an
-// uninstallation for all users, the program is restarted elevated. They need a QApplication
+// Install or uninstall with a window, and return after it is closed. They need a QApplication
 // prepared by ApplyStyle, the program's own folder as current folder, and absolute paths in
 // the options.
 Outcome InstallWithWindow(const CommandLine& options, const EventSink& sink);
 Outcome UninstallWithWindow(const CommandLine& options, const EventSink& sink);
+
+// The language before a mediator proposes one: that of the options, or the system's.
+QString FirstLanguage(const CommandLine& options);
 
 // Shows a box: another setup must end first.
 void ShowAnotherSetupRuns(const CommandLine& options);

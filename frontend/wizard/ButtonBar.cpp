@@ -4,6 +4,8 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QStyle>
+#include <QVariant>
 
 namespace Vorlan::FrontEnd
 {
@@ -55,7 +57,17 @@ void ButtonBar::SetLabels(const Labels& labels)
     SetLabel(back, labels.back);
     SetLabel(cancel, labels.cancel);
     SetForwardLabel(labels.forward);
+    SetShield(labels.needsRights);
     setHidden(labels.back.isEmpty() && labels.cancel.isEmpty() && labels.forward.isEmpty());
+}
+
+// The style sheet has the picture.
+void ButtonBar::SetShield(bool isShown)
+{
+    auto* icon = forward->findChild<QWidget*>("buttonIcon");
+    icon->setProperty("needsRights", isShown);
+    icon->style()->unpolish(icon);
+    icon->style()->polish(icon);
 }
 
 // The size hint of a push button does not include its layout.

@@ -24,6 +24,7 @@ public:
         QString back;
         QString cancel;
         QString forward;
+        bool needsRights = false; // forward has the shield of administrator rights
     };
     void SetLabels(const Labels& labels);
 
@@ -33,6 +34,7 @@ public:
 
 private:
     void SetForwardLabel(const QString& text);
+    void SetShield(bool isShown);
 
     QPushButton* back;
     QPushButton* cancel;

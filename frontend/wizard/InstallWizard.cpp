@@ -124,12 +124,12 @@ ButtonBar::Labels InstallWizard::Labels() const
     switch (step)
     {
     case Step::Start:
-        return {WizardText("&Options"), WizardText("Cancel"), InstallLabel()};
+        return {WizardText("&Options"), WizardText("Cancel"), InstallLabel(), NeedsRights()};
     case Step::Options:
-        return {WizardText("&Back"), WizardText("Cancel"), InstallLabel()};
+        return {WizardText("&Back"), WizardText("Cancel"), InstallLabel(), NeedsRights()};
     case Step::InUse:
-        return {
-            WizardText("&Try again"), WizardText("Cancel"), WizardText("&Close them and go on")};
+        return {WizardText("&Try again"), WizardText("Cancel"), WizardText("&Close them and go on"),
+            NeedsRights()};
     case Step::Running:
         return {};
     case Step::Done:
@@ -138,6 +138,12 @@ ButtonBar::Labels InstallWizard::Labels() const
         break;
     }
     return {WizardText("&Options"), WizardText("Close"), WizardText("&Try again")};
+}
+
+// The extractor that has unpacked the setup shows its own window until then.
+void InstallWizard::OnShown()
+{
+    mediator->NotifyExtractorOnReady();
 }
 
 void InstallWizard::GoForward()
@@ -211,8 +217,7 @@ void InstallWizard::Install()
 {
     if (!IsReplacementWanted() || !FindArchive())
         return;
-    if (optionsPage->Scope() == QSettings::SystemScope && !CanChangeMachine())
-        return RelaunchWithRights();
+    origin = step == Step::Start ? Step::Start : Step::Options;
     optionsPage->Folder().Examine();
     optionsPage->Folder().WhenExamined(
         [this, before = step](bool isUsable)
@@ -255,16 +260,9 @@ bool InstallWizard::FindArchive()
     return true;
 }
 
-void InstallWizard::RelaunchWithRights()
+bool InstallWizard::NeedsRights() const
 {
-    InstallationSettings chosen;
-    chosen.userInfo.webUid = options.webUid;
-    start->Apply(chosen);
-    optionsPage->Apply(chosen);
-    if (RelaunchElevated(WordsFor(chosen)))
-        Leave({});
-    else
-        AlertBox::error(&window, MachineRightsMissing(), false);
+    return optionsPage->Scope() == QSettings::SystemScope && !CanChangeMachine();
 }
 
 InstallationSettings InstallWizard::ChosenSettings() const
@@ -301,6 +299,12 @@ void InstallWizard::CheckFilesInUse()
         mediator = MakeInstaller(scope, false);
     }
     const InstallationSettings settings = ChosenSettings();
+    const QString problem = SaveChoices(settings, options);
+    if (!problem.isEmpty())
+    {
+        AlertBox::error(&window, problem, false);
+        return;
+    }
     progress->Begin(PayloadBytes(settings));
     GoTo(Step::Running);
     const std::vector<FileHolder> holders =
@@ -314,12 +318,17 @@ void InstallWizard::CheckFilesInUse()
 void InstallWizard::RunInstallation(InstallationSettings settings)
 {
     settings.userInfo.webUid = AskForWebUid();
-    ShowResult(InstallWith(*mediator, settings,
-        [this](const RunEvent& event)
-        {
-            sink(event);
-            progress->Show(event);
-        }));
+    const EventSink show = [this](const RunEvent& event)
+    {
+        sink(event);
+        progress->Show(event);
+    };
+    const auto result = NeedsRights() ? InstallElevated(*mediator, settings, options, show)
+                                      : InstallWith(*mediator, settings, show);
+    if (result)
+        return ShowResult(*result);
+    GoTo(origin);
+    AlertBox::error(&window, MachineRightsMissing(), false);
 }
 
 // What did not work although the run may have ended well: a line each.
@@ -348,8 +357,8 @@ void InstallWizard::ShowResult(const InstallResult& result)
         shown.text = WizardText("Everything is in its place. You can begin right away.");
     if (!shown.isDone)
     {
-        shown.text = FailureText(runOutcome, options.logFile);
-        shown.logFile = options.logFile;
+        shown.logFile = runOutcome.logFile.isEmpty() ? options.logFile : runOutcome.logFile;
+        shown.text = FailureText(runOutcome, shown.logFile);
     }
     delete resultPage;
     resultPage = new ResultPage(

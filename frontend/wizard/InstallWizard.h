@@ -45,6 +45,7 @@ private:
     void GoBack() override;
     void RequestClose() override;
     ButtonBar::Labels Labels() const override;
+    void OnShown() override;
 
     void MakePages();
     void GoTo(Step step);
@@ -57,7 +58,7 @@ private:
     bool IsReplacementWanted();
     bool FindArchive();
     void StartRemoval();
-    void RelaunchWithRights();
+    bool NeedsRights() const;
     InstallationSettings Proposal() const;
     InstallationSettings ChosenSettings() const;
     void CheckFilesInUse();
@@ -73,6 +74,7 @@ private:
     QSettings::Scope scope; // of the mediator
     std::unique_ptr<InstallerMediator> mediator;
     Step step = Step::Start;
+    Step origin = Step::Start; // of the run, for refused rights
     Outcome runOutcome;
     StartPage* start = nullptr;
     OptionsPage* optionsPage = nullptr;

@@ -2,6 +2,7 @@
 
 #include "Await.h"
 #include "FoundInstallations.h"
+#include "MachineAccess.h"
 #include "Obstacles.h"
 #include "installer/InstallerMediator.h"
 #include "widgets/AlertBox.h"
@@ -89,10 +90,10 @@ ButtonBar::Labels UninstallWizard::Labels() const
             WizardText("Close"),
             CopiedFiles() == 0 ? QString() : UninstallText("&Delete %1 files").arg(CopiedFiles())};
     case Step::Start:
-        return {{}, WizardText("Cancel"), UninstallText("&Uninstall")};
+        return {{}, WizardText("Cancel"), UninstallText("&Uninstall"), NeedsRights()};
     case Step::InUse:
-        return {
-            WizardText("&Try again"), WizardText("Cancel"), WizardText("&Close them and go on")};
+        return {WizardText("&Try again"), WizardText("Cancel"), WizardText("&Close them and go on"),
+            NeedsRights()};
     case Step::Running:
         return {};
     case Step::Over:
@@ -151,23 +152,35 @@ void UninstallWizard::CheckFilesInUse()
     GoTo(Step::InUse, inUse);
 }
 
+bool UninstallWizard::NeedsRights() const
+{
+    return own.scope == QSettings::SystemScope && !CanChangeMachine();
+}
+
 void UninstallWizard::Uninstall()
 {
     options.deleteSettings = start->IsDeletingSettings();
-    const UninstallResult result = UninstallWith(*mediator, folder, options,
-        [this](const RunEvent& event)
-        {
-            sink(event);
-            progress->Show(event);
-        });
-    runOutcome = result.outcome;
+    const EventSink show = [this](const RunEvent& event)
+    {
+        sink(event);
+        progress->Show(event);
+    };
+    const auto result = NeedsRights() ? UninstallElevated(options, show)
+                                      : UninstallWith(*mediator, folder, options, show);
+    if (!result)
+    {
+        GoTo(Step::Start, start);
+        AlertBox::error(&window, UninstallRightsMissing(), false);
+        return;
+    }
+    runOutcome = result->outcome;
     if (runOutcome.code == ExitCode::DependentProgramsExist)
     {
         GoTo(Step::Start, start);
         AlertBox::error(&window, Shortened(runOutcome.error), false);
         return;
     }
-    ShowResult(result);
+    ShowResult(*result);
 }
 
 void UninstallWizard::DeleteCopy()
@@ -194,8 +207,8 @@ void UninstallWizard::ShowResult(const UninstallResult& result)
     else
     {
         shown.headingText = QT_TRANSLATE_NOOP("Wizard", "%1 could not be uninstalled");
-        shown.text = FailureText(runOutcome, options.logFile);
-        shown.logFile = options.logFile;
+        shown.logFile = runOutcome.logFile.isEmpty() ? options.logFile : runOutcome.logFile;
+        shown.text = FailureText(runOutcome, shown.logFile);
     }
     shown.listText = UninstallText("Left in %1:").arg(PathText(QDir::toNativeSeparators(folder)));
     shown.list = result.staying;

@@ -47,6 +47,7 @@ private:
     UninstallPlan Plan() const;
     int CopiedFiles() const;
     void CheckFilesInUse();
+    bool NeedsRights() const;
     void Uninstall();
     void DeleteCopy();
     void ShowResult(const UninstallResult& result);

@@ -22,6 +22,7 @@ Outcome Wizard::Run()
 {
     window.show();
     window.activateWindow();
+    OnShown();
     if (!isOver)
         loop.exec();
     window.hide();

@@ -35,6 +35,8 @@ protected:
     virtual void GoBack() {}
     virtual void RequestClose() = 0;
     virtual ButtonBar::Labels Labels() const = 0;
+    // Called once, when the window is shown.
+    virtual void OnShown() {}
 
     // Switches all texts and pictures to this language.
     void SetLanguage(const QString& locale);

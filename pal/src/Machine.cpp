@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QSettings>
 
 #include <Pal.h>
 #include <shlobj.h>
@@ -179,6 +180,22 @@ void PutSystemFolderOnPath(const fs::path& root)
     }
     if (path != former)
         qputenv("PATH", path);
+}
+
+Rights MachineRights()
+{
+    const QString file = QString::fromStdString(MachineRoot() / "machine.ini");
+    const QString rights = QSettings(file, QSettings::IniFormat).value("rights").toString();
+    if (rights == "request")
+        return Rights::OnRequest;
+    return rights == "refused" ? Rights::Refused : Rights::Administrator;
+}
+
+bool IsAdministrator()
+{
+    const Rights rights = MachineRights();
+    return rights == Rights::Administrator ||
+           (rights == Rights::OnRequest && qgetenv(elevatedVariable) == "1");
 }
 
 fs::path RegistryFolder(const fs::path& root)

@@ -30,23 +30,25 @@ QStringList WordsAfter(const QStringList& words)
 {
     const ParsedCommandLine parsed = ParseCommandLine(words);
     EXPECT_EQ(parsed.error, "");
-    return WordsFor(ApplyOptions(Proposal(), parsed.options));
+    return WordsFor(OptionsFor(ApplyOptions(Proposal(), parsed.options), parsed.options));
 }
 
 TEST(InstallOptionsTest, WhatIsNotGivenStaysAsProposed)
 {
-    EXPECT_EQ(WordsAfter({}), WordsFor(Proposal()));
-    EXPECT_EQ(WordsFor(Proposal()).mid(1).join(' '),
+    EXPECT_EQ(WordsAfter({}).mid(1).join(' '),
         "/LANG=fr_FR /ALLUSERS /SHORTCUTS=no /CONTEXTMENU=yes /AUTOLAUNCH=yes /STATISTICS=no");
 }
 
-TEST(InstallOptionsTest, WhatIsGivenReplacesTheProposal)
+TEST(InstallOptionsTest, WhatIsGivenReplacesTheProposalAndAllOfItCanBePassedOn)
 {
-    const QStringList given{
-        "/LANG=de_DE", "/SHORTCUTS=yes", "/CONTEXTMENU=no", "/AUTOLAUNCH=no", "/STATISTICS=yes"};
-    EXPECT_EQ(WordsAfter(given).mid(1).join(' '),
-        "/LANG=de_DE /ALLUSERS /SHORTCUTS=yes /CONTEXTMENU=no /AUTOLAUNCH=no /STATISTICS=yes");
-    EXPECT_EQ(WordsAfter(WordsAfter(given)), WordsAfter(given)) << "the words say all of it";
+    const QStringList words = WordsAfter({"/S", "/D=" + QDir::rootPath() + "a b/Vorlan Quillax",
+        "/LANG=de_DE", "/ALLUSERS", "/LOG=a log", "/SHORTCUTS=yes", "/CONTEXTMENU=no",
+        "/AUTOLAUNCH=no", "/STATISTICS=yes", "/REMOVEALL", "/JSON"});
+    EXPECT_EQ(words.join(' '),
+        "/S /D=" + QDir::rootPath() +
+            "a b/Vorlan Quillax /LANG=de_DE /ALLUSERS /LOG=a log /SHORTCUTS=yes /CONTEXTMENU=no "
+            "/AUTOLAUNCH=no /STATISTICS=yes /REMOVEALL /JSON");
+    EXPECT_EQ(WordsAfter(words), words);
 }
 
 } // namespace

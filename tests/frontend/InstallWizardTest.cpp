@@ -226,6 +226,54 @@ TEST_F(InstallWizardTest, ClosingAsksBeforeTheRunAndIsDeclinedDuringIt)
     EXPECT_EQ(wizard->Result().code, ExitCode::Done);
 }
 
+TEST_F(InstallWizardTest, TheExtractorLearnsThatTheWindowIsShown)
+{
+    Start();
+    const QString marker = "installer_extractor_tmp_marker.txt";
+    WriteFile(marker, "");
+    QTimer::singleShot(0, &wizard->Window(),
+        [&]
+        {
+            EXPECT_FALSE(QFile::exists(marker));
+            driver->WithBox([this] { driver->Click("cancel"); },
+                [](QWidget& box) {
+                    QTest::mouseClick(
+                        box.findChild<QWidget*>("confirmationButton"), Qt::LeftButton);
+                });
+        });
+    EXPECT_EQ(wizard->Run().code, ExitCode::Cancelled);
+}
+
+TEST_F(InstallWizardTest, RefusedRightsLeaveTheChoicesOnThePage)
+{
+    if (QSysInfo::kernelType() == "winnt")
+        GTEST_SKIP() << "a program cannot take its own rights away here";
+    WriteFile(machine.Path("machine/machine.ini"), "rights=refused\n");
+    Start();
+    GoToOptions();
+    const auto* icon = driver->Find<QWidget>("buttonIcon");
+    EXPECT_FALSE(icon->property("needsRights").toBool());
+    driver->Press(Qt::Key_Down);
+    EXPECT_TRUE(icon->property("needsRights").toBool()) << "the shield";
+    QString text;
+    QTimer looks; // the box comes after a request for the web user id
+    QObject::connect(&looks, &QTimer::timeout,
+        [&]
+        {
+            if (QWidget* box = QApplication::activeModalWidget())
+            {
+                text = box->findChild<QLabel*>("message")->text();
+                QTest::keyClick(box, Qt::Key_Escape);
+            }
+        });
+    looks.start(5);
+    driver->Press(Qt::Key_Return);
+    EXPECT_TRUE(text.contains("needs the rights of an administrator")) << text.toStdString();
+    EXPECT_EQ(driver->PageName(), "optionsPage");
+    EXPECT_TRUE(driver->Find<QRadioButton>("allUsers")->isChecked());
+    EXPECT_TRUE(events.empty());
+}
+
 TEST_F(InstallWizardTest, CancellingEndsWithItsExitCode)
 {
     Start();

@@ -77,6 +77,21 @@ TEST(ReadmeTest, ThePageOfTheCommandLineAndTheHelpHaveTheSameOptionsAndExitCodes
     EXPECT_TRUE(NumbersAfter("  ", help).contains("1603"));
 }
 
+TEST(ReadmeTest, ThePageForAdministratorsNamesWhatTheHelpHas)
+{
+    const QString page = TextOf("docs/deployment.md");
+    const QString help = Vorlan::FrontEnd::HelpText();
+    EXPECT_EQ(NumbersAfter("| ", page), NumbersAfter("  ", help));
+    int count = 0;
+    auto names = QRegularExpression("(?<![\\w\\\\/])/[A-Z]+(?![\\w\\\\/])").globalMatch(page);
+    for (; names.hasNext(); ++count)
+    {
+        const QRegularExpression known(names.next().captured() + "[ =\\n,)]");
+        EXPECT_TRUE(help.contains(known)) << known.pattern().toStdString();
+    }
+    EXPECT_GT(count, 20);
+}
+
 TEST(ReadmeTest, EveryLinkToAFileOfTheProjectLeadsToOne)
 {
     const QStringList pages = QDir(PROJECT_SOURCES "/docs")

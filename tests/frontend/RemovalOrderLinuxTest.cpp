@@ -16,7 +16,10 @@ struct WaitingProgram
 class RemovalOrderLinuxTest : protected WaitingProgram, public InstalledProduct
 {
 protected:
-    QStringList Scripts() const { return QDir(setup.TemporaryFolder()).entryList({"*.bat"}); }
+    QStringList Scripts() const
+    {
+        return ListTree(setup.TemporaryFolder()).filter(QRegularExpression("\\.bat$"));
+    }
 };
 
 TEST_F(RemovalOrderLinuxTest, AnInstallationBeforeTheScriptWakesKeepsItsFiles)

@@ -1,3 +1,4 @@
+#include "JsonReader.h"
 #include "JsonReport.h"
 #include "ProgressReport.h"
 
@@ -105,8 +106,36 @@ TEST(JsonReportTest, EachEventIsALineWithTheDocumentedNames)
         std::ostringstream out;
         WriteJsonEvent(out, event);
         EXPECT_EQ(out.str(), line + "\n");
+        const auto read = ReadJsonEvent(QByteArray::fromStdString(line));
+        ASSERT_TRUE(read.has_value()) << line;
+        std::ostringstream again;
+        WriteJsonEvent(again, *read);
+        EXPECT_EQ(again.str(), out.str());
     }
     EXPECT_EQ(table.size(), std::variant_size_v<RunEvent>);
+}
+
+TEST(JsonReportTest, AnOutcomeIsReadAsItWasWritten)
+{
+    std::ostringstream out;
+    WriteJsonOutcome(
+        out, {ExitCode::Failed, "no \"room\"", {{}, "unchanged", {}}, "C:\\a.log", {"my.avi"}});
+    EXPECT_EQ(out.str(),
+        R"({"error":"no \"room\"","exitCode":1603,"files":["my.avi"],"logFile":"C:\\a.log",)"
+        R"("state":"unchanged"})"
+        "\n");
+    const auto read = ReadJsonOutcome(QByteArray::fromStdString(out.str()));
+    ASSERT_TRUE(read.has_value());
+    EXPECT_EQ(read->code, ExitCode::Failed);
+    EXPECT_EQ(read->error, "no \"room\"");
+    EXPECT_EQ(read->explanation.state, "unchanged");
+    EXPECT_EQ(read->logFile, "C:\\a.log");
+    EXPECT_EQ(read->files, QStringList("my.avi"));
+    for (const char* line : {"", "{}", "no JSON", R"({"signal":"Other"})"})
+    {
+        EXPECT_FALSE(ReadJsonEvent(line).has_value()) << line;
+        EXPECT_FALSE(ReadJsonOutcome(line).has_value()) << line;
+    }
 }
 
 } // namespace

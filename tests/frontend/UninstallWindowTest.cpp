@@ -22,6 +22,15 @@ protected:
             folder, "uninstall-by-buttons.exe", words + QStringList{"-platform", "offscreen"});
         return result.output.split('\n', Qt::SkipEmptyParts);
     }
+
+    // The folder that is registered for all users; empty if there is none.
+    static QString ForAllUsers()
+    {
+        return RegistryTree("HKEY_LOCAL_MACHINE", "Software\\Vorlan\\Quillax24")
+            .filter(": Path = ")
+            .value(0)
+            .section("REG_SZ ", 1);
+    }
 };
 
 TEST_F(UninstallWindowTest, TheButtonsLeadToTheLastPage)
@@ -105,6 +114,34 @@ TEST_F(UninstallWindowTest, WhatIsNotOfTheProgramIsShownBeforeAndAfter)
     EXPECT_EQ(PressButtons(product, {"everything"}).value(0),
         "uninstallStartPage my/ uninstall-by-buttons.exe");
     EXPECT_FALSE(QDir(product).exists()) << "a window removes as much as a silent run";
+}
+
+// Every page of the process that the user has started, while another one has the rights.
+TEST_F(UninstallWindowTest, ForAllUsersTheWindowsShowWhatTheElevatedProcessDoes)
+{
+    if (QSysInfo::kernelType() == "winnt")
+        GTEST_SKIP() << "a program cannot take its own rights away here";
+    const QString machineFile = setup.MachineFolder() + "/machine.ini";
+    const QString start = "uninstallStartPage uninstall-by-buttons.exe";
+    setup.AddArchiveContent(Product(FRONTEND_FOLDER, "new"));
+    WriteFile(machineFile, "rights=request\n");
+    for (const char* wish : {"install", "passive"})
+    {
+        EXPECT_EQ(PressButtons(setup.SetupFolder(), {wish}).join('|').remove("startPage|"),
+            QString(wish) == "install" ? "progressPage|resultPage|0" : "progressPage|0");
+        const QString folder = ForAllUsers();
+        ASSERT_TRUE(QFile::exists(folder + "/quill.exe")) << wish;
+        WriteFile(machineFile, "rights=refused\n");
+        const QStringList refused = PressButtons(folder);
+        EXPECT_EQ(refused.filter("start the uninstaller as one").size(), 1);
+        EXPECT_EQ(refused.last(), "1602");
+        EXPECT_TRUE(QFile::exists(folder + "/quill.exe"));
+        WriteFile(machineFile, "rights=request\n");
+        EXPECT_EQ(PressButtons(folder),
+            QStringList({start, "progressPage", "resultPage uninstall-by-buttons.exe", "0"}));
+        EXPECT_FALSE(QFile::exists(folder + "/quill.exe"));
+        EXPECT_EQ(ForAllUsers(), QString());
+    }
 }
 
 } // namespace

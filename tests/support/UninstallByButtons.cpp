@@ -1,8 +1,9 @@
 // Uninstalls the product in its own folder with the front end's windows, as a person who presses
 // the main button of each page; Cancel, where the first argument is "no" or the page has no such
-// button. Programs that are in the way are ended. With "everything" the whole folder is removed.
-// Prints a line for each page, with the files that it lists, and for each box, and at last the exit
-// code.
+// button. Programs that are in the way are ended. With "everything" the whole folder is removed;
+// with "install" or "passive" the payload in its folder is installed for all users instead. Prints a
+// line for each page, with the files that it lists, and for each box, and at last the exit code.
+#include "PassiveRun.h"
 #include "WindowedRun.h"
 #include "wizard/Page.h"
 #include "wizard/WizardWindow.h"
@@ -11,6 +12,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QListWidget>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
@@ -101,20 +103,42 @@ private:
     QString lastPage;
 };
 
+// A process that this one has started with administrator rights is the program itself.
+int RunProgramItself(const QStringList& arguments)
+{
+    const QDir folder = QApplication::applicationDirPath();
+    const bool isUninstallation = arguments.contains("/UNINSTALL");
+    return QProcess::execute(
+        folder.filePath(isUninstallation ? "uninst.exe" : "installergui.exe"), arguments);
+}
+
+Outcome Run(const std::string& wish)
+{
+    const EventSink nobody = [](const RunEvent&) {};
+    CommandLine options;
+    options.removeAll = wish == "everything";
+    options.allUsers = wish == "install" || wish == "passive";
+    options.passive = wish == "passive";
+    if (options.passive)
+        return InstallPassively(options, nobody);
+    return options.allUsers ? InstallWithWindow(options, nobody)
+                            : UninstallWithWindow(options, nobody);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     QDir::setCurrent(QApplication::applicationDirPath());
-    const std::string wish = argc > 1 ? argv[1] : "";
-    CommandLine options;
-    options.removeAll = wish == "everything";
+    const QStringList arguments = QApplication::arguments().mid(1);
+    if (!arguments.filter("/ELEVATED=").isEmpty())
+        return RunProgramItself(arguments);
+    const std::string wish = arguments.value(0).toStdString();
     Person person(wish != "no");
     QTimer looks;
     QObject::connect(&looks, &QTimer::timeout, [&person] { person.Look(); });
     looks.start(5);
-    const Outcome outcome = UninstallWithWindow(options, [](const RunEvent&) {});
-    Print(QString::number(static_cast<int>(outcome.code)));
+    Print(QString::number(static_cast<int>(Run(wish).code)));
     return 0;
 }

@@ -1,6 +1,7 @@
 #include "process/ProcessStart.h"
 
 #include "ErrorMapping.h"
+#include "Machine.h"
 #include "WideText.h"
 
 #include <QString>
@@ -108,6 +109,21 @@ std::vector<char*> Pointers(const std::vector<std::string>& texts)
     return pointers;
 }
 
+// This process's environment, with the mark of an elevated process.
+std::vector<std::string> Environment(bool elevated)
+{
+    const std::string mark = std::string(elevatedVariable) + '=';
+    std::vector<std::string> variables;
+    for (char** variable = environ; *variable != nullptr; ++variable)
+    {
+        if (!elevated || mark.compare(0, mark.npos, *variable, mark.size()) != 0)
+            variables.emplace_back(*variable);
+    }
+    if (elevated)
+        variables.push_back(mark + '1');
+    return variables;
+}
+
 } // namespace
 
 ProcessStart PlanStart(
@@ -135,8 +151,9 @@ DWORD StartProcess(const ProcessStart& start, std::shared_ptr<Process>& process)
         return ERROR_DIRECTORY;
     const SpawnSettings settings(start);
     pid_t id = 0;
-    const int result = posix_spawn(&id, start.program.c_str(), settings.Actions(),
-        settings.Attributes(), Pointers(start.arguments).data(), environ);
+    const int result =
+        posix_spawn(&id, start.program.c_str(), settings.Actions(), settings.Attributes(),
+            Pointers(start.arguments).data(), Pointers(Environment(start.elevated)).data());
     return result == 0 ? AdoptChild(id, process) : ErrorForPath(result, start.program);
 }
 

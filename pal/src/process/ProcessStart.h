@@ -18,6 +18,7 @@ struct ProcessStart
     std::string folder;                        // initial folder; empty: the current one
     std::array<int, 3> streams = {-1, -1, -1}; // standard input, output, error; -1: nothing
     bool ownSession = false;
+    bool elevated = false; // with administrator rights
 };
 
 // Plans the start of a program file. /bin/sh runs a ".bat"; cmd.exe parses the text after its name

@@ -18,10 +18,15 @@ namespace Pal
 namespace
 {
 
+bool IsRunAs(LPCWSTR verb)
+{
+    return verb && std::wstring_view(verb) == L"runas";
+}
+
 bool IsKnownVerb(LPCWSTR verb)
 {
     const std::wstring_view text = verb ? verb : L"";
-    return text.empty() || text == L"open" || text == L"runas";
+    return text.empty() || text == L"open" || IsRunAs(verb);
 }
 
 DWORD CheckExecution(const SHELLEXECUTEINFOW* info)
@@ -73,6 +78,7 @@ DWORD Plan(const SHELLEXECUTEINFOW& info, ProcessStart& start)
     start = PlanStart(program, std::move(words), parameters);
     start.folder = folder;
     start.ownSession = true;
+    start.elevated = IsRunAs(info.lpVerb);
     return ERROR_SUCCESS;
 }
 
@@ -81,6 +87,8 @@ DWORD Execute(SHELLEXECUTEINFOW& info)
     ProcessStart start;
     std::shared_ptr<Process> process;
     DWORD error = EnterMachine();
+    if (error == ERROR_SUCCESS && IsRunAs(info.lpVerb) && MachineRights() == Rights::Refused)
+        error = ERROR_CANCELLED;
     if (error == ERROR_SUCCESS)
         error = Plan(info, start);
     if (error == ERROR_SUCCESS)
@@ -102,9 +110,9 @@ DWORD Execute(SHELLEXECUTEINFOW& info)
 //          Fields that need another mask bit are ignored. SEE_MASK_FLAG_NO_UI changes nothing,
 //          because no box is ever shown.
 // Differs: the arguments are split from lpParameters by the rules of the C run-time library. A file
-//          without an extension is a program. "runas" asks nobody and changes no rights; tests
-//          inject ERROR_CANCELLED for a refusal. The program has no standard streams and its own
-//          session, whether hidden or shown. hInstApp is not set.
+//          without an extension is a program. "runas" asks nobody: "rights" in machine.ini has the
+//          answer, ERROR_CANCELLED if it is "refused". The program has no standard streams and its
+//          own session, whether hidden or shown. hInstApp is not set.
 // Refuses: other verbs, flags and ways to show.
 BOOL ShellExecuteExW(SHELLEXECUTEINFOW* info)
 {

@@ -1,5 +1,7 @@
 #include "registry/OpenKeys.h"
 
+#include "Machine.h"
+
 #include <QString>
 
 #include <array>
@@ -59,7 +61,9 @@ std::shared_ptr<OpenKey> FindOpenKey(HKEY key)
     const RegistryRoot root = RootOf(key);
     if (const auto& replacement = Overrides()[static_cast<size_t>(root)])
         return replacement;
-    return std::make_shared<OpenKey>(KeyLocation{CurrentStore(), root, {}}, KEY_ALL_ACCESS);
+    const bool isWritable = root == RegistryRoot::CurrentUser || IsAdministrator();
+    return std::make_shared<OpenKey>(
+        KeyLocation{CurrentStore(), root, {}}, isWritable ? KEY_ALL_ACCESS : KEY_READ);
 }
 
 void OverridePredefined(HKEY predefined, std::shared_ptr<OpenKey> replacement)

@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include "Faults.h"
+#include "Machine.h"
 #include "WideText.h"
 #include "registry/RegistrySession.h"
 
@@ -12,6 +13,7 @@ namespace
 {
 
 constexpr size_t longestKeyName = 255;
+constexpr REGSAM changes = KEY_WRITE & ~KEY_READ; // setting values, creating sub-keys
 constexpr REGSAM viewFlags = KEY_WOW64_32KEY | KEY_WOW64_64KEY;
 
 LSTATUS CheckAccess(REGSAM desiredAccess)
@@ -67,6 +69,13 @@ LSTATUS ResolvePath(const RegistrySession& session, LPCWSTR subKey, REGSAM view,
     return error;
 }
 
+// Only an administrator may change HKEY_LOCAL_MACHINE.
+bool IsDenied(const RegistrySession& session, REGSAM desiredAccess)
+{
+    return (desiredAccess & changes) != 0 &&
+           session.Location().root == RegistryRoot::LocalMachine && !IsAdministrator();
+}
+
 HKEY MakeHandle(const RegistrySession& session, const KeyPath& path, REGSAM access)
 {
     const KeyLocation& parent = session.Location();
@@ -87,6 +96,8 @@ LSTATUS OpenExisting(HKEY key, LPCWSTR subKey, REGSAM desiredAccess, PHKEY resul
         return error;
     if (!FindKey(session.Root(), path))
         return ERROR_FILE_NOT_FOUND;
+    if (IsDenied(session, desiredAccess))
+        return ERROR_ACCESS_DENIED;
     *result = MakeHandle(session, path, desiredAccess & ~viewFlags);
     return ERROR_SUCCESS;
 }
@@ -102,6 +113,8 @@ LSTATUS OpenOrMake(
     if (error != ERROR_SUCCESS)
         return error;
     const bool exists = FindKey(session.Root(), path) != nullptr;
+    if (IsDenied(session, exists ? desiredAccess : changes))
+        return ERROR_ACCESS_DENIED;
     if (!exists)
         error = session.MakeKeyAt(path);
     if (error != ERROR_SUCCESS)
@@ -126,6 +139,8 @@ LSTATUS DeleteKey(HKEY key, LPCWSTR subKey)
     const std::shared_ptr<KeyNode> found = FindKey(session.Root(), path);
     if (!found)
         return ERROR_FILE_NOT_FOUND;
+    if (IsDenied(session, changes))
+        return ERROR_ACCESS_DENIED;
     if (path.empty() || !found->SubKeys().empty())
         return ERROR_ACCESS_DENIED;
     return session.RemoveKeyAt(path);
@@ -139,8 +154,9 @@ LSTATUS DeleteKey(HKEY key, LPCWSTR subKey)
 //          more than 255 characters is ERROR_INVALID_PARAMETER and a leading backslash
 //          ERROR_BAD_PATHNAME. The handle's own rights do not limit what is created below it. In
 //          the 32-bit view HKEY_LOCAL_MACHINE\Software is HKEY_LOCAL_MACHINE\Software\WOW6432Node.
-// Differs: every right that is asked for is granted. All of HKEY_LOCAL_MACHINE\Software has two
-//          views. The number of levels is not limited.
+// Differs: every right that is asked for is granted, but for changes of HKEY_LOCAL_MACHINE without
+//          administrator rights ("rights" in machine.ini): ERROR_ACCESS_DENIED. All of
+//          HKEY_LOCAL_MACHINE\Software has two views. The number of levels is not limited.
 // Refuses: a class, every option but REG_OPTION_NON_VOLATILE, security attributes, rights that
 //          winreg.h does not name, and names with CR or LF, which the file format cannot hold.
 LSTATUS RegCreateKeyExW(HKEY key, LPCWSTR subKey, DWORD reserved, LPWSTR className, DWORD options,

@@ -83,6 +83,10 @@
         <translation>Für die Installation für alle Benutzer sind Administratorrechte nötig: Starten Sie das Programm als Administrator.</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>Der Teil mit Administratorrechten wurde ohne Ergebnis beendet. Starten Sie das Programm als Administrator.</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>Das Installationsprogramm ist beschädigt. Laden Sie es erneut herunter.</translation>
     </message>
@@ -536,6 +540,10 @@
     <message>
         <source>A part of the program may already be removed.</source>
         <translation>Ein Teil des Programms ist möglicherweise schon entfernt.</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>Das Programm ist für alle Benutzer installiert. Für die Deinstallation sind Administratorrechte nötig: Starten Sie das Deinstallationsprogramm als Administrator.</translation>
     </message>
     <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>

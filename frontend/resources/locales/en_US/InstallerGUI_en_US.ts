@@ -83,6 +83,10 @@
         <translation>The installation for all users needs the rights of an administrator: start the program as one.</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>The part with administrator rights has ended without a result. Start the program as an administrator.</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>The setup is damaged. Download it again.</translation>
     </message>
@@ -536,6 +540,10 @@
     <message>
         <source>A part of the program may already be removed.</source>
         <translation>A part of the program may already be removed.</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</translation>
     </message>
     <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>

@@ -83,6 +83,10 @@
         <translation>La instalación para todos los usuarios requiere permisos de administrador: inicie el programa como administrador.</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>La parte con permisos de administrador terminó sin resultado. Inicie el programa como administrador.</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>El instalador está dañado. Descárguelo de nuevo.</translation>
     </message>
@@ -536,6 +540,10 @@
     <message>
         <source>A part of the program may already be removed.</source>
         <translation>Puede que ya se haya quitado una parte del programa.</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>El programa está instalado para todos los usuarios. Para desinstalarlo se requieren permisos de administrador: inicie el desinstalador como administrador.</translation>
     </message>
     <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>

@@ -83,6 +83,10 @@
         <translation>L&apos;installation pour tous les utilisateurs nécessite des droits d&apos;administrateur : lancez le programme en tant qu&apos;administrateur.</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>La partie disposant des droits d&apos;administrateur s&apos;est terminée sans résultat. Lancez le programme en tant qu&apos;administrateur.</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>Le programme d&apos;installation est endommagé. Téléchargez-le à nouveau.</translation>
     </message>
@@ -536,6 +540,10 @@
     <message>
         <source>A part of the program may already be removed.</source>
         <translation>Une partie du programme est peut-être déjà supprimée.</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>Le programme est installé pour tous les utilisateurs. Sa désinstallation nécessite des droits d&apos;administrateur : lancez le programme de désinstallation en tant qu&apos;administrateur.</translation>
     </message>
     <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>

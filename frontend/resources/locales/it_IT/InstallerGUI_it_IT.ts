@@ -83,6 +83,10 @@
         <translation>L&apos;installazione per tutti gli utenti richiede i diritti di amministratore: avviare il programma come amministratore.</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>La parte con i diritti di amministratore è terminata senza risultato. Avviare il programma come amministratore.</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>Il programma di installazione è danneggiato. Scaricarlo di nuovo.</translation>
     </message>
@@ -536,6 +540,10 @@
     <message>
         <source>A part of the program may already be removed.</source>
         <translation>Una parte del programma potrebbe essere già stata rimossa.</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>Il programma è installato per tutti gli utenti. Per disinstallarlo servono i diritti di amministratore: avviare il programma di disinstallazione come amministratore.</translation>
     </message>
     <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>

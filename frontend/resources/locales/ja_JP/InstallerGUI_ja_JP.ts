@@ -83,6 +83,10 @@
         <translation>すべてのユーザー向けのインストールには管理者の権限が必要です。管理者としてプログラムを起動してください。</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>管理者の権限で実行される部分が結果を返さずに終了しました。管理者としてプログラムを起動してください。</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>セットアップが壊れています。もう一度ダウンロードしてください。</translation>
     </message>
@@ -536,6 +540,10 @@
     <message>
         <source>A part of the program may already be removed.</source>
         <translation>プログラムの一部は、すでに削除されている可能性があります。</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>プログラムはすべてのユーザー向けにインストールされています。アンインストールには管理者の権限が必要です。管理者としてアンインストーラーを起動してください。</translation>
     </message>
     <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>

@@ -83,6 +83,10 @@
         <translation>모든 사용자를 위해 설치하려면 관리자 권한이 필요합니다. 관리자 권한으로 프로그램을 시작하세요.</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>관리자 권한으로 실행되는 부분이 결과 없이 종료되었습니다. 관리자 권한으로 프로그램을 시작하세요.</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>설치 프로그램이 손상되었습니다. 다시 다운로드하세요.</translation>
     </message>
@@ -536,6 +540,10 @@
     <message>
         <source>A part of the program may already be removed.</source>
         <translation>프로그램의 일부가 이미 제거되었을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>프로그램이 모든 사용자를 위해 설치되어 있습니다. 제거하려면 관리자 권한이 필요합니다. 관리자 권한으로 제거 프로그램을 시작하세요.</translation>
     </message>
     <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>

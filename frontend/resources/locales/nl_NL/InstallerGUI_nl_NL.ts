@@ -83,6 +83,10 @@
         <translation>Voor installatie voor alle gebruikers zijn beheerdersrechten nodig: start het programma als beheerder.</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>Het deel met beheerdersrechten is zonder resultaat beëindigd. Start het programma als beheerder.</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>Het installatieprogramma is beschadigd. Download het opnieuw.</translation>
     </message>
@@ -536,6 +540,10 @@
     <message>
         <source>A part of the program may already be removed.</source>
         <translation>Een deel van het programma is mogelijk al verwijderd.</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>Het programma is voor alle gebruikers geïnstalleerd. Voor het verwijderen zijn beheerdersrechten nodig: start het verwijderprogramma als beheerder.</translation>
     </message>
     <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>

@@ -83,6 +83,10 @@
         <translation>Instalacja dla wszystkich użytkowników wymaga uprawnień administratora: uruchom program jako administrator.</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>Część działająca z uprawnieniami administratora zakończyła się bez wyniku. Uruchom program jako administrator.</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>Instalator jest uszkodzony. Pobierz go ponownie.</translation>
     </message>
@@ -536,6 +540,10 @@
     <message>
         <source>A part of the program may already be removed.</source>
         <translation>Część programu mogła już zostać usunięta.</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>Program jest zainstalowany dla wszystkich użytkowników. Odinstalowanie wymaga uprawnień administratora: uruchom program odinstalowujący jako administrator.</translation>
     </message>
     <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>

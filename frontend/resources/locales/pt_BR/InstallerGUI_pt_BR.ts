@@ -83,6 +83,10 @@
         <translation>A instalação para todos os usuários exige direitos de administrador: inicie o programa como administrador.</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>A parte com direitos de administrador terminou sem resultado. Inicie o programa como administrador.</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>O instalador está danificado. Baixe-o novamente.</translation>
     </message>
@@ -536,6 +540,10 @@
     <message>
         <source>A part of the program may already be removed.</source>
         <translation>Uma parte do programa talvez já tenha sido removida.</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>O programa está instalado para todos os usuários. A desinstalação exige direitos de administrador: inicie o desinstalador como administrador.</translation>
     </message>
     <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>

@@ -83,6 +83,10 @@
         <translation>Для установки для всех пользователей нужны права администратора: запустите программу от имени администратора.</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>Часть, работающая с правами администратора, завершилась без результата. Запустите программу от имени администратора.</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>Программа установки повреждена. Загрузите её ещё раз.</translation>
     </message>
@@ -536,6 +540,10 @@
     <message>
         <source>A part of the program may already be removed.</source>
         <translation>Часть программы, возможно, уже удалена.</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>Программа установлена для всех пользователей. Для её удаления нужны права администратора: запустите программу удаления от имени администратора.</translation>
     </message>
     <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>

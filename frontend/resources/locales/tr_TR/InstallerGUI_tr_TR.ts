@@ -83,6 +83,10 @@
         <translation>Tüm kullanıcılar için yükleme yönetici hakları gerektirir: programı yönetici olarak başlatın.</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>Yönetici haklarıyla çalışan bölüm sonuç vermeden sona erdi. Programı yönetici olarak başlatın.</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>Kurulum programı bozuk. Yeniden indirin.</translation>
     </message>
@@ -536,6 +540,10 @@
     <message>
         <source>A part of the program may already be removed.</source>
         <translation>Programın bir bölümü kaldırılmış olabilir.</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>Program tüm kullanıcılar için yüklü. Kaldırmak için yönetici hakları gerekir: kaldırma programını yönetici olarak başlatın.</translation>
     </message>
     <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>

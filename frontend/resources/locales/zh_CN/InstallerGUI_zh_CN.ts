@@ -83,6 +83,10 @@
         <translation>为所有用户安装需要管理员权限：请以管理员身份启动程序。</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>以管理员权限运行的部分已结束，但没有返回结果。请以管理员身份启动程序。</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>安装程序已损坏。请重新下载。</translation>
     </message>
@@ -536,6 +540,10 @@
     <message>
         <source>A part of the program may already be removed.</source>
         <translation>程序的一部分可能已被删除。</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>程序是为所有用户安装的。卸载需要管理员权限：请以管理员身份启动卸载程序。</translation>
     </message>
     <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>

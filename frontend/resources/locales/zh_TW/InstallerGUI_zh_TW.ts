@@ -83,6 +83,10 @@
         <translation>為所有使用者安裝需要系統管理員權限：請以系統管理員身分啟動程式。</translation>
     </message>
     <message>
+        <source>The part with administrator rights has ended without a result. Start the program as an administrator.</source>
+        <translation>以系統管理員權限執行的部分已結束，但沒有傳回結果。請以系統管理員身分啟動程式。</translation>
+    </message>
+    <message>
         <source>The setup is damaged. Download it again.</source>
         <translation>安裝程式已損毀。請重新下載。</translation>
     </message>
@@ -536,6 +540,10 @@
     <message>
         <source>A part of the program may already be removed.</source>
         <translation>程式的一部分可能已被移除。</translation>
+    </message>
+    <message>
+        <source>The program is installed for all users. Uninstalling it needs the rights of an administrator: start the uninstaller as one.</source>
+        <translation>程式是為所有使用者安裝的。解除安裝需要系統管理員權限：請以系統管理員身分啟動解除安裝程式。</translation>
     </message>
     <message>
         <source>%1 is not part of the program and cannot be moved out of the way: nothing was deleted. Close the program that uses it and try again.</source>
