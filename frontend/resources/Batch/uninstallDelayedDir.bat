@@ -1,6 +1,6 @@
 @echo off
 rem Deletes what an uninstallation has moved out of the product's folder because it was in use, and
-rem then itself.
+rem then itself, and its own folder where that was made for one process and is empty.
 rem Arguments: the delay in seconds; the product's folder; whether it is the only entry of its parent
 rem (not used).
 rem VORLAN_REMOVAL is the identity of the uninstallation: <folder>.<identity> is deleted, which nothing
@@ -39,6 +39,12 @@ set "reason=in use"
 
 :refuse
 echo not removed: "%folder%" is %reason% 1>&2
-del "%~f0" & exit 1
+set "code=1"
+goto leave
 :end
-del "%~f0" & exit 0
+set "code=0"
+:leave
+cd /d "%SystemRoot%"
+for %%d in ("%~dp0.") do set "own=%%~nxd"
+if not "%own:Setup-=%"=="%own%" (del "%~f0" & rd "%~dp0." 2>nul & exit %code%)
+del "%~f0" & exit %code%

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Deletes what an uninstallation has moved out of the product's folder because it was in use, and then
-# itself.
+# itself, and its own folder where that was made for one process and is empty.
 # Arguments: the delay in seconds; the product's folder; whether it is the only entry of its parent
 # (not used).
 # VORLAN_REMOVAL is the identity of the uninstallation: <folder>.<identity> is deleted, which nothing
@@ -13,6 +13,9 @@ mostTries=60
 end()
 {
     rm -f -- "$0"
+    case ${0%/*} in
+        *Setup-*) rmdir -- "${0%/*}" 2>/dev/null ;;
+    esac
     exit "$1"
 }
 
