@@ -6,7 +6,7 @@ rem (not used).
 rem VORLAN_REMOVAL is the identity of the uninstallation: <folder>.<identity> is deleted, which nothing
 rem else uses. The product's folder itself is never touched: the next version may be in it by now.
 setlocal EnableExtensions DisableDelayedExpansion
-set "mostTries=60"
+set "mostTries=3600"
 set "folder=%~2"
 set "identity=%VORLAN_REMOVAL%"
 set "reason=no absolute path"

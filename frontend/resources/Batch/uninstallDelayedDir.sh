@@ -8,7 +8,7 @@
 delay=$1
 folder=${2%/}
 identity=$VORLAN_REMOVAL
-mostTries=60
+mostTries=3600
 
 end()
 {
