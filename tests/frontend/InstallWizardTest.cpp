@@ -126,7 +126,7 @@ TEST_F(InstallWizardTest, TheFirstPageSaysWhatWillHappenToWhatIsInstalled)
         EXPECT_EQ(driver->Find<QLabel>("heading")->text(), row.heading);
         EXPECT_EQ(driver->Find<QLabel>("buttonLabel")->text(), row.button);
         EXPECT_TRUE(driver->Find<QLabel>("target")->text().contains(
-            "For all users, in " + QString(QChar(0x2066)) + QDir::toNativeSeparators(folder)));
+            "For all users, in " + QDir::toNativeSeparators(folder)));
     }
     const QString question =
         driver->WithBox([this] { driver->Press(Qt::Key_Return); }); // closed as No
