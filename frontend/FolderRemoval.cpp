@@ -48,8 +48,8 @@ QStringList FolderRemoval::RemoveFolder()
         PlacedFiles(PlacedFiles::State::Complete, left).Write(folder);
     QDir().rmdir(folder);
     const FolderContent content = SortContent(folder, placed);
-    const QStringList staying = content.own + content.foreign;
-    for (const QString& path : staying)
+    QStringList staying = content.own + content.foreign;
+    for (const QString& path : qAsConst(staying))
         qInfo().noquote() << "Stays in" << QDir::toNativeSeparators(folder) + ':' << path;
     return staying;
 }

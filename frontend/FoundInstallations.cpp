@@ -8,7 +8,6 @@
 
 #include <QDebug>
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QVersionNumber>
 
@@ -39,8 +38,12 @@ bool HasShortcuts(QSettings::Scope scope)
     const QString desktop =
         GetStandardLocation(isOfAll ? StandardLocation::CommonDesktop : StandardLocation::Desktop);
     const QString name = ProductProfile::productFullName;
+    // Qt would look for the target of the shortcut, which may be missing until the repair.
     const auto isIn = [&name](const QString& folder)
-    { return !folder.isEmpty() && QFile::exists(QDir(folder).filePath(name + ".lnk")); };
+    {
+        return !folder.isEmpty() &&
+               !QDir(folder).entryList({name + ".lnk"}, QDir::Files | QDir::System).isEmpty();
+    };
     return isIn(desktop) || isIn(menu.isEmpty() ? menu : QDir(menu).filePath(name));
 }
 

@@ -6,6 +6,7 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QFileInfo>
 #include <QMutex>
 #include <QRegularExpression>
 
@@ -27,9 +28,22 @@ QString MissingDrive(const QString& path)
     return drive.isEmpty() || QDir(drive + '/').exists() ? QString() : drive.toUpper();
 }
 
+// Whether nothing but missing rights can object: the new part of the path is usable elsewhere.
+bool IsOnlyProtected(const QString& folder)
+{
+    const QString path = QDir::cleanPath(QDir::fromNativeSeparators(folder));
+    QFileInfo existing(path);
+    while (!existing.exists() && !existing.isRoot())
+        existing.setFile(existing.path());
+    const QString newPart = path.mid(existing.filePath().size());
+    QString error;
+    return QDir::isAbsolutePath(path) && existing.isDir() &&
+           InstallationSettings::IsValidPath(QDir::tempPath() + '/' + newPart, 0, error);
+}
+
 } // namespace
 
-FolderState ExamineFolder(const QString& folder, quint64 neededBytes)
+FolderState ExamineFolder(const QString& folder, quint64 neededBytes, Rights rights)
 {
     FolderState state;
     const QString drive = MissingDrive(folder);
@@ -39,11 +53,15 @@ FolderState ExamineFolder(const QString& folder, quint64 neededBytes)
         return state;
     }
     if (!InstallationSettings::IsValidPath(folder, 0, state.objection))
-        return state;
+    {
+        if (rights == Rights::OfThisProcess || !IsOnlyProtected(folder))
+            return state;
+        state.objection.clear();
+    }
     const auto needed = static_cast<qint64>(neededBytes);
     state.freeBytes = FreeSpace(folder);
     if (state.freeBytes && *state.freeBytes < needed)
-        InstallationSettings::IsValidPath(folder, needed, state.objection);
+        state.objection = QObject::tr("There is not enough disk space");
     return state;
 }
 

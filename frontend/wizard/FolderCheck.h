@@ -16,9 +16,18 @@ struct FolderState
     std::optional<qint64> freeBytes; // none if the system does not say
 };
 
+// With whose rights the folder will be written.
+enum class Rights
+{
+    OfThisProcess,
+    OfAdministrator
+};
+
 // Looks at the disk: whether the product, which needs so many bytes, can be installed into the
-// folder. Takes as long as the disk does; on any thread.
-FolderState ExamineFolder(const QString& folder, quint64 neededBytes);
+// folder. That this process may not write there is no objection if an administrator's will. Takes
+// as long as the disk does; on any thread.
+FolderState ExamineFolder(
+    const QString& folder, quint64 neededBytes, Rights rights = Rights::OfThisProcess);
 
 // Examines the folder that a user types, without ever waiting for the disk: a network drive may
 // take half a minute. All members on the thread of construction; the examinations run on others, at

@@ -24,9 +24,11 @@ QString WithoutEnd(const QString& folder)
     return QDir::toNativeSeparators(QDir::cleanPath(folder));
 }
 
-FolderCheck::Examine ExamineFor(quint64 neededBytes)
+FolderCheck::Examine ExamineFor(
+    quint64 neededBytes, const std::shared_ptr<std::atomic<Rights>>& rights)
 {
-    return [neededBytes](const QString& folder) { return ExamineFolder(folder, neededBytes); };
+    return [neededBytes, rights](const QString& folder)
+    { return ExamineFolder(folder, neededBytes, *rights); };
 }
 
 } // namespace
@@ -35,7 +37,8 @@ FolderChooser::FolderChooser(
     const InstallationSettings& proposal, QWidget* parent, FolderCheck::Examine examine)
     : QWidget(parent),
       settings(proposal),
-      check(examine ? std::move(examine) : ExamineFor(proposal.requiredSpace)),
+      rights(std::make_shared<std::atomic<Rights>>(Rights::OfThisProcess)),
+      check(examine ? std::move(examine) : ExamineFor(proposal.requiredSpace, rights)),
       folderLabel(new QLabel(this)),
       folder(new QLineEdit(WithoutEnd(proposal.installDir), this)),
       browse(new QPushButton(this)),
@@ -106,6 +109,12 @@ void FolderChooser::Browse()
         QFileDialog::getExistingDirectory(this, WizardText("Choose a folder"), folder->text());
     if (!chosen.isEmpty())
         folder->setText(WithoutEnd(settings.GetFilteredDirectory(chosen)));
+}
+
+void FolderChooser::SetRights(Rights given)
+{
+    *rights = given;
+    Examine();
 }
 
 void FolderChooser::Examine()

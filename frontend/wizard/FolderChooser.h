@@ -6,7 +6,9 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <atomic>
 #include <functional>
+#include <memory>
 
 class QLabel;
 class QLineEdit;
@@ -31,6 +33,8 @@ public:
 
     // Proposes another folder, unless the user has changed the one before.
     void Propose(const QString& folder);
+    // With whose rights the folder will be written; examines it again.
+    void SetRights(Rights rights);
     // Examines the folder again, because the disk may have changed.
     void Examine();
     // Calls the function with whether the folder is usable, as soon as that is known.
@@ -50,6 +54,7 @@ private:
 
     InstallationSettings settings;
     QString locale;
+    std::shared_ptr<std::atomic<Rights>> rights; // also for examinations that outlast the object
     FolderCheck check;
     QTimer patience; // until it is said that the folder is still examined
     QLabel* folderLabel;

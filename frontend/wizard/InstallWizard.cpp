@@ -74,6 +74,14 @@ void InstallWizard::MakePages()
     start->languageChosen = [this](const QString& locale) { SetLanguage(locale); };
     start->linkFollowed = [this](const QString& target) { FollowLink(target); };
     optionsPage->scopeChosen = [this](QSettings::Scope chosen) { ProposeFor(chosen); };
+    AnnounceRights();
+}
+
+// An elevated process will write to a folder that this one may not write to.
+void InstallWizard::AnnounceRights()
+{
+    optionsPage->Folder().SetRights(
+        NeedsRights() ? Rights::OfAdministrator : Rights::OfThisProcess);
 }
 
 Page* InstallWizard::PageOf(Step which) const
@@ -209,6 +217,7 @@ void InstallWizard::ProposeFor(QSettings::Scope chosen)
     InstallationSettings settings = mediator->GetSettings();
     settings.scope = chosen;
     optionsPage->Propose(ApplyOptions(ProposeSettings(settings, found), options));
+    AnnounceRights();
     window.SetLabels(Labels());
 }
 

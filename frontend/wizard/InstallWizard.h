@@ -52,6 +52,7 @@ private:
     Page* PageOf(Step step) const;
     QString InstallLabel() const;
     void FollowLink(const QString& target);
+    void AnnounceRights();
     void ProposeFor(QSettings::Scope chosen);
 
     void Install();

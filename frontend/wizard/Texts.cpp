@@ -6,6 +6,8 @@
 #include <QLocale>
 #include <QMap>
 
+#include <algorithm>
+
 namespace Vorlan::FrontEnd
 {
 
@@ -50,8 +52,17 @@ QString SizeText(qint64 bytes, const QString& locale)
     return QLocale(locale).formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
 }
 
+// Without a letter from right to left they are left out: fonts that lack them show boxes.
 QString PathText(const QString& path)
 {
+    const bool isMixed = std::any_of(path.begin(), path.end(),
+        [](QChar letter)
+        {
+            const QChar::Direction direction = letter.direction();
+            return direction == QChar::DirR || direction == QChar::DirAL;
+        });
+    if (!isMixed)
+        return path;
     constexpr QChar beginIsolate(0x2066);
     constexpr QChar endIsolate(0x2069);
     return beginIsolate + path + endIsolate;

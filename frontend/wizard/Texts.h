@@ -20,7 +20,7 @@ QString LanguageName(const QString& locale);
 // A number of bytes with a unit, formatted for the given language.
 QString SizeText(qint64 bytes, const QString& locale);
 
-// The path in directional isolates, so that its direction does not depend on the text around it.
+// The path, in directional isolates where its direction could depend on the text around it.
 QString PathText(const QString& path);
 
 } // namespace Vorlan::FrontEnd

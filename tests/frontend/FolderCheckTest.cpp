@@ -128,6 +128,10 @@ TEST(ExamineFolderTest, AMissingDriveAndUnknownSpaceAreSaidAsTheyAre)
     EXPECT_EQ(ExamineFolder(machine.Path("new"), quint64{1} << 60).objection,
         "There is not enough disk space");
     EXPECT_FALSE(ExamineFolder("relative", 1).freeBytes);
+    WriteFile(machine.Path("a file"), "in the way"); // rights do not help there
+    for (const QString& folder : {QString("relative"), machine.Path("a file/folder")})
+        EXPECT_EQ(ExamineFolder(folder, 1, Rights::OfAdministrator).objection,
+            "Can't access the specified destination folder");
 }
 
 } // namespace

@@ -19,12 +19,14 @@ namespace
 class UninstallTest : public InstalledProduct
 {
 protected:
-    // Temporary folders of runs with administrator rights. On Linux Qt leaves a folder in them.
-    static QStringList ProtectedFolders()
+    // What runs with administrator rights have left in their temporary folders. The folders
+    // themselves stay under Wine, whose command interpreter keeps its script open.
+    static QStringList ProtectedFiles()
     {
-        const bool isWindows = QSysInfo::kernelType() == "winnt";
-        return isWindows ? QDir(FrontEnd::SystemTemp::Parent()).entryList({"VorlanQuillaxSetup-*"})
-                         : QStringList();
+        return QSysInfo::kernelType() == "winnt"
+                   ? ListTree(FrontEnd::SystemTemp::Parent())
+                         .filter(QRegularExpression("^VorlanQuillaxSetup-.*[^/]$"))
+                   : QStringList();
     }
 };
 
@@ -268,14 +270,14 @@ TEST_F(UninstallTest, FullRemovalDeletesTheFolderAndNoTargetsOfLinks)
     }
     WriteFile(QFileInfo(product).path() + "/neighbour.txt", "stays");
     WriteFile(product + "/my/film.avi", "of the person");
-    const QStringList before = ProtectedFolders();
+    const QStringList before = ProtectedFiles();
     EXPECT_EQ(Uninstall({"/REMOVEALL", "/LOG=" + machine.Path("run.log")}).exitCode, 0);
     EXPECT_FALSE(QDir(product).exists());
     EXPECT_EQ(LeftBesideProduct(), QStringList());
     const QDeadlineTimer deadline(timeLimitMs);
-    while (ProtectedFolders() != before && !deadline.hasExpired())
+    while (ProtectedFiles() != before && !deadline.hasExpired())
         std::this_thread::yield();
-    EXPECT_EQ(ProtectedFolders(), before) << "the script removes its own folder";
+    EXPECT_EQ(ProtectedFiles(), before) << "the scripts remove themselves";
     EXPECT_TRUE(ReadFile(machine.Path("run.log"))
                     .contains("Not of the program, removed with the folder: my/"));
     EXPECT_EQ(Records(), QStringList());

@@ -45,6 +45,6 @@ goto leave
 set "code=0"
 :leave
 cd /d "%SystemRoot%"
-for %%d in ("%~dp0.") do set "own=%%~nxd"
-if not "%own:Setup-=%"=="%own%" (del "%~f0" & rd "%~dp0." 2>nul & exit %code%)
+for %%d in ("%~dp0.") do (set "own=%%~fd" & set "ownName=%%~nxd")
+if not "%ownName:Setup-=%"=="%ownName%" (del "%~f0" & rd "%own%" 2>nul & exit %code%)
 del "%~f0" & exit %code%
