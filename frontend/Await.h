@@ -4,6 +4,8 @@
 #include <QFutureWatcher>
 #include <QtConcurrent>
 
+#include <type_traits>
+
 namespace Vorlan::FrontEnd
 {
 
@@ -18,7 +20,8 @@ auto Await(Function function)
     QObject::connect(&watcher, &QFutureWatcher<Result>::finished, &waiting, &QEventLoop::quit);
     watcher.setFuture(QtConcurrent::run(function));
     waiting.exec();
-    return watcher.result();
+    if constexpr (!std::is_void_v<Result>)
+        return watcher.result();
 }
 
 } // namespace Vorlan::FrontEnd

@@ -1,5 +1,6 @@
 #include "InstallRun.h"
 
+#include "Await.h"
 #include "ElevatedRun.h"
 #include "FolderUpdate.h"
 #include "FoundInstallations.h"
@@ -106,9 +107,9 @@ InstallResult InstallWith(
     mediator.SetSettings(settings);
     mediator.OnLocaleChanged(settings.locale);
     FolderUpdate update(settings.installDir, FormerFolder(settings), mediator.ListPlacedFiles());
-    const QString stuck = update.Begin();
+    const QString stuck = Await([&update] { return update.Begin(); });
     if (!stuck.isEmpty())
-        return {FileInTheWay(stuck), update.End()};
+        return {FileInTheWay(stuck), Await([&update] { return update.End(); })};
     const auto watch = [&](const RunEvent& event)
     {
         const auto* stage = std::get_if<Events::ProcessStarted>(&event);
@@ -119,10 +120,10 @@ InstallResult InstallWith(
     const Outcome outcome = RunToTheEnd(mediator, &InstallerMediator::StartInstallation, watch);
     if (outcome.code == ExitCode::Done)
     {
-        update.Complete();
+        Await([&update] { update.Complete(); });
         UninstallEntryExtras::Write(settings.scope, settings.installDir);
     }
-    return {outcome, update.End()};
+    return {outcome, Await([&update] { return update.End(); })};
 }
 
 std::optional<InstallResult> InstallElevated(InstallerMediator& mediator,

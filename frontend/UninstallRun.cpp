@@ -1,5 +1,6 @@
 #include "UninstallRun.h"
 
+#include "Await.h"
 #include "ElevatedRun.h"
 #include "FolderRemoval.h"
 #include "KeptFiles.h"
@@ -47,6 +48,12 @@ QStringList FilesAtTheTop(const QStringList& paths)
             files += path;
     }
     return files;
+}
+
+QString KeepFilesAtTheTop(const QString& folder, const PlacedFiles& placed)
+{
+    const QStringList foreign = SortContent(folder, placed).foreign;
+    return KeepFiles(folder, FilesAtTheTop(foreign), KeepingPlace::Inside);
 }
 
 // Windows keeps a folder that is the current one of a process.
@@ -101,8 +108,7 @@ UninstallResult UninstallWith(InstallerMediator& mediator, const QString& folder
     if (!options.ignoreMutex) // else a setup may be running, which keeps files there
         ReturnKeptFiles(folder, KeepingPlace::Beside);
     const PlacedFiles placed = FilesToRemove(mediator, folder);
-    const QString stuck =
-        KeepFiles(folder, FilesAtTheTop(SortContent(folder, placed).foreign), KeepingPlace::Inside);
+    const QString stuck = Await([&] { return KeepFilesAtTheTop(folder, placed); });
     if (!stuck.isEmpty())
     {
         const QString error = QCoreApplication::translate("Uninstaller",
@@ -125,7 +131,7 @@ UninstallResult UninstallWith(InstallerMediator& mediator, const QString& folder
         PlacedFiles::RemoveFrom(folder);
     if (outcome.code != ExitCode::Done)
         return {outcome, {}};
-    return RemoveFiles(folder, placed, options.removeAll);
+    return Await([&] { return RemoveFiles(folder, placed, options.removeAll); });
 }
 
 std::optional<UninstallResult> UninstallElevated(CommandLine options, const EventSink& sink)
@@ -138,7 +144,7 @@ std::optional<UninstallResult> UninstallElevated(CommandLine options, const Even
 
 UninstallResult RemoveCopy(const QString& folder, const PlacedFiles& placed)
 {
-    return RemoveFiles(folder, placed, false);
+    return Await([&] { return RemoveFiles(folder, placed, false); });
 }
 
 } // namespace Vorlan::FrontEnd

@@ -185,18 +185,20 @@ void UninstallWizard::Uninstall()
 
 void UninstallWizard::DeleteCopy()
 {
+    progress->Begin(0);
+    GoTo(Step::Running, progress);
     const UninstallResult result = RemoveCopy(folder, placed);
     runOutcome = result.outcome;
-    ShowResult(result);
+    ShowResult(result, QT_TRANSLATE_NOOP("Wizard", "The copy of %1 was deleted"));
 }
 
-void UninstallWizard::ShowResult(const UninstallResult& result)
+void UninstallWizard::ShowResult(const UninstallResult& result, const char* copyHeading)
 {
     progress->End();
     ResultTexts shown;
     shown.isDone = runOutcome.code == ExitCode::Done;
-    if (shown.isDone && step == Step::OtherFolder)
-        shown.headingText = QT_TRANSLATE_NOOP("Wizard", "The copy of %1 was deleted");
+    if (shown.isDone && copyHeading != nullptr)
+        shown.headingText = copyHeading;
     else if (shown.isDone)
     {
         shown.headingText = QT_TRANSLATE_NOOP("Wizard", "%1 was uninstalled");

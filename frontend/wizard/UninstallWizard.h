@@ -50,7 +50,8 @@ private:
     bool NeedsRights() const;
     void Uninstall();
     void DeleteCopy();
-    void ShowResult(const UninstallResult& result);
+    // `copyHeading`: of the page after the removal of a copy; null for that of the installation.
+    void ShowResult(const UninstallResult& result, const char* copyHeading = nullptr);
 
     QString folder;
     OwnFolder own;

@@ -81,7 +81,8 @@ TEST_F(UninstallWindowTest, OfACopyOnlyItsOwnFilesAreDeletedAndTheInstallationSt
     const QStringList closed = PressButtons(copy, {"no"});
     EXPECT_EQ(closed, QStringList({"otherFolderPage &Delete 8 files", "1602"}));
     QFile::remove(copy + "/uninstall-by-buttons.exe");
-    const QStringList seen = PressButtons(copy);
+    QStringList seen = PressButtons(copy);
+    seen.removeAll("progressPage"); // short
     EXPECT_EQ(seen, QStringList({"otherFolderPage &Delete 8 files",
                         "resultPage thesis.txt uninstall-by-buttons.exe", "0"}));
     EXPECT_EQ(ListTree(copy), QStringList({"thesis.txt", "uninstall-by-buttons.exe"}));
