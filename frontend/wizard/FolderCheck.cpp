@@ -97,6 +97,12 @@ FolderCheck::~FolderCheck()
 
 void FolderCheck::Begin(const QString& folder)
 {
+    if (!isRunning || folder != latest)
+        BeginAnew(folder);
+}
+
+void FolderCheck::BeginAnew(const QString& folder)
+{
     latest = folder;
     ++latestNumber;
     isRunning = true;

@@ -40,8 +40,10 @@ public:
     explicit FolderCheck(Examine examine);
     ~FolderCheck() override;
 
-    // Begins to examine this folder; results for earlier ones are dropped.
+    // Begins to examine this folder, unless that is running; results for earlier ones are dropped.
     void Begin(const QString& folder);
+    // Begins in any case, because the rules of the examination have changed.
+    void BeginAnew(const QString& folder);
     bool IsRunning() const { return isRunning; }
     // Of the latest folder, if nothing is running.
     const FolderState& State() const { return state; }

@@ -113,13 +113,20 @@ void FolderChooser::Browse()
 
 void FolderChooser::SetRights(Rights given)
 {
-    *rights = given;
-    Examine();
+    if (rights->exchange(given) == given)
+        return;
+    check.BeginAnew(Folder());
+    ShowExamining();
 }
 
 void FolderChooser::Examine()
 {
     check.Begin(Folder());
+    ShowExamining();
+}
+
+void FolderChooser::ShowExamining()
+{
     patience.start();
     setProperty("isExamining", true);
     ShowTarget();

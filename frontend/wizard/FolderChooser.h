@@ -49,6 +49,7 @@ public:
 private:
     void Browse();
     void ShowTarget();
+    void ShowExamining();
     void ShowState();
     void ShowSpace();
 
