@@ -1,8 +1,8 @@
 // Uninstalls the product in its own folder with the front end's windows, as a person who presses
 // the main button of each page; Cancel, where the first argument is "no" or the page has no such
-// button. Programs that are in the way are ended. With "everything" the whole folder is removed; with
-// "install" or "passive" the payload in its folder is installed for all users instead. Prints a line
-// for each page, with the files that it lists, and for each box, and at last the exit code.
+// button. Programs that are in the way are ended. With "everything" the whole folder is removed;
+// with "install" or "passive" the payload in its folder is installed for all users instead. Prints
+// a line for each page, with the files that it lists, and for each box, and at last the exit code.
 #include "PassiveRun.h"
 #include "WindowedRun.h"
 #include "wizard/Page.h"
