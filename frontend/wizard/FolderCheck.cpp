@@ -4,14 +4,13 @@
 #include "base/InstallationSettings.h"
 #include "wizard/Texts.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QFileInfo>
 #include <QMutex>
 #include <QRegularExpression>
+#include <QThreadPool>
+#include <QtConcurrent>
 
-#include <system_error>
-#include <thread>
 #include <utility>
 
 namespace Vorlan::FrontEnd
@@ -20,6 +19,19 @@ namespace
 {
 
 constexpr int mostExaminations = 4;
+constexpr int mostThreads = 100; // of all objects
+
+// Never destroyed: the end of the program does not wait for a thread that is held by the disk.
+QThreadPool& Threads()
+{
+    static QThreadPool* const threads = []
+    {
+        auto* pool = new QThreadPool;
+        pool->setMaxThreadCount(mostThreads);
+        return pool;
+    }();
+    return *threads;
+}
 
 // The drive of the path that the system does not have; empty if there is none.
 QString MissingDrive(const QString& path)
@@ -118,22 +130,12 @@ void FolderCheck::WhenKnown(std::function<void(const FolderState&)> function)
     waiting = std::move(function);
 }
 
-// The thread is not waited for: it may be held by the disk when the program ends.
 void FolderCheck::StartExamination()
 {
     ++running;
     startedNumber = latestNumber;
-    const auto work = [relay = relay, folder = latest, number = latestNumber]
-    { relay->Send(number, relay->examine(folder)); };
-    try
-    {
-        std::thread(work).detach();
-    }
-    catch (const std::system_error& error)
-    {
-        qWarning() << "The folder is examined without a thread:" << error.what();
-        work();
-    }
+    QtConcurrent::run(&Threads(), [relay = relay, folder = latest, number = latestNumber]
+        { relay->Send(number, relay->examine(folder)); });
 }
 
 void FolderCheck::Take(quint64 number, const FolderState& result)
