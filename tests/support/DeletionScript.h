@@ -1,4 +1,4 @@
-// The script that removes the product's folder, run by hand.
+// The script that deletes what was moved out of the product's folder, run by hand.
 #pragma once
 
 #include "support/ChildProgram.h"
@@ -11,8 +11,8 @@
 
 #include <gtest/gtest.h>
 
-// A copy of the script with a system and a user of its own below this folder, so that its guards
-// never meet a real folder.
+// A copy of the script in this folder, with a program of its own in place of that with which it
+// waits.
 class DeletionScript
 {
 public:
@@ -38,8 +38,6 @@ public:
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("VORLAN_REMOVAL", identity);
-        environment.insert("HOME", root + "Users/me");
-        environment.insert("TMPDIR", root + "Temp");
         environment.insert("TEST_ROOT", QDir::toNativeSeparators(root));
         environment.insert("TEST_FOLDER", folder);
         if (!isWindows)
@@ -75,20 +73,6 @@ private:
     // Wine sets SystemRoot anew in every process.
     static constexpr char batchFile[] =
         "@set \"SystemRoot=%TEST_ROOT%Windows\"\r\n"
-        "@set \"ProgramFiles=%TEST_ROOT%Program Files\"\r\n"
-        "@set \"ProgramFiles(x86)=%TEST_ROOT%Program Files\"\r\n"
-        "@set \"ProgramW6432=%TEST_ROOT%Program Files\"\r\n"
-        "@set \"CommonProgramFiles=\"\r\n"
-        "@set \"CommonProgramFiles(x86)=\"\r\n"
-        "@set \"CommonProgramW6432=\"\r\n"
-        "@set \"ProgramData=%TEST_ROOT%ProgramData\"\r\n"
-        "@set \"TEMP=%TEST_ROOT%Temp\"\r\n"
-        "@set \"TMP=%TEST_ROOT%Temp\"\r\n"
-        "@set \"PUBLIC=%TEST_ROOT%Users\\Public\"\r\n"
-        "@set \"USERPROFILE=%TEST_ROOT%Users\\me\"\r\n"
-        "@set \"APPDATA=%TEST_ROOT%Users\\me\\AppData\\Roaming\"\r\n"
-        "@set \"LOCALAPPDATA=%TEST_ROOT%Users\\me\\AppData\\Local\"\r\n"
-        "@set \"OneDrive=\"\r\n"
         "@call \"%TEST_ROOT%script.bat\" 0 \"%TEST_FOLDER%\" false\r\n";
 
     const QString root; // ends with a separator
